@@ -1,0 +1,20 @@
+// The one header that a host includes.
+#pragma once
+
+#include "geometry/DPoint.h"
+#include "host/BarText.h"
+#include "host/HostLink.h"
+#include "host/StirrupText.h"
+#include "platform/Arrays.h"
+#include "platform/CString.h"
+#include "platform/Gbk.h"
+#include "platform/Numbers.h"
+#include "platform/StringList.h"
+#include "rankers/BeamLevelRanker.h"
+#include "rankers/BeamNameRanker.h"
+#include "rankers/BeamSizeRanker.h"
+#include "rankers/ChaBiaoRanker.h"
+#include "rankers/GuJinRanker.h"
+#include "rankers/HitnessRanker.h"
+#include "tables/GuJinBiao.h"
+#include "tables/SteelBiao.h"

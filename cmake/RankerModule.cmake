@@ -1,0 +1,20 @@
+# The module: one shared library made of its rooms.
+add_library(RankerModule SHARED
+  geometry/DPoint.cpp
+  host/BarText.cpp
+  host/HostLink.cpp
+  host/StirrupText.cpp
+  rankers/BarOrder.cpp
+  rankers/BeamLevelRanker.cpp
+  rankers/BeamNameRanker.cpp
+  rankers/BeamSizeRanker.cpp
+  rankers/ChaBiaoRanker.cpp
+  rankers/ChaBiaoRankerOrder.cpp
+  rankers/GuJinRanker.cpp
+  rankers/HitnessRanker.cpp
+  rankers/Repeats.cpp
+  tables/GuJinBiao.cpp
+  tables/SteelBiao.cpp)
+target_include_directories(RankerModule PUBLIC
+  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+target_link_libraries(RankerModule PUBLIC platform PRIVATE $<BUILD_INTERFACE:ranker_warnings>)

@@ -1,0 +1,34 @@
+// The order of bar annotations: piece by piece, pieces by their bytes.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+#include "platform/Arrays.h"
+
+namespace BarOrder {
+
+// -1, 0 or 1. "+" and "/" cut a text into pieces and are not told apart; pieces compare as texts,
+// and a text that runs out of pieces first goes first.
+[[nodiscard]] int Compare(std::string_view a, std::string_view b) noexcept;
+
+// A text with its first bytes packed so that most comparisons are of numbers.
+class Key {
+public:
+    explicit Key(std::string_view text) noexcept;
+
+    [[nodiscard]] friend bool operator<(const Key& a, const Key& b) noexcept
+    {
+        return a.m_head != b.m_head ? a.m_head < b.m_head : Compare(a.m_text, b.m_text) < 0;
+    }
+
+private:
+    std::array<std::uint64_t, 2> m_head{};
+    std::string_view m_text;
+};
+
+// Sorts a list, ties in the order in which they stand.
+void Sort(CStringArray& arText);
+
+}  // namespace BarOrder

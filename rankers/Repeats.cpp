@@ -1,0 +1,70 @@
+// One hash pass instead of a search through the list for every text; the outcome is the same.
+#include "rankers/Repeats.h"
+
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+#include "rankers/TextIndex.h"
+
+namespace Repeats {
+namespace {
+
+// Positions of the texts that stay, rising.
+std::vector<int> FirstOccurrences(const CStringArray& arText)
+{
+    std::vector<int> kept;
+    TextIndex seen;
+    for (int i = 0; i < arText.GetSize(); ++i) {
+        // Most repeats of a sorted list are neighbours, found without hashing.
+        if (i > 0 && arText[i] == arText[i - 1]) {
+            continue;
+        }
+        if (seen.Add(arText[i].View())) {
+            kept.push_back(i);
+        }
+    }
+    return kept;
+}
+
+template <class Array>
+void Keep(Array& items, const std::vector<int>& kept)
+{
+    int to = 0;
+    for (const int from : kept) {
+        if (to != from) {
+            items[to] = std::move(items[from]);
+        }
+        ++to;
+    }
+    items.SetSize(to);
+}
+
+}  // namespace
+
+void Remove(CStringArray& arText)
+{
+    Keep(arText, FirstOccurrences(arText));
+}
+
+void Remove(CStringArray& arText, CUIntArray& arStamp)
+{
+    const std::vector<int> kept = FirstOccurrences(arText);
+    arStamp.SetSize(arText.GetSize());
+    Keep(arText, kept);
+    Keep(arStamp, kept);
+}
+
+void Remove(CUIntArray& arNumber)
+{
+    std::unordered_set<unsigned int> seen;
+    std::vector<int> kept;
+    for (int i = 0; i < arNumber.GetSize(); ++i) {
+        if (seen.insert(arNumber[i]).second) {
+            kept.push_back(i);
+        }
+    }
+    Keep(arNumber, kept);
+}
+
+}  // namespace Repeats
