@@ -1,0 +1,18 @@
+// Texts cross between the desk's UTF-8 and the module's GBK bytes here.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "RankerModule.h"
+
+namespace Desk {
+
+// Nothing when the text is not valid UTF-8 or holds a character that GBK lacks.
+[[nodiscard]] std::optional<CString> GbkFromUtf8(std::string_view text);
+
+// Bytes that are no GBK character become U+FFFD.
+[[nodiscard]] std::string Utf8FromGbk(const CString& text);
+
+}  // namespace Desk
