@@ -1,0 +1,126 @@
+// What all rankers share: repeats, virtual steps in their order, copying.
+#include <gtest/gtest.h>
+
+#include <type_traits>
+
+#include "tests/support/FakeHost.h"
+
+namespace {
+
+TEST(RankerFrame, RemovesRepeatsKeepingTheFirst)
+{
+    const std::pair<Texts, Texts> cases[] = {
+        {{}, {}},
+        {{"a"}, {"a"}},
+        {{"A", "B", "A", "C", "B"}, {"A", "B", "C"}},
+        {{"0.3", "0.300", "a", "A", " a", "0.3"}, {"0.3", "0.300", "a", "A", " a"}},
+        {{"", "", "\xB2\xBF", "\xB2", "\xB2\xBF"}, {"", "\xB2\xBF", "\xB2"}},
+    };
+    for (const auto& [before, after] : cases) {
+        CStringArray list;
+        Fill(list, before);
+        HITNESS_RANKER().EliminateSameResult(list);
+        EXPECT_EQ(TextsOf(list), after);
+    }
+}
+
+TEST(RankerFrame, BaseStepsLeaveTheListAlone)
+{
+    CStringArray list;
+    Fill(list, {"b", "a", "b"});
+    HITNESS_RANKER ranker;
+    ranker.ProcessController(list);
+    ranker.SelectFromProject(list);
+    ranker.AdaptResultSize(list);
+    ranker.AddPreferable(list);
+    ranker.SortResult(list);
+    ranker.GuessFromScratch(list);
+    EXPECT_EQ(TextsOf(list), (Texts{"b", "a", "b"}));
+}
+
+// Writes down which virtual steps a run goes through, and how long the list is then.
+template <class Ranker>
+class Traced : public Ranker {
+public:
+    void SelectFromProject(CStringArray& list) override
+    {
+        Ranker::SelectFromProject(list);
+        Note("select", list);
+    }
+    void AdaptResultSize(CStringArray& list) override { Note("adapt", list); }
+    void AddPreferable(CStringArray& list) override { Note("prefer", list); }
+    void SortResult(CStringArray& list) override
+    {
+        Note("sort", list);
+        Ranker::SortResult(list);
+    }
+    void GuessFromScratch(CStringArray& list) override
+    {
+        Ranker::GuessFromScratch(list);
+        Note("guess", list);
+    }
+    Texts m_trace;
+
+private:
+    void Note(const char* step, const CStringArray& list)
+    {
+        m_trace.push_back(step + (" " + std::to_string(list.GetSize())));
+    }
+};
+
+template <class Ranker>
+Texts TraceOf(const Texts& project)
+{
+    FakeHost host;
+    host.m_texts = project;
+    if (!project.empty()) {
+        host.m_types = {"KL"};
+        host.m_names["KL"] = {{1, 5, 9, 13}, project};
+    }
+    Traced<Ranker> ranker;
+    CStringArray list;
+    list.Add("left over");
+    ranker.ProcessController(list);
+    return ranker.m_trace;
+}
+
+TEST(RankerFrame, RunsThroughItsVirtualStepsInOrder)
+{
+    using Name = BEAMNAME_HITNESS_RANKER;
+    using Size = BEAMSIZE_HITNESS_RANKER;
+    using Level = BEAMLEVEL_HITNESS_RANKER;
+    using Bars = CHABIAO_HITNESS_RANKER;
+    using Stirrups = GUJIN_HITNESS_RANKER;
+    const Texts nine = {"2B1", "2B2", "2B3", "2B4", "2B5", "2B6", "2B7", "2B8", "2B9"};
+    EXPECT_EQ(TraceOf<Level>({}), (Texts{"select 0", "guess 3", "sort 3"}));
+    EXPECT_EQ(TraceOf<Level>({"1", "1", "2"}), (Texts{"select 2", "sort 2"}));
+    EXPECT_EQ(TraceOf<Name>({}), (Texts{"select 0", "guess 19", "adapt 19", "sort 16"}));
+    EXPECT_EQ(TraceOf<Name>({"(1)", "(2)"}), (Texts{"select 12", "adapt 12", "sort 12"}));
+    EXPECT_EQ(TraceOf<Size>({}), (Texts{"select 0", "guess 10"}));
+    EXPECT_EQ(TraceOf<Size>({"250x500"}), (Texts{"select 1", "guess 11", "adapt 11", "sort 10"}));
+    EXPECT_EQ(TraceOf<Bars>({}), (Texts{"select 0", "guess 0"}));
+    EXPECT_EQ(TraceOf<Bars>({"2B20"}), (Texts{"select 1", "guess 1"}));
+    EXPECT_EQ(TraceOf<Bars>(nine), (Texts{"select 9"}));
+    EXPECT_EQ(TraceOf<Stirrups>({}), (Texts{"select 0", "guess 10"}));
+    EXPECT_EQ(TraceOf<Stirrups>({"A8@200(2)"}), (Texts{"select 1", "guess 11", "adapt 11", "sort 10"}));
+}
+
+TEST(RankerFrame, Copies)
+{
+    BEAMSIZE_HITNESS_RANKER size;
+    size.m_nHostWord = 5;
+    size.m_nProjectKind = 1;
+    BEAMSIZE_HITNESS_RANKER assigned;
+    assigned = size;
+    EXPECT_EQ(assigned.m_nHostWord, 5);
+    EXPECT_EQ(assigned.m_nProjectKind, 1);
+    EXPECT_EQ(BEAMSIZE_HITNESS_RANKER(size).m_nProjectKind, 1);
+    BEAMLEVEL_HITNESS_RANKER level;
+    level.m_nHostWord = 6;
+    EXPECT_EQ(BEAMLEVEL_HITNESS_RANKER(level).m_nHostWord, 6);
+    EXPECT_FALSE(std::is_copy_constructible_v<BEAMNAME_HITNESS_RANKER>);
+    EXPECT_FALSE(std::is_copy_assignable_v<CHABIAO_HITNESS_RANKER>);
+    EXPECT_FALSE(std::is_copy_constructible_v<GUJIN_HITNESS_RANKER>);
+}
+
+}  // namespace
