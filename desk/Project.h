@@ -24,24 +24,25 @@ struct SteelArea {
 
 // A beam with its annotation texts, in UTF-8; an empty text means that the beam has none.
 struct Beam {
-    std::string name;       // KL1(3)
-    std::string section;    // 300x600
-    std::string elevation;  // -0.050
-    std::string stirrup;    // A8@100/200(2)
-    std::string topBars;    // through bars, 2B25
-    std::string bottomBars; // through bars, 4B25
-    std::string leftEnd;    // complete top bars at the left end, 2B25+2B22
+    std::string name;        // KL1(3)
+    std::string section;     // 300x600
+    std::string elevation;   // -0.050
+    std::string stirrup;     // A8@100/200(2)
+    std::string topBars;     // through bars, 2B25
+    std::string bottomBars;  // through bars, 4B25
+    std::string leftEnd;     // complete top bars at the left end, 2B25+2B22
     std::string rightEnd;
-    std::string erection;   // erection bars between the through bars, 2B12
-    std::string torsion;    // N4B12
-    std::string side;       // G4B12
+    std::string erection;  // erection bars between the through bars, 2B12
+    std::string torsion;   // N4B12
+    std::string side;      // G4B12
     std::string floor;
     int concreteGrade = 30;
-    int seismicClass = 3;   // 1 to 4
+    int seismicClass = 3;  // 1 to 4
     SteelArea area;
     PlanPoint start;
     PlanPoint end;
-    nlohmann::ordered_json source = nlohmann::ordered_json::object();  // as read: unknown keys and key order
+    nlohmann::ordered_json source =
+        nlohmann::ordered_json::object();  // as read: unknown keys and key order
 };
 
 // A wall with its distributed bars.

@@ -1,0 +1,22 @@
+// Files read whole and replaced whole.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace Desk {
+
+// 64 MiB, about a hundred thousand beams: what is longer is taken for no project.
+inline constexpr std::size_t MaxFileSize = std::size_t{64} << 20;
+
+// Throws Failure when the file cannot be read, is a folder, or is longer than MaxFileSize.
+[[nodiscard]] std::string ReadWholeFile(const std::filesystem::path& file);
+
+// Writes a new file in the same folder, syncs it, renames it over the old one and syncs the folder. A
+// symbolic link is followed and stays; the old file's mode stays, and its owner where the system lets us.
+// Throws Failure with the old file as it was when anything fails before the rename, and then removes
+// what it had written. A killed process can leave a file ".beamdesk-..." behind, which nothing reads.
+void ReplaceFile(const std::filesystem::path& file, std::string_view text);
+
+}  // namespace Desk
