@@ -1,0 +1,132 @@
+// Random lists: the rankers, text rules and look-ups against their literal definitions.
+#include <gtest/gtest.h>
+
+#include "tests/rankers/random/MakeTexts.h"
+#include "tests/yardstick/Rules.h"
+
+using namespace Yardstick;
+
+namespace {
+
+// RANDOM_LISTS in the environment asks for another number of trials a test.
+unsigned Trials(unsigned usual)
+{
+    const char* wanted = std::getenv("RANDOM_LISTS");
+    return wanted != nullptr ? static_cast<unsigned>(std::strtoul(wanted, nullptr, 10)) : usual;
+}
+
+// Each trial has its number as seed, so a failure names what to run again.
+template <class Trial>
+void Try(unsigned usual, Trial trial)
+{
+    for (unsigned seed = 1; seed <= Trials(usual); ++seed) {
+        Chance chance(seed);
+        ASSERT_EQ(trial(chance), "") << "seed " << seed;
+    }
+}
+
+// Most lists are short, since a run is what matters; now and then a long one.
+unsigned LengthOf(Chance& chance) { return chance.OneIn(20) ? 120 : chance.Of({2, 9, 12, 30}); }
+
+TEST(RandomLists, Bars)
+{
+    Try(4000, [](Chance& chance) {
+        Case c;
+        c.kind =
+            chance.OneIn(3) ? chance.Bars() : chance.Of({"1", "2", "3", "4", "5.1", "5.2", "2B20", "1 "});
+        c.numbers = {chance.Of({199, 200, 250, 300, 350, 400, 450, 500, 550, 700, 701}),
+                     static_cast<int>(chance.Below(8000)), 0, chance.Of({2, 0})};
+        c.texts = chance.Texts(LengthOf(chance), &Chance::Bars);
+        c.steps = chance.Steps("-pgesnfmhcd0123axzk+");
+        return AgreeBars(c);
+    });
+}
+
+TEST(RandomLists, Stirrups)
+{
+    Try(3000, [](Chance& chance) {
+        Case c;
+        c.kind = chance.Stirrup();
+        c.numbers = {chance.Of({200, 250, 300, 350, 400, 600, 220}), chance.Of({0, 1, 2, 3, 4, 5}),
+                     chance.Of({20, 25, 30, 35, 40, 22}), chance.Of({2, 0})};
+        c.texts = chance.Texts(LengthOf(chance), &Chance::Stirrup);
+        c.steps = chance.Steps("-pgesc0axzk+");
+        return AgreeStirrups(c);
+    });
+}
+
+TEST(RandomLists, Sections)
+{
+    Try(4000, [](Chance& chance) {
+        Case c;
+        c.kind = chance.Section();
+        c.numbers[3] = chance.Of({2, 0});
+        c.texts = chance.Texts(LengthOf(chance), &Chance::Section);
+        c.steps = chance.Steps("-pgesk+");
+        return AgreeSections(c);
+    });
+}
+
+TEST(RandomLists, Elevations)
+{
+    Try(4000, [](Chance& chance) {
+        Case c;
+        c.kind = chance.Elevation();
+        c.texts = chance.Texts(LengthOf(chance), &Chance::Elevation);
+        c.steps = chance.Steps("-pges+");
+        return AgreeElevations(c);
+    });
+}
+
+TEST(RandomLists, Names)
+{
+    Try(3000, [](Chance& chance) {
+        Case c;
+        c.kind = chance.Name();
+        c.numbers[3] = chance.Of({2, 0});
+        c.texts = chance.Texts(LengthOf(chance), &Chance::Name);
+        c.steps = chance.Steps("-pgesqblk+");
+        return AgreeNames(c);
+    });
+}
+
+TEST(RandomLists, FreeSerials)
+{
+    Try(4000, [](Chance& chance) {
+        std::vector<unsigned> serials;
+        const unsigned range = chance.OneIn(2) ? 12 : 60;
+        for (unsigned i = chance.Below(15); i > 0; --i) {
+            serials.push_back(chance.OneIn(20) ? static_cast<unsigned>(chance.AnyNumber())
+                                               : chance.Below(range));
+        }
+        return AgreeFreeSerials(serials);
+    });
+}
+
+TEST(RandomTexts, Rules)
+{
+    Try(20000, [](Chance& chance) {
+        constexpr std::array makers{&Chance::Bars, &Chance::Stirrup, &Chance::Section, &Chance::Elevation,
+                                    &Chance::Name};
+        const std::string a = (chance.*makers[chance.Below(makers.size())])();
+        const std::string b = (chance.*makers[chance.Below(makers.size())])();
+        return AgreeRules(a, b);
+    });
+}
+
+TEST(RandomLookUps, Tables)
+{
+    Try(3000, [](Chance& chance) {
+        Case c;
+        c.kind = chance.Of({"2B16", "2B20", "2B25", "4B25", "2B12", "", "2B99"});
+        c.numbers = {chance.OneIn(10) ? chance.AnyNumber() : 150 + 25 * static_cast<int>(chance.Below(25)),
+                     chance.OneIn(10) ? chance.AnyNumber() : static_cast<int>(chance.Below(8500)),
+                     chance.Of({20, 25, 30, 35, 40, 22}), chance.Of({0, 1, 2, 3, 4, 5})};
+        c.texts = chance.OneIn(3) ? chance.Texts(10, &Chance::Bars) : List();
+        c.steps = "tadxg0";
+        std::shuffle(c.steps.begin(), c.steps.end(), std::mt19937(chance.Below(1000)));
+        return AgreeLookUps(c, chance.Of({0, 1, 1, 1, 1, 2}));
+    });
+}
+
+}  // namespace
