@@ -41,8 +41,8 @@ struct Beam {
     SteelArea area;
     PlanPoint start;
     PlanPoint end;
-    nlohmann::ordered_json source =
-        nlohmann::ordered_json::object();  // as read: unknown keys and key order
+    // As read from the file: it keeps unknown keys and the order of keys until the next save.
+    nlohmann::ordered_json source = nlohmann::ordered_json::object();
 };
 
 // A wall with its distributed bars.
@@ -51,6 +51,8 @@ struct Wall {
     int thickness = 0;           // mm
     std::string horizontalBars;  // A10@150
     std::string verticalBars;    // A10@150
+    PlanPoint start;
+    PlanPoint end;
     nlohmann::ordered_json source = nlohmann::ordered_json::object();
 };
 

@@ -35,9 +35,10 @@ struct NumberField {
     int most;
 };
 
+template <class Owner>
 struct PointField {
     const char* key;
-    PlanPoint Beam::*member;
+    PlanPoint Owner::*member;
 };
 
 constexpr TextField<Project> ProjectTexts[] = {{"title", &Project::title, false}};
@@ -58,7 +59,7 @@ constexpr NumberField<SteelArea> AreaNumbers[] = {
     {"leftEnd", &SteelArea::leftEnd, 0, 1'000'000},
     {"rightEnd", &SteelArea::rightEnd, 0, 1'000'000},
 };
-constexpr PointField BeamPoints[] = {{"start", &Beam::start}, {"end", &Beam::end}};
+constexpr PointField<Beam> BeamPoints[] = {{"start", &Beam::start}, {"end", &Beam::end}};
 
 constexpr TextField<Wall> WallTexts[] = {
     {"name", &Wall::name},
@@ -66,6 +67,7 @@ constexpr TextField<Wall> WallTexts[] = {
     {"verticalBars", &Wall::verticalBars},
 };
 constexpr NumberField<Wall> WallNumbers[] = {{"thickness", &Wall::thickness, 0, 10'000}};
+constexpr PointField<Wall> WallPoints[] = {{"start", &Wall::start}, {"end", &Wall::end}};
 
 std::string Kind(const Json& value)
 {
@@ -228,6 +230,25 @@ private:
         }
     }
 
+    template <class Owner, std::size_t Count>
+    void ReadPoints(const Json& source, const Path& path, const PointField<Owner> (&fields)[Count],
+                    Owner& owner) const
+    {
+        for (const PointField<Owner>& field : fields) {
+            const Json* const value = Member(source, field.key);
+            if (value == nullptr) {
+                continue;
+            }
+            const std::optional<PlanPoint> point = Point(*value);
+            if (!point) {
+                FailAt(path / field.key, std::string("\"") + field.key +
+                                             "\" must be two coordinates in mm up to 1000000000, as in "
+                                             "[0, 8400]");
+            }
+            owner.*field.member = *point;
+        }
+    }
+
     void RequireName(const Json& source, const Path& path, const char* what) const
     {
         RequireObject(source, path, what);
@@ -251,18 +272,7 @@ Beam Reader::ReadItem(Json&& source, const Path& path) const
         RequireObject(*area, path / "area", "\"area\"");
         ReadNumbers(*area, path / "area", AreaNumbers, beam.area);
     }
-    for (const PointField& field : BeamPoints) {
-        if (const Json* const value = Member(source, field.key)) {
-            const std::optional<PlanPoint> point = Point(*value);
-            if (!point) {
-                FailAt(path / field.key,
-                       std::string("\"") + field.key +
-                           "\" must be two coordinates in mm, such as [0, 8400], none beyond "
-                           "1000000000");
-            }
-            beam.*field.member = *point;
-        }
-    }
+    ReadPoints(source, path, BeamPoints, beam);
     beam.source = std::move(source);
     return beam;
 }
@@ -274,6 +284,7 @@ Wall Reader::ReadItem(Json&& source, const Path& path) const
     RequireName(source, path, "a wall");
     ReadTexts(source, path, WallTexts, wall);
     ReadNumbers(source, path, WallNumbers, wall);
+    ReadPoints(source, path, WallPoints, wall);
     wall.source = std::move(source);
     return wall;
 }
@@ -310,10 +321,11 @@ Json Coordinate(double value)
     return whole ? Json(static_cast<std::int64_t>(value)) : Json(value);
 }
 
-void WritePoints(const Beam& beam, Json& source)
+template <class Owner, std::size_t Count>
+void WritePoints(const Owner& owner, const PointField<Owner> (&fields)[Count], Json& source)
 {
-    for (const PointField& field : BeamPoints) {
-        const PlanPoint& point = beam.*field.member;
+    for (const PointField<Owner>& field : fields) {
+        const PlanPoint& point = owner.*field.member;
         const Json* const present = Member(source, field.key);
         const PlanPoint told = present != nullptr ? Point(*present).value_or(PlanPoint()) : PlanPoint();
         if (told.x != point.x || told.y != point.y) {
@@ -333,7 +345,7 @@ Json Written(const Beam& beam)
     if (!area.empty()) {
         source["area"] = std::move(area);
     }
-    WritePoints(beam, source);
+    WritePoints(beam, BeamPoints, source);
     return source;
 }
 
@@ -343,6 +355,7 @@ Json Written(const Wall& wall)
     source["name"] = wall.name;
     WriteTexts(wall, WallTexts, source);
     WriteNumbers(wall, WallNumbers, source);
+    WritePoints(wall, WallPoints, source);
     return source;
 }
 
