@@ -157,34 +157,37 @@ std::string FirstDifference(const Case& c, Module& module, Plain& plain, Player 
     return "";
 }
 
+template <class Table>
+Table& FilledTable()
+{
+    static Table table = [] {
+        Table filled;
+        filled.InintOnce();
+        return filled;
+    }();
+    return table;
+}
+
 inline std::string AgreeBars(const Case& c)
 {
-    SteelBiao table;
-    SteelTable plainTable;
-    table.InintOnce();
-    plainTable.InintOnce();
     CHABIAO_HITNESS_RANKER module;
     BarRanker plain;
     module.m_nFocusIndex = plain.m_nFocusIndex;
     module.m_nProjectKind = plain.m_nProjectKind = c.numbers[3];
-    module.SetPara(c.numbers[0], c.numbers[1], &table, c.kind.c_str());
-    plain.SetPara(c.numbers[0], c.numbers[1], &plainTable, c.kind);
+    module.SetPara(c.numbers[0], c.numbers[1], &FilledTable<SteelBiao>(), c.kind.c_str());
+    plain.SetPara(c.numbers[0], c.numbers[1], &FilledTable<SteelTable>(), c.kind);
     return FirstDifference(c, module, plain,
                            [&](auto& ranker, auto& list, char step) { PlayBars(ranker, list, step, c); });
 }
 
 inline std::string AgreeStirrups(const Case& c)
 {
-    GuJinBiao table;
-    StirrupTable plainTable;
-    table.InintOnce();
-    plainTable.InintOnce();
     GUJIN_HITNESS_RANKER module;
     StirrupRanker plain;
     module.m_nFocusIndex = plain.m_nFocusIndex;
     module.m_nProjectKind = plain.m_nProjectKind = c.numbers[3];
-    module.SetPara(c.numbers[0], c.numbers[1], c.numbers[2], &table);
-    plain.SetPara(c.numbers[0], c.numbers[1], c.numbers[2], &plainTable);
+    module.SetPara(c.numbers[0], c.numbers[1], c.numbers[2], &FilledTable<GuJinBiao>());
+    plain.SetPara(c.numbers[0], c.numbers[1], c.numbers[2], &FilledTable<StirrupTable>());
     return FirstDifference(c, module, plain, [&](auto& ranker, auto& list, char step) {
         PlayStirrups(ranker, list, step, c);
     });
