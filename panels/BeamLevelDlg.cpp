@@ -1,0 +1,160 @@
+// The elevation panel: its keys, its one box and its confirmation.
+#include "panels/BeamLevelDlg.h"
+
+#include "panels/BeamLevelTemplate.h"
+#include "panels/LevelText.h"
+#include "platform/DataExchange.h"
+
+using namespace BeamLevelTemplate;
+
+namespace {
+
+constexpr int HostMode = 2;
+constexpr int LevelCode = 7;
+
+}  // namespace
+
+BEGIN_MESSAGE_MAP(CBeamLevelDlg, CDialog)
+ON_WM_RBUTTONDOWN()
+ON_WM_KEYDOWN()
+ON_BN_CLICKED(Button1, &CBeamLevelDlg::OnButton1)
+ON_BN_CLICKED(Button2, &CBeamLevelDlg::OnButton2)
+ON_BN_CLICKED(Button3, &CBeamLevelDlg::OnButton3)
+ON_BN_CLICKED(Button4, &CBeamLevelDlg::OnButton4)
+ON_BN_CLICKED(Button5, &CBeamLevelDlg::OnButton5)
+ON_BN_CLICKED(Button6, &CBeamLevelDlg::OnButton6)
+ON_BN_CLICKED(Button7, &CBeamLevelDlg::OnButton7)
+ON_BN_CLICKED(Button8, &CBeamLevelDlg::OnButton8)
+ON_BN_CLICKED(Button9, &CBeamLevelDlg::OnButton9)
+ON_BN_CLICKED(Button0, &CBeamLevelDlg::OnButton0)
+ON_BN_CLICKED(ButtonDot, &CBeamLevelDlg::OnButtonDot)
+ON_BN_CLICKED(ButtonBrack, &CBeamLevelDlg::OnButtonBrack)
+ON_BN_CLICKED(ButtonNegative, &CBeamLevelDlg::OnButtonNegative)
+ON_BN_CLICKED(ButtonBack, &CBeamLevelDlg::OnButtonBack)
+ON_BN_CLICKED(ButtonClean, &CBeamLevelDlg::OnButtonClean)
+END_MESSAGE_MAP()
+
+CBeamLevelDlg::CBeamLevelDlg(CWnd* pParent) : CDialog(Shape, pParent) {}
+
+CBeamLevelDlg::~CBeamLevelDlg() = default;
+
+void CBeamLevelDlg::DoDataExchange(CDataExchange* pDX)
+{
+    DDX_Control(pDX, LevelEdit, m_Edit);
+    DDX_Text(pDX, LevelEdit, m_strEditText);
+}
+
+void CBeamLevelDlg::Init() { m_strResult.Empty(); }
+
+void CBeamLevelDlg::SetFocusLevel(CString strText)
+{
+    m_strResult = strText;
+    ShowResult();
+}
+
+void CBeamLevelDlg::AddButNum(CString strText)
+{
+    LevelText::Add(m_strResult, strText);
+    ShowResult();
+}
+
+void CBeamLevelDlg::ShowResult()
+{
+    m_strEditText = m_strResult;
+    UpdateData(FALSE);
+}
+
+void CBeamLevelDlg::TestMoveWnd(CPoint point)
+{
+    PanelFrame::MoveBy(*this, point.x - m_nDownX, point.y - m_nDownY);
+}
+
+BOOL CBeamLevelDlg::PreTranslateMessage(MSG* pMsg)
+{
+    const HWND hWnd = m_hWnd;
+    const bool bOwnPress = PanelFrame::IsOwnRightPress(*pMsg, hWnd);
+    if (pMsg->message == WM_RBUTTONDOWN) {
+        OnRButtonDown(0, pMsg->pt);
+        if (!IsWindow(hWnd)) {
+            return FALSE;
+        }
+    }
+    m_drag.Follow(*this, *pMsg);
+    if (PanelFrame::IsEsc(*pMsg)) {
+        ShowWindow(SW_HIDE);
+        return TRUE;
+    }
+    if (!IsWindow(hWnd)) {
+        return FALSE;
+    }
+    return bOwnPress ? TRUE : CDialog::PreTranslateMessage(pMsg);
+}
+
+void CBeamLevelDlg::OnRButtonDown(UINT nFlags, CPoint point)
+{
+    const HWND hWnd = m_hWnd;
+    ShowWindow(SW_HIDE);
+    UpdateData(TRUE);
+    m_strResult = m_strEditText;
+    if (m_strResult.IsEmpty()) {
+        return;
+    }
+    PanelFrame::Deliver(*this, {m_bToItem, m_pItem, m_bInParent, m_pHostData, HostMode, LevelCode},
+                        m_strResult);
+    if (IsWindow(hWnd)) {
+        CDialog::OnRButtonDown(nFlags, point);
+    }
+}
+
+void CBeamLevelDlg::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
+{
+    if (nChar == VK_ESCAPE) {
+        ShowWindow(SW_HIDE);
+    }
+    CDialog::OnKeyDown(nChar, nRepCnt, nFlags);
+}
+
+void CBeamLevelDlg::OnButton1() { AddButNum("1"); }
+void CBeamLevelDlg::OnButton2() { AddButNum("2"); }
+void CBeamLevelDlg::OnButton3() { AddButNum("3"); }
+void CBeamLevelDlg::OnButton4() { AddButNum("4"); }
+void CBeamLevelDlg::OnButton5() { AddButNum("5"); }
+void CBeamLevelDlg::OnButton6() { AddButNum("6"); }
+void CBeamLevelDlg::OnButton7() { AddButNum("7"); }
+void CBeamLevelDlg::OnButton8() { AddButNum("8"); }
+void CBeamLevelDlg::OnButton9() { AddButNum("9"); }
+void CBeamLevelDlg::OnButton0() { AddButNum("0"); }
+
+void CBeamLevelDlg::OnButtonDot()
+{
+    if (m_strResult.Find('.') < 0) {
+        AddButNum(".");
+    }
+}
+
+void CBeamLevelDlg::OnButtonBrack()
+{
+    if (LevelText::AddBrackets(m_strResult)) {
+        ShowResult();
+    }
+}
+
+void CBeamLevelDlg::OnButtonNegative()
+{
+    if (LevelText::AddMinus(m_strResult)) {
+        ShowResult();
+    }
+}
+
+void CBeamLevelDlg::OnButtonBack()
+{
+    if (LevelText::TakeBack(m_strResult)) {
+        ShowResult();
+    }
+}
+
+void CBeamLevelDlg::OnButtonClean()
+{
+    m_strResult.Empty();
+    ShowResult();
+}
