@@ -17,4 +17,4 @@ add_library(RankerModule SHARED
   tables/SteelBiao.cpp)
 target_include_directories(RankerModule PUBLIC
   $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
-target_link_libraries(RankerModule PUBLIC platform PRIVATE $<BUILD_INTERFACE:ranker_warnings>)
+target_link_libraries(RankerModule PUBLIC platform griditem PRIVATE $<BUILD_INTERFACE:ranker_warnings>)

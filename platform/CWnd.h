@@ -103,11 +103,6 @@ protected:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
 
     static const AFX_MSGMAP* GetThisMessageMap();
-
-private:
-    friend class WindowTable;
-
-    bool m_bMadeWindow = false;
 };
 
 // TRUE while the handle names a window.

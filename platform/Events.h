@@ -6,6 +6,8 @@
 
 // The host's loop, for each event:
 //     if (!AfxPreTranslateMessage(&msg)) DispatchMessage(&msg);
+// Shift is known from its own key events: a host that may have missed one feeds WM_KEYUP or
+// WM_KEYDOWN with VK_SHIFT first.
 
 // Offers the event to its target and then to each parent up to the pop-up or frame that holds it,
 // not beyond, until one answers TRUE. FALSE for a target that is no window.
