@@ -1,0 +1,77 @@
+// What the import makes of one text of a drawing: annotations in the module's grammar, and an account of
+// everything that was filled in or left out on the way.
+#pragma once
+
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Desk::Import {
+
+// The annotations that a beam or a wall can hold.
+enum class Field {
+    Name,
+    Section,
+    Elevation,
+    Stirrup,
+    TopBars,
+    BottomBars,
+    Erection,
+    Torsion,
+    Side,
+    WallBars
+};
+inline constexpr Field AllFields[] = {Field::Name,    Field::Section,    Field::Elevation, Field::Stirrup,
+                                      Field::TopBars, Field::BottomBars, Field::Erection,  Field::Torsion,
+                                      Field::Side,    Field::WallBars};
+[[nodiscard]] std::string_view FieldName(Field field);
+
+struct Annotation {
+    Field field = Field::Name;
+    std::string text;
+
+    bool operator==(const Annotation&) const = default;
+};
+
+// What the text did not say in the module's words, and how it was understood.
+enum class Filled {
+    Grade,       // a grade sign that does not say which grade
+    LostGrade,   // no grade sign where one belongs
+    Legs,        // a stirrup without legs
+    LostMark,    // no "@" between diameter and spacing
+    LostBlank,   // no blank in front of a row part
+    Bracket,     // legs without their closing bracket
+    NameHyphen,  // KL-1
+    NameCase,    // kl1, KL13a: kept, but the module's name rules do not find type or serial
+    RowSum       // a row part that does not add up to the bars
+};
+inline constexpr Filled AllFilled[] = {Filled::Grade,      Filled::LostGrade, Filled::Legs,
+                                       Filled::LostMark,   Filled::LostBlank, Filled::Bracket,
+                                       Filled::NameHyphen, Filled::NameCase,  Filled::RowSum};
+
+enum class Outcome {
+    Read,    // every character of the text found its place
+    InPart,  // some of it is left out; why tells what
+    NoBeam,  // understood, but nothing that a beam or a wall holds; why tells what it is
+    Unread   // not understood; why tells where it fails
+};
+
+struct Reading {
+    Outcome outcome = Outcome::Unread;
+    std::vector<Annotation> annotations;  // each field at most once; empty unless Read or InPart
+    std::set<Filled> filled;
+    std::string why;            // in words; empty when Read
+    std::string contradiction;  // how the text and the kind given beside it disagree; mostly empty
+};
+
+// What to write where a drawing leaves something open.
+struct Choices {
+    char barGrade = 'B';
+    char stirrupGrade = 'A';  // of stirrups and wall bars
+    int legs = 2;             // 0: a stirrup without legs stays unread
+};
+
+[[nodiscard]] std::string FilledWords(Filled filled, const Choices& choices);
+
+}  // namespace Desk::Import
