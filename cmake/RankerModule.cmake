@@ -4,6 +4,20 @@ add_library(RankerModule SHARED
   host/BarText.cpp
   host/HostLink.cpp
   host/StirrupText.cpp
+  panels/BarGroup.cpp
+  panels/BarPiece.cpp
+  panels/BeamGujinDlg.cpp
+  panels/BeamLevelDlg.cpp
+  panels/BeamNameDlg.cpp
+  panels/BeamSecDlg.cpp
+  panels/BeamSteelDlg.cpp
+  panels/BeamSteelDlgEdit.cpp
+  panels/BeamSteelDlgLists.cpp
+  panels/LevelText.cpp
+  panels/ListRows.cpp
+  panels/NameText.cpp
+  panels/PanelFrame.cpp
+  panels/SectionText.cpp
   rankers/BarOrder.cpp
   rankers/BeamLevelRanker.cpp
   rankers/BeamNameRanker.cpp

@@ -3,6 +3,7 @@
 
 #include "griditem/PropertyGridItem.h"
 #include "host/HostLink.h"
+#include "platform/CStatic.h"
 
 namespace PanelFrame {
 
@@ -17,7 +18,12 @@ bool IsEsc(const MSG& msg) { return msg.message == WM_KEYDOWN && msg.wParam == V
 
 bool IsOwnRightPress(const MSG& msg, HWND hWnd)
 {
-    return msg.message == WM_RBUTTONDOWN && msg.hwnd == hWnd;
+    if (msg.message != WM_RBUTTONDOWN || msg.hwnd == hWnd) {
+        return msg.message == WM_RBUTTONDOWN;
+    }
+    const CWnd* const target = CWnd::FromHandle(msg.hwnd);
+    return target != nullptr &&
+           (target->IsWindowEnabled() == FALSE || dynamic_cast<const CStatic*>(target) != nullptr);
 }
 
 void Deliver(const CWnd& panel, const Route& route, CString strText)

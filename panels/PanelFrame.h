@@ -36,8 +36,8 @@ void MoveBy(CWnd& panel, int x, int y);
 
 [[nodiscard]] bool IsEsc(const MSG& msg);
 
-// True for a right press on the window itself, outside every control. A panel that confirmed on it
-// answers TRUE, or else normal dispatch would bring the press, and so the text, a second time.
+// True for a right press that normal dispatch brings to the panel: on its bare surface, a label or a
+// disabled control. A panel that confirmed on it answers TRUE, or else the text would go out twice.
 [[nodiscard]] bool IsOwnRightPress(const MSG& msg, HWND hWnd);
 
 // Where a panel's confirmed text goes and what is said of it.
