@@ -121,6 +121,7 @@ void CBeamSteelDlg::TranslateMessage(MSG* pMsg)
 BOOL CBeamSteelDlg::PreTranslateMessage(MSG* pMsg)
 {
     const HWND window = m_hWnd;
+    const bool ownPress = PanelFrame::IsOwnRightPress(*pMsg, window);
     if (PanelFrame::IsEsc(*pMsg)) {
         ShowWindow(SW_HIDE);
         return TRUE;
@@ -130,7 +131,7 @@ BOOL CBeamSteelDlg::PreTranslateMessage(MSG* pMsg)
     if (!IsWindow(window)) {
         return FALSE;  // the receiver of a confirmed text took the window away, and maybe the panel
     }
-    return PanelFrame::IsOwnRightPress(*pMsg, window) ? TRUE : CDialog::PreTranslateMessage(pMsg);
+    return ownPress ? TRUE : CDialog::PreTranslateMessage(pMsg);
 }
 
 void CBeamSteelDlg::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)

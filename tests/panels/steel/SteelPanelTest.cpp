@@ -1,0 +1,397 @@
+// The bar panel under a user's hands: the ways that people compose, correct, confirm and dismiss.
+#include <gtest/gtest.h>
+
+#include "tests/panels/steel/SteelPanel.h"
+
+namespace {
+
+using namespace BeamSteelTemplate;
+using SteelModel::Delivery;
+using Deliveries = std::vector<Delivery>;
+
+// Rows of the columns, by what they show.
+constexpr int Two = 1, Six = 5;
+constexpr int D12 = 1, D14 = 2, D22 = 6, D25 = 7;
+constexpr int Semicolon = 0, Comma = 1;
+
+TEST(SteelPanel, ComposesAnAnnotationOfTwoDiameters)
+{
+    SteelPanel panel(0);
+    struct Step {
+        int list;
+        int row;
+        const char* text;
+        Texts pieces;
+        bool newPiece;
+    };
+    const Step steps[] = {
+        {SteelnumList, Two, "", {}, true},
+        {SteeldiaList, D25, "2B25 ", {"2B25 "}, false},
+        {SteeldiaList, D22, "2B22 ", {"2B22 "}, false},
+        {SepList, Semicolon, "2B22;", {"2B22;"}, false},
+        {VdiaList, LaterRow, "2B22;", {"2B22;"}, true},
+        {SteelnumList, Two, "2B22;", {"2B22;"}, true},
+        {SteeldiaList, D25, "2B22+2B25 ", {"2B22", "+2B25 "}, false},
+        {SepList, Semicolon, "2B22+2B25;", {"2B22", "+2B25;"}, false},
+    };
+    for (const Step& step : steps) {
+        panel.Pick(step.list, step.row);
+        const SteelModel::State seen = panel.Seen();
+        EXPECT_EQ(seen.texts[0], step.text);
+        EXPECT_EQ(seen.pieces[0], step.pieces);
+        EXPECT_EQ(seen.rows, step.pieces);
+        EXPECT_EQ(seen.newPiece, step.newPiece);
+    }
+    EXPECT_EQ(panel.Seen().row, 1);
+    panel.Confirm();
+    EXPECT_FALSE(panel.m_dlg->IsWindowVisible());
+    EXPECT_EQ(panel.m_deliveries, (Deliveries{{"parent", 1, "2B22+2B25;", 20}}));
+}
+
+TEST(SteelPanel, ListsAreFixedAndTheTypesGoByKind)
+{
+    SteelPanel panel(-1);
+    const CBeamSteelDlg& dlg = *panel.m_dlg;
+    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_SteelnumList), (Texts{"1", "2", "3", "4", "5", "6", "7", "8"}));
+    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_SteelsymList), (Texts{"A", "B", "C", "D"}));
+    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_SteeldiaList),
+              (Texts{"10", "12", "14", "16", "18", "20", "22", "25"}));
+    const Texts counts = {Gbk(u8"无").Text(), "1", "2", "3", "4", "5", "6", "7", "8"};
+    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_UpList), counts);
+    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_DownList), counts);
+    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_SlashList), (Texts{" ", "/", "/", "/", "/", "/", "/", "/", "/"}));
+    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_SepList), (Texts{";", ",", Gbk(u8"无").Text()}));
+    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_VdiaList), (Texts{Gbk(u8"+不同直径").Text(), "   "}));
+    const Texts standard = {Gbk(u8"上部贯通筋").Text(), Gbk(u8"下部贯通筋").Text(),
+                            Gbk(u8"+(架立筋)").Text(),  Gbk(u8"*扭筋").Text(),
+                            Gbk(u8"N扭筋").Text(),      Gbk(u8"G侧面构造筋").Text()};
+    const int first[] = {0, 0, 1, 2, 3, 5, 0, 0, 0, 0};
+    for (const bool toItem : {false, true}) {
+        for (int kind = -1; kind <= 8; ++kind) {
+            Texts types = standard;
+            if (kind >= 5) {
+                types[1] = types[2] = std::string(10, ' ');
+                types[0] = kind == 5   ? Gbk(u8"上部左端筋").Text()
+                           : kind == 6 ? Gbk(u8"上部右端筋").Text()
+                           : kind == 7 ? Gbk(u8"上部架立筋").Text()
+                                       : Gbk(u8"下部纵筋").Text();
+                types.resize(toItem || kind <= 6 ? 1 : 6);
+            }
+            panel.Open(kind, toItem, true);
+            EXPECT_EQ(SteelPanel::RowsOf(dlg.m_SteeltypeList), types) << kind << toItem;
+            EXPECT_EQ(dlg.m_SteeltypeList.GetCurSel(), first[kind + 1]) << kind << toItem;
+        }
+    }
+}
+
+TEST(SteelPanel, ErectionBarsKeepTheirBracketsInPlace)
+{
+    SteelPanel panel(2);
+    panel.Compose(Two, D12, Semicolon);
+    EXPECT_EQ(panel.Text(2), "+(2B12);");
+    panel.Pick(VdiaList, LaterRow);
+    panel.Compose(Two, D14, Semicolon);
+    EXPECT_EQ(panel.Seen().pieces[2], (Texts{"+(2B12", "+2B14);"}));
+    EXPECT_EQ(panel.Text(2), "+(2B12+2B14);");
+    panel.Pick(SepList, Comma);
+    EXPECT_EQ(panel.Text(2), "+(2B12+2B14),");
+    panel.Delete();
+    EXPECT_EQ(panel.Text(2), "+(2B12),");
+    panel.Pick(VdiaList, BlankRow);  // has the same effect without the highlight
+    panel.Compose(Two, D14);
+    EXPECT_EQ(panel.Text(2), "+(2B12+2B14) ");
+    panel.Pick(PosList, 0);
+    panel.Delete();
+    EXPECT_EQ(panel.Text(2), "+(2B14) ");
+    EXPECT_EQ(panel.Seen().rows, Texts{"+(2B14) "});
+    panel.Delete();
+    EXPECT_EQ(panel.Seen().type, -1);
+    panel.Compose(Two, D14);  // without a type nothing happens
+    EXPECT_TRUE(panel.Seen().rows.empty());
+}
+
+TEST(SteelPanel, APieceInTheMiddleHasNoTerminator)
+{
+    SteelPanel panel(0);
+    for (const int diameter : {D12, D22}) {
+        panel.Pick(VdiaList, LaterRow);
+        panel.Compose(Two, diameter, Semicolon);
+    }
+    panel.Pick(PosList, 0);
+    panel.Pick(SepList, Comma);
+    EXPECT_EQ(panel.Text(0), "2B12+2B22;");
+    panel.Pick(VdiaList, LaterRow);
+    panel.Pick(UpList, 2);
+    panel.Pick(DownList, 4);
+    panel.Compose(Six, D25);
+    EXPECT_EQ(panel.Seen().rows, (Texts{"2B12", "+6B25 2/4", "+2B22;"}));
+    EXPECT_EQ(panel.Seen().row, 1);
+    panel.Pick(UpList, 0);  // takes the lower count with it
+    EXPECT_EQ(panel.Seen().lower, 0);
+    EXPECT_EQ(panel.Text(0), "2B12+6B25+2B22;");
+    panel.Delete();
+    EXPECT_EQ(panel.Text(0), "2B12+2B22;");
+    panel.Pick(VdiaList, LaterRow);
+    panel.Compose(Two, D12);  // has it already
+    EXPECT_EQ(panel.Seen().rows.size(), 2U);
+    EXPECT_TRUE(panel.Seen().newPiece);
+    panel.Pick(SteeldiaList, D14);
+    EXPECT_EQ(panel.Text(0), "2B12+2B22+2B14 ");
+}
+
+TEST(SteelPanel, AGroupOpensBehindTheGroupOfTheRememberedRow)
+{
+    SteelPanel panel(-1);
+    panel.Compose(Two, D22);
+    panel.Pick(VdiaList, LaterRow);
+    panel.Compose(Two, D25);
+    panel.Pick(SteeltypeList, BarPiece::SideStructural);
+    panel.Compose(Two, D12);
+    panel.Pick(PosList, 0);
+    panel.Pick(SteeltypeList, BarPiece::NTorsion);
+    EXPECT_EQ(panel.Seen().row, -1);
+    panel.Compose(Six, D14);
+    EXPECT_EQ(panel.Seen().rows, (Texts{"2B22", "+2B25 ", "N6B14 ", "G2B12 "}));
+    EXPECT_EQ(panel.Seen().firstRows, (std::array{0, -1, -1, 2, 3}));
+    // The group's head says which torsion type it is.
+    panel.Pick(SteeltypeList, BarPiece::StarTorsion);
+    EXPECT_EQ(panel.Seen().type, BarPiece::NTorsion);
+    EXPECT_EQ(panel.Seen().row, 2);
+    panel.Delete();
+    EXPECT_EQ(panel.Seen().row, 2);
+    EXPECT_EQ(panel.Seen().type, BarPiece::SideStructural);
+    EXPECT_EQ(panel.Seen().firstRows, (std::array{0, -1, -1, -1, 2}));
+    panel.Confirm();
+    EXPECT_EQ(panel.m_deliveries, (Deliveries{{"parent", 1, "2B22+2B25 ", 20}}));
+}
+
+TEST(SteelPanel, ABlankTypeRowIsNoType)
+{
+    SteelPanel panel(8);
+    panel.Pick(SteelnumList, Two);
+    panel.Pick(SteeltypeList, 2);
+    EXPECT_EQ(panel.Seen().type, -1);
+    EXPECT_EQ(panel.Seen().count, Two);
+    panel.Pick(SteeldiaList, D25);
+    EXPECT_TRUE(panel.Seen().rows.empty());
+    panel.Pick(SteeltypeList, 0);
+    panel.Pick(VdiaList, LaterRow);  // the group is empty: nothing to be later than
+    EXPECT_EQ(panel.Seen().later, -1);
+    panel.Compose(Two, D25, Comma);
+    panel.Pick(SteeltypeList, BarPiece::StarTorsion);
+    panel.Compose(Two, D12, Semicolon);
+    panel.Pick(SteeltypeList, BarPiece::SideStructural);
+    panel.Compose(Six, D12);
+    panel.Pick(UpList, 2);
+    panel.Pick(DownList, 4);
+    panel.Confirm();
+    EXPECT_EQ(panel.m_deliveries, Deliveries{});  // a whole annotation does not go to a parent
+    panel.m_dlg->m_bInParent = false;
+    panel.m_dlg->ShowWindow(SW_SHOW);
+    panel.Confirm();
+    EXPECT_EQ(panel.m_deliveries,
+              (Deliveries{{"host", 2, "2B25", 0}, {"host", 0, "*2B12", 8}, {"host", 0, "G6B12 2/4 ", 9}}));
+}
+
+TEST(SteelPanel, AnItemGetsOneStrippedText)
+{
+    SteelPanel panel(2, true);
+    panel.Compose(Two, D12, Semicolon);
+    panel.Confirm();
+    panel.Open(7, true, true);
+    panel.Compose(Six, D25, Semicolon);
+    panel.Confirm();
+    panel.Open(6, true, true);
+    panel.Compose(Six, D25, Semicolon);
+    panel.Pick(UpList, 2);
+    panel.Pick(DownList, 4);
+    panel.Confirm();
+    panel.Open(3, true, true);
+    panel.Confirm();  // an empty text is a text
+    panel.Open(-1, true, true);
+    panel.Compose(Six, D25);
+    panel.Confirm();  // all groups are no single field
+    EXPECT_EQ(panel.m_deliveries, (Deliveries{{"item", 0, "2B12", 0},
+                                              {"item", 0, "6B25", 0},
+                                              {"item", 0, "6B25 2/4;", 0},
+                                              {"item", 0, "", 0}}));
+}
+
+TEST(SteelPanel, NothingGoesOutWithoutRowsReceiverOrConfirmation)
+{
+    SteelPanel panel(0);
+    panel.Confirm();
+    EXPECT_FALSE(panel.m_dlg->IsWindowVisible());
+    panel.Open(0, true, true);
+    panel.Compose(Two, D12);
+    panel.m_dlg->m_pItem = nullptr;
+    panel.Confirm();
+    panel.Open(0, false, true);
+    panel.Compose(Two, D12);
+    EXPECT_TRUE(panel.m_hands.Key(VK_ESCAPE));
+    EXPECT_FALSE(panel.m_dlg->IsWindowVisible());
+    EXPECT_EQ(panel.Text(0), "2B12 ");
+    EXPECT_EQ(panel.m_deliveries, Deliveries{});
+    panel.m_dlg->ShowWindow(SW_SHOW);
+    SetBeamMouseInputFunc(nullptr);
+    panel.Confirm();
+    EXPECT_EQ(panel.Text(0), "2B12 ");
+}
+
+// Wherever the press lands its text goes out once.
+TEST(SteelPanel, ARightPressAnywhereConfirmsOnce)
+{
+    SteelPanel panel(0);
+    panel.Compose(Two, D12);
+    CRect rect;
+    panel.m_dlg->GetWindowRect(&rect);
+    std::size_t presses = 0;
+    for (int y = rect.top + 1; y < rect.bottom; y += 9) {
+        for (int x = rect.left + 1; x < rect.right; x += 7) {
+            panel.m_dlg->ShowWindow(SW_SHOW);
+            panel.m_hands.RightClick(CPoint(x, y));
+            ASSERT_EQ(panel.m_deliveries.size(), ++presses) << x << ',' << y;
+        }
+    }
+    for (const CWnd* child = panel.m_dlg->GetTopWindow(); child != nullptr;
+         child = child->GetNextWindow()) {
+        panel.m_dlg->ShowWindow(SW_SHOW);
+        Hands::Send({child->m_hWnd, WM_RBUTTONDOWN, 0, 0, 0, {0, 0}});
+        ASSERT_EQ(panel.m_deliveries.size(), ++presses) << child->GetDlgCtrlID();
+    }
+}
+
+TEST(SteelPanel, IsDraggedByAPressOnAnything)
+{
+    SteelPanel panel(0);
+    CRect before;
+    panel.m_dlg->GetWindowRect(&before);
+    const CPoint from = Hands::OnRow(panel.m_dlg->m_SteelnumList, Two);
+    panel.m_hands.Drag(from, CPoint(from.x + 30, from.y - 5));
+    CRect after;
+    panel.m_dlg->GetWindowRect(&after);
+    EXPECT_EQ(after, CRect(before.left + 30, before.top - 5, before.right + 30, before.bottom - 5));
+    EXPECT_EQ(panel.Seen().count, Two);
+}
+
+// What a receiver may do to the panel while it is being told.
+TEST(SteelPanel, ReceiverMayTakeTheWindowOrThePanelAway)
+{
+    using Takes = void (*)(SteelPanel&);
+    const Takes takes[] = {[](SteelPanel& panel) { panel.m_dlg->DestroyWindow(); },
+                           [](SteelPanel& panel) { panel.m_dlg.reset(); },
+                           [](SteelPanel& panel) { panel.m_frame.DestroyWindow(); }};
+    for (const Takes take : takes) {
+        for (const auto& [toItem, inParent] : {std::pair{true, true}, {false, true}, {false, false}}) {
+            SteelPanel panel(toItem || inParent ? 0 : 7, toItem, inParent);
+            panel.Compose(Two, D12);
+            if (!inParent) {
+                panel.Pick(SteeltypeList, BarPiece::NTorsion);
+                panel.Compose(Two, D14);
+            }
+            panel.m_onDelivery = take;
+            MSG press{panel.m_dlg->m_hWnd, WM_RBUTTONDOWN, 0, 0, 0, {0, 0}};
+            EXPECT_EQ(panel.m_dlg->PreTranslateMessage(&press), FALSE);
+            EXPECT_FALSE(IsWindow(press.hwnd));
+            // All texts of the annotation arrive, also when the panel is gone behind the first.
+            EXPECT_EQ(panel.m_deliveries.size(), inParent ? 1U : 2U);
+        }
+    }
+    SteelPanel panel(7, false, false);
+    panel.Compose(Two, D12);
+    panel.Pick(SteeltypeList, BarPiece::NTorsion);
+    panel.Compose(Two, D14);
+    panel.m_onDelivery = [](SteelPanel& used) { used.Open(0, true, true); };
+    panel.Confirm();
+    EXPECT_EQ(panel.m_deliveries, (Deliveries{{"host", 2, "2B12", 0}, {"host", 0, "N2B14", 8}}));
+    EXPECT_TRUE(panel.m_dlg->IsWindowVisible());
+    EXPECT_TRUE(panel.Seen().rows.empty());
+}
+
+void CallEverything(CBeamSteelDlg& dlg, int odd)
+{
+    dlg.ModiPieceSteel();
+    dlg.IntegratePieceSteel();
+    dlg.SetPosSel(odd);
+    dlg.CoordinateWithType(odd, odd);
+    dlg.CoordinateWithType(0, odd);
+    dlg.SetTypeAndPos(0, 0, odd < 0 ? odd : odd + 100);
+    dlg.m_nPosListSel = odd;
+    BarGroup& group = dlg.m_Group[4];
+    dlg.Insert(group.m_arrPiece, group.m_strSteel, group.m_nFirstRow, 5, "2B12;");
+    dlg.Insert(group.m_arrPiece, group.m_strSteel, group.m_nFirstRow, odd, "2B12;");
+    dlg.AddToTail(group.m_arrPiece, group.m_strSteel, group.m_nFirstRow, odd, "2B12;");
+    dlg.OnSelchangeVdiaList();
+    dlg.OnSelchangePosList();
+    dlg.OnSelchangeSepList();
+    dlg.m_nCurType = odd;
+    dlg.m_nCurPos = odd;
+    dlg.ModiPieceSteel();
+    dlg.m_PosList.SetCurSel(-1);
+    dlg.OnButtonDel();
+}
+
+TEST(SteelPanel, DirectCallsInOddStatesChangeNoText)
+{
+    CBeamSteelDlg bare;
+    bare.OnSelchangeSteeltypeList();
+    bare.Init();
+    BarGroup& group = bare.m_Group[0];
+    bare.AddToTail(group.m_arrPiece, group.m_strSteel, group.m_nFirstRow, 0, "2B12;");
+    for (const int odd : {-1, -7, 6, 1000}) {
+        CallEverything(bare, odd);
+        SteelPanel panel(-1);
+        panel.Compose(Two, D12);
+        panel.Pick(VdiaList, LaterRow);
+        panel.Compose(Two, D14);
+        const SteelModel::State before = panel.Seen();
+        CallEverything(*panel.m_dlg, odd);
+        const SteelModel::State after = panel.Seen();
+        EXPECT_EQ(after.texts, before.texts) << odd;
+        EXPECT_EQ(after.pieces, before.pieces) << odd;
+        EXPECT_EQ(after.rows, before.rows) << odd;
+        EXPECT_EQ(after.rowType, before.rowType) << odd;
+        panel.m_dlg->WashToScratch();
+        EXPECT_TRUE(panel.Seen().rows.empty());
+    }
+    for (const BarGroup& empty : bare.m_Group) {
+        EXPECT_EQ(empty.m_strSteel, "");
+    }
+}
+
+// 9 points: a GBK byte is 6 pixels wide, a row 12 pixels high.
+TEST(SteelPanel, LayoutCutsNothingAndNothingOverlaps)
+{
+    SteelPanel panel(-1);
+    CRect client;
+    panel.m_dlg->GetClientRect(&client);
+    EXPECT_EQ(client, CRect(0, 0, 300, 140));
+    std::vector<CRect> places;
+    for (const CWnd* child = panel.m_dlg->GetTopWindow(); child != nullptr;
+         child = child->GetNextWindow()) {
+        CRect place;
+        child->GetWindowRect(&place);
+        CPoint corner = place.TopLeft();
+        panel.m_dlg->ScreenToClient(&corner);
+        place = CRect(corner.x, corner.y, corner.x + place.Width(), corner.y + place.Height());
+        EXPECT_TRUE(place.left >= 0 && place.top >= 0 && place.right <= 300 && place.bottom <= 140);
+        for (const CRect& other : places) {
+            EXPECT_TRUE(place.left >= other.right || other.left >= place.right ||
+                        place.top >= other.bottom || other.top >= place.bottom);
+        }
+        places.push_back(place);
+        CString text;
+        child->GetWindowText(text);
+        EXPECT_LE(6 * text.GetLength(), place.Width()) << text;
+        const auto* const list = dynamic_cast<const CListBox*>(child);
+        if (list != nullptr) {
+            for (const std::string& row : SteelPanel::RowsOf(*list)) {
+                EXPECT_LE(6 * static_cast<int>(row.size()), place.Width()) << row;
+            }
+            const bool oneRow = list == &panel.m_dlg->m_VdiaList;
+            EXPECT_GE(place.Height(), 12 * (oneRow ? 1 : std::max(1, list->GetCount())));
+        }
+    }
+}
+
+}  // namespace
