@@ -14,5 +14,7 @@ void AddRankCommand(CLI::App& program, std::ostream& out);
 void AddTableCommand(CLI::App& program, std::ostream& out);
 void AddImportCommand(CLI::App& program, std::ostream& out);
 void AddHitrateCommand(CLI::App& program, std::ostream& out);
+void AddPanelCommand(CLI::App& program, std::ostream& out);
+void AddEventsCommand(CLI::App& program, std::ostream& out);
 
 }  // namespace Desk
