@@ -11,6 +11,8 @@
 // boxes. A right press confirms, Esc dismisses, and the panel hides in both cases.
 class RANKER_API CBeamGujinDlg : public CDialog {
 public:
+    static constexpr UINT IDD = 367;
+
     explicit CBeamGujinDlg(CString strText = CString(), CWnd* pParent = nullptr);
     ~CBeamGujinDlg() override;
 

@@ -10,6 +10,8 @@
 // text typed last is delivered. A right press confirms, Esc dismisses, and the panel hides in both cases.
 class RANKER_API CBeamLevelDlg : public CDialog {
 public:
+    static constexpr UINT IDD = 542;
+
     explicit CBeamLevelDlg(CWnd* pParent = nullptr);
     ~CBeamLevelDlg() override;
 

@@ -11,6 +11,8 @@
 // press confirms, Esc dismisses, and the panel hides in both cases.
 class RANKER_API CBeamNameDlg : public CDialog {
 public:
+    static constexpr UINT IDD = 540;
+
     explicit CBeamNameDlg(CString strText = CString(), CWnd* pParent = nullptr);
     ~CBeamNameDlg() override;
 

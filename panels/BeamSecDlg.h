@@ -10,6 +10,8 @@
 // or a double click confirms, Esc dismisses, and the panel hides in both cases.
 class RANKER_API CBeamSecDlg : public CDialog {
 public:
+    static constexpr UINT IDD = 364;
+
     explicit CBeamSecDlg(CString strText = CString(), CWnd* pParent = nullptr);
     ~CBeamSecDlg() override;
 

@@ -1,0 +1,165 @@
+// Taking names, sections and elevations apart and putting them together, and which list row stands for a
+// text.
+#include <gtest/gtest.h>
+
+#include "panels/LevelText.h"
+#include "panels/NameText.h"
+#include "panels/SectionText.h"
+#include "tests/support/Texts.h"
+
+namespace NameText {
+void PrintTo(const Fields& fields, std::ostream* out)
+{
+    *out << fields.type << '|' << fields.serial << '|' << fields.span << '|' << fields.cantilever;
+}
+}  // namespace NameText
+namespace SectionText {
+void PrintTo(const Fields& fields, std::ostream* out)
+{
+    *out << fields.separator << '|' << fields.width << '|' << fields.height;
+}
+}  // namespace SectionText
+
+namespace {
+
+TEST(NameText, DecomposesWhatItReaches)
+{
+    struct Case {
+        const char* name;
+        bool reads;
+        NameText::Fields fields;  // starting from "?" in every field
+    };
+    const NameText::Fields untouched{"?", "?", "?", "?"};
+    const Case cases[] = {
+        {"KL3(2A)", true, {"KL", "3", "2", "A"}},
+        {"KL3(2)", true, {"KL", "3", "2", ""}},
+        {"KL3(B)", true, {"KL", "3", "", "B"}},
+        {"KL12(3)", true, {"KL", "12", "3", ""}},
+        {"AL1", true, {"AL", "1", "?", "?"}},
+        {"L", true, {"L", "", "?", "?"}},
+        {"KL3(2A", true, {"KL", "3", "?", "?"}},
+        {"LKL(-)2", true, {"LKL", "", "-", ""}},
+        // "A" wins over an earlier "B", and both count behind the bracket too.
+        {"KL3(2BA)", true, {"KL", "3", "2B", "A"}},
+        {"KL3(2)B", true, {"KL", "3", "2)", "B"}},
+        // Parts that stand the wrong way round are empty.
+        {"K(2)L3", true, {"K(2)L", "", "2", ""}},
+        {"KL)3(2", true, {"KL", ")3", "", ""}},
+        {"", false, untouched},
+        {"kz3(2A)", false, untouched},
+    };
+    for (const Case& c : cases) {
+        NameText::Fields fields = untouched;
+        EXPECT_EQ(NameText::Decompose(c.name, fields), c.reads) << c.name;
+        EXPECT_EQ(fields, c.fields) << c.name;
+    }
+}
+
+TEST(NameText, ComposesAndSaysWhetherTheNameIsWhole)
+{
+    struct Case {
+        NameText::Fields fields;
+        const char* name;
+        bool whole;
+    };
+    const Case cases[] = {
+        {{"KL", "3", "2", "A"}, "KL3(2A)", true}, {{"KL", "3", "2", ""}, "KL3(2)", true},
+        {{"KL", "3", "", "B"}, "KL3(B)", true},   {{"KL", "3", "0", "B"}, "KL3(B)", true},
+        {{"KL", "", "00", ""}, "KL(00)", true},   {{"KL", "3", "0", ""}, "KL3", false},
+        {{"KL", "3", "", ""}, "KL3", false},
+    };
+    for (const Case& c : cases) {
+        CString name("old");
+        EXPECT_EQ(NameText::Compose(c.fields, name), c.whole) << c.name;
+        EXPECT_EQ(name, c.name);
+    }
+}
+
+TEST(SectionText, DecomposesAndCutsTheTail)
+{
+    struct Case {
+        const char* text;
+        const char* cut;
+        SectionText::Fields fields;  // starting from separator "s"
+    };
+    const Case cases[] = {
+        {"300x600", "300x600", {"s", "300", "600"}},
+        {"300X600", "300X600", {"X", "300", "600"}},
+        {"300*600", "300*600", {"*", "300", "600"}},
+        {"300", "300", {"*", "", "300"}},
+        {"300x600/500", "300x600", {"s", "300", "600"}},
+        {"300x600 Y500x250", "300x600", {"s", "300", "600"}},
+        {"300/1 x600", "300", {"*", "", "300"}},
+        {" 300x600", "", {"*", "", ""}},
+        // "x" wins wherever it stands, then "X".
+        {"3X0*6x0", "3X0*6x0", {"s", "3X0*6", "0"}},
+        {"3*0X6", "3*0X6", {"X", "3*0", "6"}},
+    };
+    for (const Case& c : cases) {
+        CString text(c.text);
+        SectionText::Fields fields{"s", "w", "h"};
+        EXPECT_TRUE(SectionText::Decompose(text, fields)) << c.text;
+        EXPECT_EQ(text, c.cut);
+        EXPECT_EQ(fields, c.fields) << c.text;
+    }
+    CString empty;
+    SectionText::Fields fields{"s", "w", "h"};
+    EXPECT_FALSE(SectionText::Decompose(empty, fields));
+    EXPECT_EQ(fields, (SectionText::Fields{"s", "w", "h"}));
+}
+
+// Each key as a letter: digits and "." as they are, "-" sign, "b" brackets, "<" back.
+CString Typed(const char* start, const char* keys)
+{
+    CString level(start);
+    for (const char* key = keys; *key != '\0'; ++key) {
+        switch (*key) {
+        case '.': LevelText::AddPoint(level); break;
+        case '-': LevelText::AddMinus(level); break;
+        case 'b': LevelText::AddBrackets(level); break;
+        case '<': LevelText::TakeBack(level); break;
+        default: LevelText::Add(level, CString(*key)); break;
+        }
+    }
+    return level;
+}
+
+TEST(LevelText, Keys)
+{
+    struct Case {
+        const char* start;
+        const char* keys;
+        const char* level;
+    };
+    const Case cases[] = {
+        {"", "0.3.", "0.3"},
+        {"", "3--", "-3"},
+        {"", "0.3b", "(0.3)"},
+        {"", "0.3b-", "(-0.3)"},
+        {"", "0.3b-5", "(-0.35)"},
+        {"", "b", "()"},
+        {"", "b5", "(5)"},
+        {"", "bb", "()"},
+        {"(-0.35)", "<", "-0.35"},
+        {"(-0.35)", "<<", "-0.3"},
+        {"7", "<", ""},
+        {"", "<", ""},
+        {"", "-", "-"},
+        {"()", "<", ""},
+        {"()", "-", "(-)"},
+        {"", "b.", "(.)"},
+        // Texts that the keypad did not make.
+        {"(", "5", "(5)"},
+        {"(1", "5", "(5)"},
+        {"1)", "<", ""},
+        {"a(1", "b", "a(1"},
+        {"\xB1\xEA", "<", ""},
+        {"1\xB1", "<", "1"},
+        {"\xB1\xEA\xB8\xDF", "<", "\xB1\xEA"},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(Typed(c.start, c.keys), c.level) << c.start << ' ' << c.keys;
+    }
+}
+
+}  // namespace
