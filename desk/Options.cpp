@@ -60,15 +60,11 @@ const Beam& FindBeam(const Project& project, const std::string& name)
                   (names.empty() ? "it has no beams with a name" : "it has " + names));
 }
 
-int WidthOf(const Beam& beam)
+std::optional<int> WidthOf(const Beam& beam)
 {
     int width = 0;
     BEAMSIZE_HITNESS_RANKER().GetBeamWidth(GbkFromUtf8(beam.section).value_or(CString()), width);
-    if (width < 1) {
-        throw Failure("beam " + beam.name + ": no width in the section \"" + beam.section +
-                      "\"; give it with --width");
-    }
-    return width;
+    return width > 0 ? std::optional(width) : std::nullopt;
 }
 
 void AddProjectOption(CLI::App& command, std::string& file)

@@ -1,6 +1,7 @@
 // What several commands of beamdesk share: the project option, beams by name, checked numbers.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include <CLI/CLI.hpp>
@@ -19,8 +20,8 @@ namespace Desk {
 // Throws Failure that names beams like it when there is none.
 [[nodiscard]] const Beam& FindBeam(const Project& project, const std::string& name);
 
-// The width of a beam's section in mm; throws Failure for a section without one.
-[[nodiscard]] int WidthOf(const Beam& beam);
+// The width of a beam's section in mm, nothing when it has none.
+[[nodiscard]] std::optional<int> WidthOf(const Beam& beam);
 
 void AddProjectOption(CLI::App& command, std::string& file);
 

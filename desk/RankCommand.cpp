@@ -1,216 +1,23 @@
 // beamdesk rank: the candidates of one annotation, best first.
 #include "desk/Commands.h"
 
-#include <algorithm>
-#include <functional>
 #include <limits>
 #include <memory>
-#include <optional>
-#include <ostream>
 #include <string>
 
 #include <CLI/CLI.hpp>
 
-#include "RankerModule.h"
-#include "desk/BarKinds.h"
-#include "desk/Encoding.h"
-#include "desk/Failure.h"
 #include "desk/Options.h"
-#include "desk/RankingPrint.h"
-#include "desk/Tables.h"
+#include "desk/RankRun.h"
 
 namespace Desk {
 
 namespace {
 
-// What the five forms of the command take, each a part of it.
-struct RankOptions {
-    std::string project;
-    std::string beam;
-    bool json = false;
-    bool table = false;
-    std::optional<int> limit;
-    int projectKind = 2;
-    std::optional<std::string> kind;
-    std::optional<std::string> top;  // through bars, in place of a kind
-    std::optional<int> width;
-    std::optional<int> area;
-    std::optional<int> grade;
-    std::optional<int> seismicClass;
-};
-
-// A run: the project, the beam in work if one was named, and the answer taking shape.
-class Run {
-public:
-    Run(const RankOptions& options, std::ostream& out)
-        : m_options(options), m_out(out), m_project(LoadProject(options.project)),
-          m_beam(options.beam.empty() ? nullptr : &FindBeam(m_project, options.beam))
-    {
-        constexpr int DefaultLimit = 25;
-        m_view.limit = options.limit.value_or(options.json ? 0 : DefaultLimit);
-        if (m_beam != nullptr) {
-            m_view.beam = m_beam->name;
-        }
-    }
-
-    void Names()
-    {
-        Head("name", "Names for the next beam");
-        Print(RankNames(m_project, m_options.projectKind), &Beam::name);
-    }
-
-    void Sections()
-    {
-        Head("section", "Sections");
-        Print(RankSections(m_project, m_options.projectKind), &Beam::section);
-    }
-
-    void Elevations()
-    {
-        Head("elevation", "Elevations");
-        Print(RankElevations(m_project), &Beam::elevation);
-    }
-
-    void Bars()
-    {
-        BarQuery query;
-        if (m_options.kind && m_options.top) {
-            throw CLI::ValidationError("--kind and --top both say which bars are wanted; give one of them");
-        }
-        if (m_options.top) {
-            RequireBars(*m_options.top);
-        }
-        query.kind = m_options.top ? *m_options.top : BarKind(m_options.kind.value_or("1"), m_beam);
-        query.projectKind = m_options.projectKind;
-        query.table = m_options.table;
-        const auto width = Number(m_options.width, "--width", [this] { return WidthOf(*m_beam); });
-        const auto area = Number(m_options.area, "--area", [&] { return AreaFor(*m_beam, query.kind); });
-        query.width = width.value_or(0);
-        query.area = area.value_or(0);
-        Head("bars", BarKindName(query.kind));
-        m_view.question["kind"] = query.kind;
-        Say("width", width, ", width ", " mm");
-        Say("area", area, ", area ", " mm²");
-        const Ranking ranking = RankBars(m_project, query);
-        if (query.table) {
-            RemarkOnTable(ranking, Rows(query));
-        }
-        if (m_beam != nullptr) {
-            m_view.present = PresentBars(*m_beam, query.kind);
-        }
-        Print(ranking);
-    }
-
-    void Stirrups()
-    {
-        StirrupQuery query;
-        query.projectKind = m_options.projectKind;
-        query.table = m_options.table;
-        const auto width = Number(m_options.width, "--width", [this] { return WidthOf(*m_beam); });
-        const auto grade = Number(m_options.grade, "--grade", [this] { return m_beam->concreteGrade; });
-        const auto seismic =
-            Number(m_options.seismicClass, "--seismic", [this] { return m_beam->seismicClass; });
-        query.width = width.value_or(0);
-        query.grade = grade.value_or(0);
-        query.seismicClass = seismic.value_or(0);
-        Head("stirrups", "Stirrups");
-        Say("width", width, ", width ", " mm");
-        Say("grade", grade, ", concrete grade ", "");
-        Say("seismic", seismic, ", seismic class ", "");
-        const Ranking ranking = RankStirrups(m_project, query);
-        if (query.table) {
-            RemarkOnTable(ranking, StirrupsFor(query.width, query.grade, query.seismicClass));
-        }
-        Print(ranking, &Beam::stirrup);
-    }
-
-private:
-    // The number that was typed, else the beam's; without a beam the table cannot do without it.
-    std::optional<int> Number(const std::optional<int>& typed, const char* option,
-                              const std::function<int()>& ofBeam) const
-    {
-        if (typed) {
-            return typed;
-        }
-        if (m_beam != nullptr) {
-            return ofBeam();
-        }
-        if (m_options.table) {
-            throw CLI::ValidationError(std::string("--table needs ") + option +
-                                       " as well, or --beam NAME to take it from a beam");
-        }
-        return std::nullopt;
-    }
-
-    void Head(const char* what, const std::string& heading)
-    {
-        m_view.heading = heading;
-        m_view.question["what"] = what;
-        m_view.question["project"] = TitleOf(m_project, m_options.project);
-        if (m_beam != nullptr) {
-            m_view.heading += ", beam " + m_beam->name;
-        }
-    }
-
-    void Say(const char* key, const std::optional<int>& number, const char* before, const char* behind)
-    {
-        if (number) {
-            m_view.heading += before + std::to_string(*number) + behind;
-            m_view.question[key] = *number;
-        }
-    }
-
-    static TableAnswer Rows(const BarQuery& query)
-    {
-        switch (WantedBars(query.kind)) {
-        case Bars::Top: return BarsFor(query.width, query.area, BarColumn::Top);
-        case Bars::Bottom: return BarsFor(query.width, query.area, BarColumn::Bottom);
-        case Bars::Complete: break;
-        }
-        return BarsOn(query.width, query.area, query.kind);
-    }
-
-    // Rows that the list holds already are not added; then the person is told which they are.
-    void RemarkOnTable(const Ranking& ranking, const TableAnswer& rows)
-    {
-        const auto isRow = [](const Candidate& candidate) { return candidate.source == Source::Table; };
-        if (std::any_of(ranking.candidates.begin(), ranking.candidates.end(), isRow)) {
-            return;
-        }
-        m_view.tableRemark = rows.remark;
-        if (rows.remark.empty()) {
-            for (const std::string& text : rows.texts) {
-                m_view.tableRemark += (m_view.tableRemark.empty() ? "" : ", ") + text;
-            }
-            m_view.tableRemark = "all its rows stand in the list already: " + m_view.tableRemark;
-        }
-    }
-
-    void Print(const Ranking& ranking, std::string Beam::*member)
-    {
-        if (m_beam != nullptr) {
-            m_view.present = {m_beam->*member};
-        }
-        Print(ranking);
-    }
-
-    void Print(const Ranking& ranking)
-    {
-        m_view.heading += "\n" + TitleOf(m_project, m_options.project);
-        (m_options.json ? PrintRankingJson : PrintRanking)(ranking, m_view, m_out);
-    }
-
-    const RankOptions& m_options;
-    std::ostream& m_out;
-    Project m_project;
-    const Beam* m_beam;  // of the project, null without one
-    RankingView m_view;
-};
-
 using Options = std::shared_ptr<RankOptions>;
 
 CLI::App& AddForm(CLI::App& rank, const Options& options, const char* name, const char* description,
-                  void (Run::*run)(), std::ostream& out)
+                  void (RankRun::*run)(), std::ostream& out)
 {
     CLI::App& form = *rank.add_subcommand(name, description);
     AddProjectOption(form, options->project);
@@ -221,7 +28,7 @@ CLI::App& AddForm(CLI::App& rank, const Options& options, const char* name, cons
         ->type_name("N")
         ->check(Whole(0, 1'000'000'000));
     form.add_flag("--json", options->json, "Print JSON for programs");
-    form.callback([options, run, &out] { (Run(*options, out).*run)(); });
+    form.callback([options, run, &out] { (RankRun(*options, out).*run)(); });
     return form;
 }
 
@@ -242,7 +49,7 @@ void AddTable(CLI::App& form, const Options& options, const char* needs)
 void AddBars(CLI::App& rank, std::ostream& out)
 {
     const auto options = std::make_shared<RankOptions>();
-    CLI::App& form = AddForm(rank, options, "bars", "Longitudinal bars", &Run::Bars, out);
+    CLI::App& form = AddForm(rank, options, "bars", "Longitudinal bars", &RankRun::Bars, out);
     form.add_option("--kind", options->kind, "Which bars, see below; 1 without it")->type_name("KIND");
     form.add_option("--top", options->top, "Through bars, for the complete top bars on them")
         ->type_name("BARS");
@@ -268,7 +75,7 @@ void AddBars(CLI::App& rank, std::ostream& out)
 void AddStirrups(CLI::App& rank, std::ostream& out)
 {
     const auto options = std::make_shared<RankOptions>();
-    CLI::App& form = AddForm(rank, options, "stirrups", "Stirrups", &Run::Stirrups, out);
+    CLI::App& form = AddForm(rank, options, "stirrups", "Stirrups", &RankRun::Stirrups, out);
     form.add_option("--width", options->width, "Beam width in mm, for the table")
         ->type_name("MM")
         ->check(Whole(1, 100'000));
@@ -299,18 +106,18 @@ void AddRankCommand(CLI::App& program, std::ostream& out)
 
     const auto name = std::make_shared<RankOptions>();
     CLI::App& names =
-        AddForm(rank, name, "name", "Names that the project does not hold yet", &Run::Names, out);
+        AddForm(rank, name, "name", "Names that the project does not hold yet", &RankRun::Names, out);
     AddProjectKind(names, name);
     names.footer("Examples:\n  beamdesk rank name\n  beamdesk rank name --limit 0 --json");
 
     const auto section = std::make_shared<RankOptions>();
     CLI::App& sections =
-        AddForm(rank, section, "section", "Sections, by width and height", &Run::Sections, out);
+        AddForm(rank, section, "section", "Sections, by width and height", &RankRun::Sections, out);
     AddProjectKind(sections, section);
     sections.footer("Examples:\n  beamdesk rank section\n  beamdesk rank section --beam KL2");
 
     const auto elevation = std::make_shared<RankOptions>();
-    AddForm(rank, elevation, "elevation", "Elevations, in rising order", &Run::Elevations, out)
+    AddForm(rank, elevation, "elevation", "Elevations, in rising order", &RankRun::Elevations, out)
         .footer("Examples:\n  beamdesk rank elevation\n  beamdesk rank elevation --beam XL1");
 
     AddBars(rank, out);

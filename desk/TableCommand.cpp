@@ -79,7 +79,8 @@ void PrintSections(const std::vector<Section>& sections, std::size_t step, std::
         out << '\n' << section.title << '\n';
         PrintTexts(section.answer.texts, step, out);
         if (!section.answer.remark.empty()) {
-            out << "  (" << section.answer.remark << ")\n";
+            out << "  (" << section.answer.remark
+                << (section.answer.isFromEnd ? "; these are from its nearer end" : "") << ")\n";
         }
     }
 }

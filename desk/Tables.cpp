@@ -62,14 +62,7 @@ TableAnswer BarsFor(int width, int area, BarColumn column)
     case BarColumn::Complete: table.GetTotalJin(width, area, list); break;
     case BarColumn::Bottom: table.GetDiJin(width, area, list); break;
     }
-    TableAnswer answer{Texts(list), {}};
-    if (answer.texts.empty()) {
-        answer.remark = NoBars(width, area, Reach);
-    } else if (!isNear) {
-        answer.remark = "no row within " + std::to_string(Reach) + " mm² of " + std::to_string(area) +
-                        " mm²: texts from the nearer end of the table";
-    }
-    return answer;
+    return {Texts(list), isNear ? std::string() : NoBars(width, area, Reach), !isNear && !list.IsEmpty()};
 }
 
 TableAnswer BarsOn(int width, int area, const std::string& topBars)
@@ -81,7 +74,7 @@ TableAnswer BarsOn(int width, int area, const std::string& topBars)
     }
     CStringArray list;
     BarTable().GetExactTotalJin(width, area, *given, list);
-    TableAnswer answer{Texts(list), {}};
+    TableAnswer answer{Texts(list), {}, false};
     if (answer.texts.size() == 1) {
         answer.remark = NoBars(width, area, Reach) + " for " + topBars;
     }
@@ -92,7 +85,7 @@ TableAnswer StirrupsFor(int width, int grade, int seismicClass)
 {
     CStringArray list;
     const int result = StirrupTable().GetGuJin(width, grade, seismicClass, list);
-    TableAnswer answer{Texts(list), {}};
+    TableAnswer answer{Texts(list), {}, false};
     if (result < 0) {
         answer.remark = "the stirrup table has the concrete grades 20, 25, 30, 35 and 40, nothing for " +
                         std::to_string(grade);

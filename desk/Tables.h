@@ -14,7 +14,9 @@ namespace Desk {
 
 struct TableAnswer {
     std::vector<std::string> texts;
-    std::string remark;  // why there is nothing, or that the texts are not near the area; else empty
+    std::string remark;  // that no row is near, or why none can be; else empty
+    // No row is near, and the area lies beyond the table: the texts are those of its nearer end.
+    bool isFromEnd = false;
 };
 
 enum class BarColumn { Top, Complete, Bottom };

@@ -1,13 +1,12 @@
-// The fields of the project's file, once for reading and writing.
+// Reads a project and tells the place of the first thing that is not as the fields say.
 #include "desk/ProjectFile.h"
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 
 #include "desk/Encoding.h"
 #include "desk/Failure.h"
-#include "desk/JsonText.h"
+#include "desk/ProjectFields.h"
 #include "desk/SafeFile.h"
 
 namespace Desk {
@@ -15,59 +14,6 @@ namespace Desk {
 namespace {
 
 using Path = Json::json_pointer;
-
-constexpr int FormatVersion = 1;
-constexpr double PlanLimit = 1e9;  // mm, a thousand kilometres
-
-// A text of the project: whether it goes to the module, which holds GBK, and must then have a GBK form.
-template <class Owner>
-struct TextField {
-    const char* key;
-    std::string Owner::*member;
-    bool isAnnotation = true;
-};
-
-template <class Owner>
-struct NumberField {
-    const char* key;
-    int Owner::*member;
-    int least;
-    int most;
-};
-
-template <class Owner>
-struct PointField {
-    const char* key;
-    PlanPoint Owner::*member;
-};
-
-constexpr TextField<Project> ProjectTexts[] = {{"title", &Project::title, false}};
-
-constexpr TextField<Beam> BeamTexts[] = {
-    {"name", &Beam::name},       {"section", &Beam::section},   {"elevation", &Beam::elevation},
-    {"stirrup", &Beam::stirrup}, {"topBars", &Beam::topBars},   {"bottomBars", &Beam::bottomBars},
-    {"leftEnd", &Beam::leftEnd}, {"rightEnd", &Beam::rightEnd}, {"erection", &Beam::erection},
-    {"torsion", &Beam::torsion}, {"side", &Beam::side},         {"floor", &Beam::floor, false},
-};
-constexpr NumberField<Beam> BeamNumbers[] = {
-    {"concreteGrade", &Beam::concreteGrade, 10, 100},
-    {"seismicClass", &Beam::seismicClass, 1, 4},
-};
-constexpr NumberField<SteelArea> AreaNumbers[] = {
-    {"top", &SteelArea::top, 0, 1'000'000},
-    {"bottom", &SteelArea::bottom, 0, 1'000'000},
-    {"leftEnd", &SteelArea::leftEnd, 0, 1'000'000},
-    {"rightEnd", &SteelArea::rightEnd, 0, 1'000'000},
-};
-constexpr PointField<Beam> BeamPoints[] = {{"start", &Beam::start}, {"end", &Beam::end}};
-
-constexpr TextField<Wall> WallTexts[] = {
-    {"name", &Wall::name},
-    {"horizontalBars", &Wall::horizontalBars},
-    {"verticalBars", &Wall::verticalBars},
-};
-constexpr NumberField<Wall> WallNumbers[] = {{"thickness", &Wall::thickness, 0, 10'000}};
-constexpr PointField<Wall> WallPoints[] = {{"start", &Wall::start}, {"end", &Wall::end}};
 
 std::string Kind(const Json& value)
 {
@@ -78,30 +24,6 @@ std::string Kind(const Json& value)
            : value.is_object()       ? "an object"
            : value.is_null()         ? "null"
                                      : value.dump();
-}
-
-std::optional<int> WholeNumber(const Json& value)
-{
-    double number = 0.0;
-    if (!JsonNumber(value, number) || std::trunc(number) != number || std::abs(number) > 1e9) {
-        return std::nullopt;
-    }
-    return static_cast<int>(number);
-}
-
-std::optional<PlanPoint> Point(const Json& value)
-{
-    PlanPoint point;
-    const bool good = value.is_array() && value.size() == 2 && JsonNumber(value[0], point.x) &&
-                      JsonNumber(value[1], point.y) && std::abs(point.x) <= PlanLimit &&
-                      std::abs(point.y) <= PlanLimit;
-    return good ? std::optional(point) : std::nullopt;
-}
-
-const Json* Member(const Json& object, const char* key)
-{
-    const auto found = object.find(key);
-    return found == object.end() ? nullptr : &*found;
 }
 
 class Reader {
@@ -289,85 +211,6 @@ Wall Reader::ReadItem(Json&& source, const Path& path) const
     return wall;
 }
 
-// Writers put a value into its place in the source; what is the same already stays as it was written,
-// and what the source lacks is added only when it is not what a missing key stands for anyway.
-template <class Owner, std::size_t Count>
-void WriteTexts(const Owner& owner, const TextField<Owner> (&fields)[Count], Json& source)
-{
-    for (const TextField<Owner>& field : fields) {
-        const std::string& text = owner.*field.member;
-        if (!text.empty() || source.contains(field.key)) {
-            source[field.key] = text;
-        }
-    }
-}
-
-template <class Owner, std::size_t Count>
-void WriteNumbers(const Owner& owner, const NumberField<Owner> (&fields)[Count], Json& source)
-{
-    for (const NumberField<Owner>& field : fields) {
-        const int number = owner.*field.member;
-        const Json* const present = Member(source, field.key);
-        const int told = present != nullptr ? WholeNumber(*present).value_or(0) : Owner().*field.member;
-        if (told != number) {
-            source[field.key] = number;
-        }
-    }
-}
-
-Json Coordinate(double value)
-{
-    const bool whole = std::trunc(value) == value && std::abs(value) <= PlanLimit;
-    return whole ? Json(static_cast<std::int64_t>(value)) : Json(value);
-}
-
-template <class Owner, std::size_t Count>
-void WritePoints(const Owner& owner, const PointField<Owner> (&fields)[Count], Json& source)
-{
-    for (const PointField<Owner>& field : fields) {
-        const PlanPoint& point = owner.*field.member;
-        const Json* const present = Member(source, field.key);
-        const PlanPoint told = present != nullptr ? Point(*present).value_or(PlanPoint()) : PlanPoint();
-        if (told.x != point.x || told.y != point.y) {
-            source[field.key] = Json::array({Coordinate(point.x), Coordinate(point.y)});
-        }
-    }
-}
-
-Json Written(const Beam& beam)
-{
-    Json source = beam.source;
-    source["name"] = beam.name;
-    WriteTexts(beam, BeamTexts, source);
-    WriteNumbers(beam, BeamNumbers, source);
-    Json area = source.value("area", Json::object());
-    WriteNumbers(beam.area, AreaNumbers, area);
-    if (!area.empty()) {
-        source["area"] = std::move(area);
-    }
-    WritePoints(beam, BeamPoints, source);
-    return source;
-}
-
-Json Written(const Wall& wall)
-{
-    Json source = wall.source;
-    source["name"] = wall.name;
-    WriteTexts(wall, WallTexts, source);
-    WriteNumbers(wall, WallNumbers, source);
-    WritePoints(wall, WallPoints, source);
-    return source;
-}
-
-template <class Item>
-void WriteList(const std::vector<Item>& items, Json& list)
-{
-    list = Json::array();
-    for (const Item& item : items) {
-        list.push_back(Written(item));
-    }
-}
-
 }  // namespace
 
 Project ParseProject(std::string_view text, const std::string& name) { return Reader(text, name).Read(); }
@@ -375,30 +218,6 @@ Project ParseProject(std::string_view text, const std::string& name) { return Re
 Project ReadProject(const std::filesystem::path& file)
 {
     return ParseProject(ReadWholeFile(file), file.string());
-}
-
-std::string FormatProject(const Project& project)
-{
-    Json source = project.source;
-    if (!source.contains("version")) {
-        source["version"] = FormatVersion;
-    }
-    WriteTexts(project, ProjectTexts, source);
-    WriteList(project.beams, source["beams"]);
-    WriteList(project.walls, source["walls"]);
-    try {
-        return WriteJson(source);
-    } catch (const nlohmann::json::exception&) {
-        throw Failure("a text of the project is not UTF-8");
-    }
-}
-
-void SaveProject(const Project& project, const std::filesystem::path& file)
-{
-    const std::string text = FormatProject(project);
-    // What could not be read again must not take the place of a good file.
-    static_cast<void>(ParseProject(text, "the project that is to become " + file.string()));
-    ReplaceFile(file, text);
 }
 
 }  // namespace Desk
