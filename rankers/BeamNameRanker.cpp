@@ -11,7 +11,6 @@
 
 #include "host/HostLink.h"
 #include "platform/Numbers.h"
-#include "rankers/Repeats.h"
 
 namespace {
 
@@ -50,11 +49,13 @@ void BEAMNAME_HITNESS_RANKER::SelectFromProject(CStringArray& arResult)
         m_arUsedXu.RemoveAll();
         CStringArray suffixes;
         HostLink::AskBeamNumbers(m_arUsedXu, suffixes, type);
-        Repeats::Remove(m_arUsedXu);
+        // Their order is free, since FindXu sorts them.
+        std::sort(m_arUsedXu.begin(), m_arUsedXu.end());
+        const auto repeats = std::unique(m_arUsedXu.begin(), m_arUsedXu.end());
+        m_arUsedXu.SetSize(static_cast<int>(repeats - m_arUsedXu.begin()));
         EliminateSameResult(suffixes);
         CUIntArray free;
         FindXu(free);
-        arResult.Reserve(arResult.GetSize() + free.GetSize() * suffixes.GetSize());
         std::string name;
         for (const CString& suffix : suffixes) {
             for (const unsigned int serial : free) {

@@ -1,7 +1,6 @@
 // One hash pass instead of a search through the list for every text; the outcome is the same.
 #include "rankers/Repeats.h"
 
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -53,18 +52,6 @@ void Remove(CStringArray& arText, CUIntArray& arStamp)
     arStamp.SetSize(arText.GetSize());
     Keep(arText, kept);
     Keep(arStamp, kept);
-}
-
-void Remove(CUIntArray& arNumber)
-{
-    std::unordered_set<unsigned int> seen;
-    std::vector<int> kept;
-    for (int i = 0; i < arNumber.GetSize(); ++i) {
-        if (seen.insert(arNumber[i]).second) {
-            kept.push_back(i);
-        }
-    }
-    Keep(arNumber, kept);
 }
 
 }  // namespace Repeats

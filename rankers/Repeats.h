@@ -12,7 +12,4 @@ void Remove(CStringArray& arText);
 // without a stamp gets 0, and stamps behind the last text are dropped.
 void Remove(CStringArray& arText, CUIntArray& arStamp);
 
-// The same for numbers.
-void Remove(CUIntArray& arNumber);
-
 }  // namespace Repeats
