@@ -3,6 +3,7 @@
 #include "rankers/BarOrder.h"
 
 #include <algorithm>
+#include <numeric>
 #include <vector>
 
 #include "rankers/Order.h"
@@ -49,8 +50,8 @@ Key::Key(std::string_view text) noexcept : m_text(text)
     }
 }
 
-// Sorts the distinct texts only, then deals the entries out, so that a project that repeats a few
-// hundred texts many thousand times costs one pass.
+// Sorts the distinct texts only, then deals them out as often as each occurs, so that a project that
+// repeats a few hundred texts many thousand times costs one pass.
 void Sort(CStringArray& arText)
 {
     const int count = arText.GetSize();
@@ -68,6 +69,10 @@ void Sort(CStringArray& arText)
         return keys[static_cast<std::size_t>(a)] < keys[static_cast<std::size_t>(b)];
     };
     const Order::Positions sorted = Order::Sorted(static_cast<int>(keys.size()), less);
+    if (keys.size() == numbers.size()) {
+        Order::Apply(sorted, arText);
+        return;
+    }
 
     // Texts that differ only in their joints compare equal and share a rank.
     std::vector<std::uint32_t> ranks(keys.size());
@@ -79,19 +84,19 @@ void Sort(CStringArray& arText)
         ranks[static_cast<std::size_t>(sorted[i])] = rank;
     }
 
-    std::vector<int> next(rank + 2, 0);  // where the next entry of a rank goes
+    std::vector<std::uint32_t> next(rank + 2, 0);  // where the next entry of a rank goes
     for (const std::uint32_t number : numbers) {
         ++next[ranks[number] + 1];
     }
-    for (std::size_t i = 1; i < next.size(); ++i) {
-        next[i] += next[i - 1];
+    std::partial_sum(next.begin(), next.end(), next.begin());
+    std::vector<std::uint32_t> dealt(numbers.size());  // the text at each place, by its number
+    for (const std::uint32_t number : numbers) {
+        dealt[next[ranks[number]]++] = number;
     }
-    Order::Positions order(numbers.size());
+    const std::vector<CString> texts(distinct.Texts().begin(), distinct.Texts().end());
     for (int i = 0; i < count; ++i) {
-        const std::uint32_t entryRank = ranks[numbers[static_cast<std::size_t>(i)]];
-        order[static_cast<std::size_t>(next[entryRank]++)] = i;
+        arText[i] = texts[dealt[static_cast<std::size_t>(i)]];
     }
-    Order::Apply(order, arText);
 }
 
 }  // namespace BarOrder
