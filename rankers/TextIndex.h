@@ -57,7 +57,7 @@ private:
 
     void Grow()
     {
-        m_slots.assign(4 * m_slots.size(), Free);
+        m_slots.assign(2 * m_slots.size(), Free);
         const std::size_t mask = m_slots.size() - 1;
         for (std::uint32_t number = 0; number < m_hashes.size(); ++number) {
             std::size_t place = m_hashes[number] & mask;
