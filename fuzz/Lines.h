@@ -29,7 +29,7 @@ inline List Lines(const std::uint8_t* data, std::size_t size, std::size_t most)
 inline Case CaseOf(const std::uint8_t* data, std::size_t size)
 {
     constexpr std::size_t head = 3;
-    List lines = Lines(data, size, head + 60);
+    List lines = Lines(data, size, head + 40);
     lines.resize(std::max(lines.size(), head));
     Case c;
     c.kind = lines[0];
@@ -39,7 +39,7 @@ inline Case CaseOf(const std::uint8_t* data, std::size_t size)
         value = static_cast<int>(std::strtol(number, &end, 10));
         number = end;
     }
-    c.steps = lines[2].substr(0, 12);
+    c.steps = lines[2].substr(0, 8);
     c.texts.assign(lines.begin() + head, lines.end());
     return c;
 }
