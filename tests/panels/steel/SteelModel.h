@@ -18,14 +18,6 @@ struct Bars {
     bool operator==(const Bars&) const = default;
 };
 
-struct Delivery {
-    std::string to;
-    int mode = 0;
-    std::string text;
-    int code = 0;
-    bool operator==(const Delivery&) const = default;
-};
-
 // Everything that can be seen of a panel.
 struct State {
     std::array<std::string, 5> texts;
@@ -38,9 +30,15 @@ struct State {
     int curType = -1, curPos = -1, remembered = -1;
     int type = -1, later = -1, count = -1, grade = -1, diameter = -1, upper = -1, lower = -1, end = -1,
         row = -1;  // list selections
-    std::vector<Delivery> deliveries;
+    std::vector<std::string> sent;
     bool operator==(const State&) const = default;
 };
+
+// One delivery; the property item gets neither mode nor code.
+inline std::string Sent(const std::string& to, int mode, const std::string& text, int code)
+{
+    return to + ' ' + std::to_string(mode) + ' ' + std::to_string(code) + ' ' + text;
+}
 
 class Panel {
 public:
@@ -122,24 +120,24 @@ public:
         if (toItem) {
             m_stripped = ForItem;
             if (kind != -1) {
-                m_deliveries.push_back({"item", 0, Text(kind <= 4 ? At(kind) : 0), 0});
+                Send("item", 0, Text(kind <= 4 ? At(kind) : 0), 0);
             }
         } else if (!m_order.empty() && inParent) {
             if (kind == -1) {
                 for (std::size_t g = 0; g < 5; ++g) {
                     if (!m_groups[g].bars.empty()) {
-                        m_deliveries.push_back({"parent", 1, Text(g), 20});
+                        Send("parent", 1, Text(g), 20);
                         break;
                     }
                 }
             } else if (kind <= 4) {
-                m_deliveries.push_back({"parent", 1, Text(At(kind)), 20 + kind});
+                Send("parent", 1, Text(At(kind)), 20 + kind);
             }
         } else if (!m_order.empty()) {
             m_stripped = ForHost;
             for (const auto& [group, mode, code] : {std::array{0, 2, 0}, {3, 0, 8}, {4, 0, 9}}) {
                 if (!m_groups[At(group)].bars.empty()) {
-                    m_deliveries.push_back({"host", mode, Text(At(group)), code});
+                    Send("host", mode, Text(At(group)), code);
                 }
             }
         }
@@ -175,7 +173,7 @@ public:
         state.type = m_type, state.later = m_later, state.count = m_count, state.grade = m_grade;
         state.diameter = m_diameter, state.upper = m_upper, state.lower = m_lower, state.end = m_end;
         state.row = m_row;
-        state.deliveries = m_deliveries;
+        state.sent = m_sent;
         return state;
     }
 
@@ -190,6 +188,12 @@ private:
         int pos;
     };
     enum Stripped { None, ForItem, ForHost };
+
+    void Send(const std::string& to, int mode, const std::string& text, int code)
+    {
+        const auto place = to == "item" ? m_sent.begin() + m_items++ : m_sent.end();
+        m_sent.insert(place, Sent(to, mode, text, code));
+    }
 
     static std::size_t At(int n) { return static_cast<std::size_t>(n); }
     static std::size_t GroupOf(int type) { return At(type <= 3 ? type : type - 1); }
@@ -352,7 +356,8 @@ private:
     int m_curType = -1, m_curPos = -1, m_remembered = -1;
     int m_type = -1, m_later = -1, m_count = -1, m_grade = -1, m_diameter = -1, m_upper = -1, m_lower = -1,
         m_end = -1, m_row = -1;
-    std::vector<Delivery> m_deliveries;
+    std::vector<std::string> m_sent;  // to the item, then to the callback
+    int m_items = 0;
 };
 
 }  // namespace SteelModel

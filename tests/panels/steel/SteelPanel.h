@@ -5,18 +5,12 @@
 #include <memory>
 #include <ostream>
 
-#include "panels/BeamSteelDlg.h"
 #include "panels/BeamSteelTemplate.h"
+#include "tests/panels/Receiver.h"
 #include "tests/panels/steel/SteelModel.h"
 #include "tests/support/Hands.h"
-#include "tests/support/Texts.h"
 
 namespace SteelModel {
-
-inline void PrintTo(const Delivery& d, std::ostream* out)
-{
-    *out << d.to << ' ' << d.mode << " \"" << d.text << "\" " << d.code;
-}
 
 inline void PrintTo(const State& s, std::ostream* out)
 {
@@ -34,43 +28,24 @@ inline void PrintTo(const State& s, std::ostream* out)
         }
         *out << '\n';
     }
-    for (const Delivery& delivery : s.deliveries) {
-        PrintTo(delivery, &(*out << "  sent "));
+    for (const std::string& sent : s.sent) {
+        *out << "  sent " << sent << '\n';
     }
-    *out << '\n';
 }
 
 }  // namespace SteelModel
 
-// One at a time, since the callback slot is one.
 class SteelPanel {
 public:
     explicit SteelPanel(int kind, bool toItem = false, bool inParent = true)
     {
-        s_panel = this;
-        SetBeamMouseInputFunc([](void* target, int mode, CString text, int code) {
-            SteelPanel& self = *s_panel;
-            self.m_deliveries.push_back({self.NameOf(target), mode, std::string(text.View()), code});
-            if (self.m_onDelivery != nullptr) {
-                self.m_onDelivery(self);
-            }
-        });
         m_frame.CreateFrame(CRect(100, 100, 900, 700));
         m_dlg = std::make_unique<CBeamSteelDlg>(nullptr);
-        m_dlg->m_pItem = &m_item;
+        m_dlg->m_pItem = &m_receiver;
         m_dlg->m_pHostData = &m_hostData;
         m_dlg->Create(CBeamSteelDlg::IDD, &m_frame);
         Open(kind, toItem, inParent);
     }
-
-    ~SteelPanel()
-    {
-        SetBeamMouseInputFunc(nullptr);
-        s_panel = nullptr;
-    }
-
-    SteelPanel(const SteelPanel&) = delete;
-    SteelPanel& operator=(const SteelPanel&) = delete;
 
     void Open(int kind, bool toItem, bool inParent)
     {
@@ -118,8 +93,24 @@ public:
         state.diameter = m_dlg->m_SteeldiaList.GetCurSel();
         state.upper = m_dlg->m_UpList.GetCurSel(), state.lower = m_dlg->m_DownList.GetCurSel();
         state.end = m_dlg->m_SepList.GetCurSel(), state.row = m_dlg->m_PosList.GetCurSel();
-        state.deliveries = m_deliveries;
+        state.sent = Sent();
         return state;
+    }
+
+    // What went out, in the model's words.
+    [[nodiscard]] Texts Sent() const
+    {
+        Texts sent;
+        for (const std::string& text : m_receiver.m_items) {
+            sent.push_back(SteelModel::Sent("item", 0, text, 0));
+        }
+        for (const Delivery& call : m_receiver.m_calls) {
+            const std::string to = call.first == &m_frame      ? "parent"
+                                   : call.first == &m_hostData ? "host"
+                                                               : "?";
+            sent.push_back(SteelModel::Sent(to, call.mode, call.text, call.code));
+        }
+        return sent;
     }
 
     static Texts RowsOf(const CListBox& list)
@@ -133,29 +124,11 @@ public:
         return rows;
     }
 
+    Receiver m_receiver;
     Hands m_hands;
     CWnd m_frame;
     std::unique_ptr<CBeamSteelDlg> m_dlg;
-    std::vector<SteelModel::Delivery> m_deliveries;
-    void (*m_onDelivery)(SteelPanel&) = nullptr;
 
 private:
-    class Item : public CPropertyGridItem {
-        void SetValue(CString strValue) override
-        {
-            s_panel->m_deliveries.push_back({"item", 0, std::string(strValue.View()), 0});
-            if (s_panel->m_onDelivery != nullptr) {
-                s_panel->m_onDelivery(*s_panel);
-            }
-        }
-    };
-
-    [[nodiscard]] std::string NameOf(const void* target) const
-    {
-        return target == &m_frame ? "parent" : target == &m_hostData ? "host" : "?";
-    }
-
-    Item m_item;
     int m_hostData = 0;
-    static inline SteelPanel* s_panel = nullptr;
 };

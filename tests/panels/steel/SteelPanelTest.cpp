@@ -6,8 +6,6 @@
 namespace {
 
 using namespace BeamSteelTemplate;
-using SteelModel::Delivery;
-using Deliveries = std::vector<Delivery>;
 
 // Rows of the columns, by what they show.
 constexpr int Two = 1, Six = 5;
@@ -45,7 +43,7 @@ TEST(SteelPanel, ComposesAnAnnotationOfTwoDiameters)
     EXPECT_EQ(panel.Seen().row, 1);
     panel.Confirm();
     EXPECT_FALSE(panel.m_dlg->IsWindowVisible());
-    EXPECT_EQ(panel.m_deliveries, (Deliveries{{"parent", 1, "2B22+2B25;", 20}}));
+    EXPECT_EQ(panel.Sent(), (Texts{"parent 1 20 2B22+2B25;"}));
 }
 
 TEST(SteelPanel, ListsAreFixedAndTheTypesGoByKind)
@@ -162,7 +160,7 @@ TEST(SteelPanel, AGroupOpensBehindTheGroupOfTheRememberedRow)
     EXPECT_EQ(panel.Seen().type, BarPiece::SideStructural);
     EXPECT_EQ(panel.Seen().firstRows, (std::array{0, -1, -1, -1, 2}));
     panel.Confirm();
-    EXPECT_EQ(panel.m_deliveries, (Deliveries{{"parent", 1, "2B22+2B25 ", 20}}));
+    EXPECT_EQ(panel.Sent(), (Texts{"parent 1 20 2B22+2B25 "}));
 }
 
 TEST(SteelPanel, ABlankTypeRowIsNoType)
@@ -185,12 +183,11 @@ TEST(SteelPanel, ABlankTypeRowIsNoType)
     panel.Pick(UpList, 2);
     panel.Pick(DownList, 4);
     panel.Confirm();
-    EXPECT_EQ(panel.m_deliveries, Deliveries{});  // a whole annotation does not go to a parent
+    EXPECT_EQ(panel.Sent(), Texts{});  // a whole annotation does not go to a parent
     panel.m_dlg->m_bInParent = false;
     panel.m_dlg->ShowWindow(SW_SHOW);
     panel.Confirm();
-    EXPECT_EQ(panel.m_deliveries,
-              (Deliveries{{"host", 2, "2B25", 0}, {"host", 0, "*2B12", 8}, {"host", 0, "G6B12 2/4 ", 9}}));
+    EXPECT_EQ(panel.Sent(), (Texts{"host 2 0 2B25", "host 0 8 *2B12", "host 0 9 G6B12 2/4 "}));
 }
 
 TEST(SteelPanel, AnItemGetsOneStrippedText)
@@ -211,10 +208,7 @@ TEST(SteelPanel, AnItemGetsOneStrippedText)
     panel.Open(-1, true, true);
     panel.Compose(Six, D25);
     panel.Confirm();  // all groups are no single field
-    EXPECT_EQ(panel.m_deliveries, (Deliveries{{"item", 0, "2B12", 0},
-                                              {"item", 0, "6B25", 0},
-                                              {"item", 0, "6B25 2/4;", 0},
-                                              {"item", 0, "", 0}}));
+    EXPECT_EQ(panel.Sent(), (Texts{"item 0 0 2B12", "item 0 0 6B25", "item 0 0 6B25 2/4;", "item 0 0 "}));
 }
 
 TEST(SteelPanel, NothingGoesOutWithoutRowsReceiverOrConfirmation)
@@ -231,7 +225,7 @@ TEST(SteelPanel, NothingGoesOutWithoutRowsReceiverOrConfirmation)
     EXPECT_TRUE(panel.m_hands.Key(VK_ESCAPE));
     EXPECT_FALSE(panel.m_dlg->IsWindowVisible());
     EXPECT_EQ(panel.Text(0), "2B12 ");
-    EXPECT_EQ(panel.m_deliveries, Deliveries{});
+    EXPECT_EQ(panel.Sent(), Texts{});
     panel.m_dlg->ShowWindow(SW_SHOW);
     SetBeamMouseInputFunc(nullptr);
     panel.Confirm();
@@ -250,14 +244,14 @@ TEST(SteelPanel, ARightPressAnywhereConfirmsOnce)
         for (int x = rect.left + 1; x < rect.right; x += 7) {
             panel.m_dlg->ShowWindow(SW_SHOW);
             panel.m_hands.RightClick(CPoint(x, y));
-            ASSERT_EQ(panel.m_deliveries.size(), ++presses) << x << ',' << y;
+            ASSERT_EQ(panel.Sent().size(), ++presses) << x << ',' << y;
         }
     }
     for (const CWnd* child = panel.m_dlg->GetTopWindow(); child != nullptr;
          child = child->GetNextWindow()) {
         panel.m_dlg->ShowWindow(SW_SHOW);
         Hands::Send({child->m_hWnd, WM_RBUTTONDOWN, 0, 0, 0, {0, 0}});
-        ASSERT_EQ(panel.m_deliveries.size(), ++presses) << child->GetDlgCtrlID();
+        ASSERT_EQ(panel.Sent().size(), ++presses) << child->GetDlgCtrlID();
     }
 }
 
@@ -281,31 +275,32 @@ TEST(SteelPanel, ReceiverMayTakeTheWindowOrThePanelAway)
     const Takes takes[] = {[](SteelPanel& panel) { panel.m_dlg->DestroyWindow(); },
                            [](SteelPanel& panel) { panel.m_dlg.reset(); },
                            [](SteelPanel& panel) { panel.m_frame.DestroyWindow(); }};
+    const auto composed = [](bool toItem, bool inParent) {
+        auto panel = std::make_unique<SteelPanel>(toItem || inParent ? 0 : 7, toItem, inParent);
+        panel->Compose(Two, D12);
+        if (!inParent) {
+            panel->Pick(SteeltypeList, BarPiece::NTorsion);
+            panel->Compose(Two, D14);
+        }
+        return panel;
+    };
     for (const Takes take : takes) {
         for (const auto& [toItem, inParent] : {std::pair{true, true}, {false, true}, {false, false}}) {
-            SteelPanel panel(toItem || inParent ? 0 : 7, toItem, inParent);
-            panel.Compose(Two, D12);
-            if (!inParent) {
-                panel.Pick(SteeltypeList, BarPiece::NTorsion);
-                panel.Compose(Two, D14);
-            }
-            panel.m_onDelivery = take;
-            MSG press{panel.m_dlg->m_hWnd, WM_RBUTTONDOWN, 0, 0, 0, {0, 0}};
-            EXPECT_EQ(panel.m_dlg->PreTranslateMessage(&press), FALSE);
+            const auto panel = composed(toItem, inParent);
+            panel->m_receiver.m_answer = [&panel, take] { take(*panel); };
+            MSG press{panel->m_dlg->m_hWnd, WM_RBUTTONDOWN, 0, 0, 0, {0, 0}};
+            EXPECT_EQ(panel->m_dlg->PreTranslateMessage(&press), FALSE);
             EXPECT_FALSE(IsWindow(press.hwnd));
             // All texts of the annotation arrive, also when the panel is gone behind the first.
-            EXPECT_EQ(panel.m_deliveries.size(), inParent ? 1U : 2U);
+            EXPECT_EQ(panel->Sent().size(), inParent ? 1U : 2U);
         }
     }
-    SteelPanel panel(7, false, false);
-    panel.Compose(Two, D12);
-    panel.Pick(SteeltypeList, BarPiece::NTorsion);
-    panel.Compose(Two, D14);
-    panel.m_onDelivery = [](SteelPanel& used) { used.Open(0, true, true); };
-    panel.Confirm();
-    EXPECT_EQ(panel.m_deliveries, (Deliveries{{"host", 2, "2B12", 0}, {"host", 0, "N2B14", 8}}));
-    EXPECT_TRUE(panel.m_dlg->IsWindowVisible());
-    EXPECT_TRUE(panel.Seen().rows.empty());
+    const auto panel = composed(false, false);
+    panel->m_receiver.m_answer = [&panel] { panel->Open(0, true, true); };
+    panel->Confirm();
+    EXPECT_EQ(panel->Sent(), (Texts{"host 2 0 2B12", "host 0 8 N2B14"}));
+    EXPECT_TRUE(panel->m_dlg->IsWindowVisible());
+    EXPECT_TRUE(panel->Seen().rows.empty());
 }
 
 void CallEverything(CBeamSteelDlg& dlg, int odd)
@@ -359,39 +354,35 @@ TEST(SteelPanel, DirectCallsInOddStatesChangeNoText)
     }
 }
 
-// 9 points: a GBK byte is 6 pixels wide, a row 12 pixels high.
-TEST(SteelPanel, LayoutCutsNothingAndNothingOverlaps)
+// A host may call the operations that clicks lead to in an order that clicks never take.
+TEST(SteelPanel, DirectCallsInGoodOrder)
 {
     SteelPanel panel(-1);
-    CRect client;
-    panel.m_dlg->GetClientRect(&client);
-    EXPECT_EQ(client, CRect(0, 0, 300, 140));
-    std::vector<CRect> places;
-    for (const CWnd* child = panel.m_dlg->GetTopWindow(); child != nullptr;
-         child = child->GetNextWindow()) {
-        CRect place;
-        child->GetWindowRect(&place);
-        CPoint corner = place.TopLeft();
-        panel.m_dlg->ScreenToClient(&corner);
-        place = CRect(corner.x, corner.y, corner.x + place.Width(), corner.y + place.Height());
-        EXPECT_TRUE(place.left >= 0 && place.top >= 0 && place.right <= 300 && place.bottom <= 140);
-        for (const CRect& other : places) {
-            EXPECT_TRUE(place.left >= other.right || other.left >= place.right ||
-                        place.top >= other.bottom || other.top >= place.bottom);
-        }
-        places.push_back(place);
-        CString text;
-        child->GetWindowText(text);
-        EXPECT_LE(6 * text.GetLength(), place.Width()) << text;
-        const auto* const list = dynamic_cast<const CListBox*>(child);
-        if (list != nullptr) {
-            for (const std::string& row : SteelPanel::RowsOf(*list)) {
-                EXPECT_LE(6 * static_cast<int>(row.size()), place.Width()) << row;
-            }
-            const bool oneRow = list == &panel.m_dlg->m_VdiaList;
-            EXPECT_GE(place.Height(), 12 * (oneRow ? 1 : std::max(1, list->GetCount())));
-        }
-    }
+    CBeamSteelDlg& dlg = *panel.m_dlg;
+    const auto add = [&dlg](auto operation, int group, int type, const char* piece) {
+        BarGroup& to = dlg.m_Group[group];
+        (dlg.*operation)(to.m_arrPiece, to.m_strSteel, to.m_nFirstRow, type, piece);
+    };
+    add(&CBeamSteelDlg::AddToTail, 2, 2, "2B12,");
+    add(&CBeamSteelDlg::AddToTail, 0, 0, "2B22,");
+    dlg.m_nPosListSel = 1;
+    add(&CBeamSteelDlg::Insert, 2, 2, "2B14,");  // its group has a place of its own
+    EXPECT_EQ(panel.Seen().rows, (Texts{"+(2B12),", "2B22,"}));
+    EXPECT_EQ(dlg.m_nPosListSel, 1);
+    add(&CBeamSteelDlg::AddToTail, 2, 2, "2B14;");
+    EXPECT_EQ(panel.Seen().rows, (Texts{"+(2B12", "2B22,", "+2B14);"}));
+    EXPECT_EQ(panel.Text(2), "+(2B12+2B14);");
+    dlg.SetPosSel(5);
+    EXPECT_TRUE(panel.Seen().newPiece && panel.Seen().row == -1);
+    dlg.OnSelchangePosList();
+    EXPECT_TRUE(panel.Seen().newPiece && panel.Seen().curType == -1 && panel.Seen().curPos == -1);
+    dlg.SetPosSel(0);
+    EXPECT_TRUE(!panel.Seen().newPiece && panel.Seen().row == 1);
+    dlg.SetListWithSteelStr("*8C16 2/6,", -1);
+    EXPECT_EQ(panel.Seen().type, 3);
+    EXPECT_EQ(panel.Seen().grade, 2);
+    EXPECT_TRUE(dlg.CmpEssence("+(2B12);", "*2B12"));
+    EXPECT_EQ(dlg.ReplaceSteel("2B22,", "+2B14);"), "+2B22),");
 }
 
 }  // namespace
