@@ -124,9 +124,11 @@ public:
         const bool syntax = reason != std::string::npos;
         what = what.substr(syntax ? reason + 3 : what.find("] ") + 2);
         what = what.substr(0, what.find("; last read"));
-        // The parser stands behind an unexpected token, and on the character that spoils an invalid one.
-        const bool wholeToken = !syntax || what.starts_with("unexpected");
-        const std::size_t back = wholeToken && !token.empty() ? token.size() : 1;
+        // The parser stands behind an unexpected literal, and right behind the character that is wrong
+        // in all other cases.
+        const bool wholeToken =
+            !syntax || (what.starts_with("unexpected") && what.find(" literal;") != std::string::npos);
+        const std::size_t back = wholeToken ? token.size() : 1;
         throw JsonFault(std::min(position - std::min(position, back), m_text.size()),
                         "no valid JSON: " + what);
     }
