@@ -1,9 +1,7 @@
 // A small point in the plane for the host; the module itself does not use it.
 #pragma once
 
-#include "host/Export.h"
-
-struct RANKER_API DPoint {
+struct __attribute__((visibility("default"))) DPoint {
     float m_fX;
     float m_fY;
     int m_nTag;  // a word that travels with the point
