@@ -6,8 +6,14 @@
 // Holds the pixels from left and top up to, but not including, right and bottom.
 class CRect : public RECT {
 public:
-    constexpr CRect() noexcept : RECT{0, 0, 0, 0} {}
-    constexpr CRect(int l, int t, int r, int b) noexcept : RECT{l, t, r, b} {}
+    constexpr CRect() noexcept : CRect(0, 0, 0, 0) {}
+    constexpr CRect(int l, int t, int r, int b) noexcept : RECT()
+    {
+        left = l;
+        top = t;
+        right = r;
+        bottom = b;
+    }
     constexpr CRect(const RECT& rect) noexcept : RECT(rect) {}
 
     [[nodiscard]] constexpr int Width() const noexcept { return right - left; }

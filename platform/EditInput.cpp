@@ -61,6 +61,13 @@ bool TypeByte(HWND hEdit, WPARAM typed)
     return true;
 }
 
+// Keys whose WM_CHAR is to follow: letters, digits, the number pad, punctuation.
+bool TypesText(WPARAM key)
+{
+    return key == VK_BACK || key == VK_SPACE || (key >= '0' && key <= 'Z') ||
+           (key >= 0x60 && key <= 0x6F) || (key >= 0xBA && key <= 0xE2);
+}
+
 bool KeyDown(HWND hEdit, WPARAM key)
 {
     const WindowRecord& box = *FindBox(hEdit);
@@ -74,7 +81,7 @@ bool KeyDown(HWND hEdit, WPARAM key)
     case VK_HOME: MoveCaret(hEdit, 0); return true;
     case VK_END: MoveCaret(hEdit, box.text.GetLength()); return true;
     case VK_DELETE: Replace(hEdit, caret, NextCharacter(text, caret), ""); return true;
-    default: return false;
+    default: return TypesText(key);
     }
 }
 

@@ -72,8 +72,8 @@ LRESULT DispatchMessage(const MSG* pMsg)
 HWND WindowFromPoint(CPoint point)
 {
     const std::vector<HWND>& order = App().windows.Order();
-    for (auto handle = order.rbegin(); handle != order.rend(); ++handle) {
-        const WindowRecord& holder = *Find(*handle);
+    for (std::size_t above = order.size(); above-- > 0;) {
+        const WindowRecord& holder = *Find(order[above]);
         if (!holder.visible || !holder.place.PtInRect(point)) {
             continue;
         }
@@ -87,7 +87,7 @@ HWND WindowFromPoint(CPoint point)
                 return child;
             }
         }
-        return *handle;
+        return holder.handle;
     }
     return nullptr;
 }

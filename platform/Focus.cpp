@@ -67,6 +67,7 @@ void ReturnFocus(HWND hParent)
     const WindowRecord* const parent = Find(hParent);
     if (parent == nullptr || !IsShown(*parent) || !TakesInput(*parent)) {
         SetAndTell(nullptr);
+        App().shiftDown = false;  // nobody will see it go up
     } else if (parent->IsControl()) {
         GiveFocus(hParent);
     } else {

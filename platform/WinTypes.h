@@ -17,8 +17,8 @@ inline constexpr BOOL FALSE = 0;
 inline constexpr BOOL TRUE = 1;
 
 // Names a window. Null names none; the handle of a destroyed window never names another one.
-struct HWND__;
-using HWND = HWND__*;
+struct WindowTag;
+using HWND = WindowTag*;
 
 struct POINT {
     LONG x;
