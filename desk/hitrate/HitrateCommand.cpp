@@ -1,15 +1,16 @@
 // beamdesk hitrate: the tallies as a table or as JSON.
-#include <array>
-#include <cstdio>
-#include <filesystem>
 #include <memory>
 #include <ostream>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 
 #include "desk/Commands.h"
-#include "desk/ProjectFile.h"
+#include "desk/Options.h"
+#include "desk/Print.h"
 #include "desk/hitrate/Replay.h"
 
 namespace Desk {
@@ -24,45 +25,52 @@ struct Options {
     bool json = false;
 };
 
-// "37  46%" in a column.
-std::string Share(std::size_t count, std::size_t uses)
+struct Column {
+    const char* head;
+    std::size_t Tally::*count;
+};
+constexpr Column Columns[] = {
+    {"at place 1", &Tally::first},   {"within 3", &Tally::within3},    {"within 5", &Tally::within5},
+    {"within 10", &Tally::within10}, {"not in list", &Tally::missing},
+};
+constexpr int CountWidth = 7;
+constexpr int PercentWidth = 5;
+
+std::string Percent(std::size_t count, std::size_t uses)
 {
-    const double percent = uses == 0 ? 0.0 : 100.0 * static_cast<double>(count) / static_cast<double>(uses);
-    std::array<char, 48> text{};
-    std::snprintf(text.data(), text.size(), "%7zu %3.0f%%", count, percent);
-    return text.data();
+    return std::to_string(uses == 0 ? 0 : (200 * count + uses) / (2 * uses)) + "%";
 }
 
-void PrintOrder(std::ostream& out, const char* order, const Tally& tally)
+void PrintOrder(std::ostream& out, std::string_view kind, std::string_view uses, std::string_view order,
+                const Tally& tally)
 {
-    std::array<char, 32> name{};
-    std::snprintf(name.data(), name.size(), "%-13s", order);
-    out << name.data();
-    for (const std::size_t count :
-         {tally.first, tally.within3, tally.within5, tally.within10, tally.missing}) {
-        out << Share(count, tally.uses);
+    out << PadRight(kind, 14) << PadLeft(uses, 6) << "  " << PadRight(order, 13);
+    for (const Column& column : Columns) {
+        const std::size_t count = tally.*column.count;
+        out << PadLeft(std::to_string(count), CountWidth)
+            << PadLeft(Percent(count, tally.uses), PercentWidth);
     }
-    out << "\n";
+    out << '\n';
 }
 
 void PrintKind(std::ostream& out, const KindTally& kind)
 {
-    std::array<char, 64> head{};
-    std::snprintf(head.data(), head.size(), "%-14s%6zu  ", kind.kind.c_str(), kind.ranker.uses);
-    const std::string indent(22, ' ');
-    PrintOrder(out << head.data(), "ranker", kind.ranker);
-    PrintOrder(out << indent, "alphabetical", kind.alphabetical);
-    PrintOrder(out << indent, "frequency", kind.frequency);
+    PrintOrder(out, kind.kind, std::to_string(kind.ranker.uses), "ranker", kind.ranker);
+    PrintOrder(out, "", "", "alphabetical", kind.alphabetical);
+    PrintOrder(out, "", "", "frequency", kind.frequency);
 }
 
-void PrintTable(std::ostream& out, const Project& project, const std::vector<KindTally>& kinds)
+void PrintTable(std::ostream& out, const std::string& title, const std::vector<KindTally>& kinds)
 {
-    out << project.title << ": " << project.beams.size() << " beams\n"
+    out << title << '\n'
         << "How often each text stood at which place of the list made from the others; a name: from the "
            "names "
            "before it.\n\n"
-        << "kind            uses  order          at place 1    within 3    within 5   within 10 not in "
-           "list\n";
+        << PadRight("kind", 14) << PadLeft("uses", 6) << "  " << PadRight("order", 13);
+    for (const Column& column : Columns) {
+        out << PadLeft(column.head, CountWidth + PercentWidth);
+    }
+    out << '\n';
     KindTally sum{"all but names", {}, {}, {}};
     for (const KindTally& kind : kinds) {
         if (kind.ranker.uses == 0) {
@@ -104,16 +112,27 @@ void PrintJson(std::ostream& out, const Project& project, const std::vector<Kind
 
 void AddHitrateCommand(CLI::App& program, std::ostream& out)
 {
-    CLI::App* const command =
-        program.add_subcommand("hitrate", "Tell at which place the rankers put the texts of a project");
+    CLI::App* const command = program.add_subcommand(
+        "hitrate", "What the ranking is worth: the place at which each text of a project stands");
     const auto options = std::make_shared<Options>();
-    command->add_option("--project", options->project, "The project; without it the sample")
-        ->type_name("FILE");
+    AddProjectOption(*command, options->project);
     command->add_flag("--json", options->json, "Print JSON for programs");
+    command->footer(
+        "Each text is hidden in turn, its ranker runs on the rest, and the place of the hidden text\n"
+        "counts; names are looked for in what the names before them propose. Beside the rankers\n"
+        "stand the remaining texts by alphabet and by how often they are used.\n\n"
+        "Examples:\n  beamdesk hitrate\n  beamdesk hitrate --project tower.json --json");
     command->callback([options, &out] {
-        const Project project = options->project.empty() ? SampleProject() : ReadProject(options->project);
+        const Project project = LoadProject(options->project);
         const std::vector<KindTally> kinds = ReplayProject(project);
-        options->json ? PrintJson(out, project, kinds) : PrintTable(out, project, kinds);
+        if (options->json) {
+            PrintJson(out, project, kinds);
+        } else {
+            PrintTable(out,
+                       TitleOf(project, options->project) + ": " + std::to_string(project.beams.size()) +
+                           " beams",
+                       kinds);
+        }
     });
 }
 

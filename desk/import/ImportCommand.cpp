@@ -11,6 +11,7 @@
 #include "desk/Commands.h"
 #include "desk/Encoding.h"
 #include "desk/Failure.h"
+#include "desk/Options.h"
 #include "desk/ProjectFile.h"
 #include "desk/import/ImportTexts.h"
 #include "desk/import/Report.h"
@@ -49,7 +50,7 @@ void CheckTarget(const Options& options)
 }
 
 // The name of the texts' file, where a project can hold it.
-std::string TitleOf(const fs::path& texts)
+std::string TitleFor(const fs::path& texts)
 {
     const std::string title = texts.stem().string();
     const auto isControl = [](char ch) { return static_cast<unsigned char>(ch) < 0x20 || ch == 0x7F; };
@@ -70,7 +71,7 @@ void Run(const Options& options, std::ostream& out)
         ReadTextsFile(options.texts, options.encoding == "gbk" ? Encoding::Gbk : Encoding::Utf8);
     const std::vector<ImportedText> texts = ReadTexts(file, choices);
     PrintReport(out, options.texts, file, texts, choices, options.all);
-    const Project project = ProjectOf(texts, TitleOf(options.texts));
+    const Project project = ProjectOf(texts, TitleFor(options.texts));
     if (project.beams.empty() && project.walls.empty()) {
         out.flush();
         throw Failure(options.texts + ": holds no annotation that could be read; no project is written");
@@ -87,29 +88,31 @@ void AddImportCommand(CLI::App& program, std::ostream& out)
     CLI::App* const command = program.add_subcommand(
         "import", "Make a project out of annotation texts as drawings hold them, one a line");
     const auto options = std::make_shared<Options>();
-    command
-        ->add_option(
-            "TEXTS", options->texts,
-            "The texts: plain lines, or lines of kind, tab and text under\nthe heading kind<TAB>text")
-        ->required();
-    command->add_option("-o,--output", options->project, "The project to write")
+    command->add_option("TEXTS", options->texts, "The file of texts")->required()->option_text("FILE");
+    command->add_option("-o,--output", options->project, "Project file to write; needed")
         ->required()
-        ->type_name("PROJECT");
-    command->add_option("--encoding", options->encoding, "The texts' encoding")
-        ->check(CLI::IsMember({"utf-8", "gbk"}))
-        ->capture_default_str();
+        ->type_name("FILE");
+    command->add_option("--encoding", options->encoding, "Encoding of the texts; utf-8 without it")
+        ->type_name("NAME")
+        ->check(CLI::IsMember({"utf-8", "gbk"}));
     command
         ->add_option("--grade", options->grade,
-                     "Grade for signs that do not say one; without the option B for bars\n"
-                     "and A for stirrups and wall bars, as in the tables")
+                     "Grade, A to D, for signs that do not say it; without it B for bars and A for\n"
+                     "stirrups and wall bars, as in the module's own tables")
+        ->type_name("LETTER")
         ->check(CLI::IsMember({"A", "B", "C", "D"}));
     command
         ->add_option("--legs", options->legs,
-                     "Legs of stirrups that are written without; 0 leaves those unread")
-        ->check(CLI::Range(0, 9))
-        ->capture_default_str();
+                     "Legs of stirrups that are written without; 0 leaves those unread. 2 without it")
+        ->type_name("N")
+        ->check(Whole(0, 9));
     command->add_flag("--force", options->force, "Write over a project that stands there already");
     command->add_flag("--all", options->all, "List every text with what became of it");
+    command->footer(
+        "The file holds one text a line: plain lines, or lines of kind, tab and text under the\n"
+        "heading \"kind<TAB>text\". Every text that is not read is listed with its line.\n\n"
+        "Examples:\n  beamdesk import drawing.txt -o drawing.json\n"
+        "  beamdesk import drawing.txt -o drawing.json --encoding gbk --grade C --force");
     command->callback([options, &out] { Run(*options, out); });
 }
 
