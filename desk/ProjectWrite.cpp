@@ -110,6 +110,10 @@ void SaveProject(const Project& project, const std::filesystem::path& file)
 {
     const std::string text = FormatProject(project);
     // What could not be read again must not take the place of a good file.
+    if (text.size() > MaxFileSize) {
+        throw Failure(file.string() + ": cannot be saved: the project is longer than the " +
+                      std::to_string(MaxFileSize >> 20U) + " MiB that are read again");
+    }
     static_cast<void>(ParseProject(text, "the project that is to become " + file.string()));
     ReplaceFile(file, text);
 }
