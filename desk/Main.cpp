@@ -106,16 +106,10 @@ int RunDesk(int argc, char** argv)
     tour.footer("Examples:\n  beamdesk tour\n  beamdesk tour --beam KL6");
     Desk::AddRankCommand(program, std::cout);
     Desk::AddTableCommand(program, std::cout);
-#ifdef BEAMDESK_IMPORT
     Desk::AddImportCommand(program, std::cout);
-#endif
-#ifdef BEAMDESK_HITRATE
     Desk::AddHitrateCommand(program, std::cout);
-#endif
-#ifdef BEAMDESK_PANEL
     Desk::AddPanelCommand(program, std::cout);
     Desk::AddEventsCommand(program, std::cout);
-#endif
 
     try {
         program.parse(argc, argv);
