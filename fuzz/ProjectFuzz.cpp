@@ -32,7 +32,8 @@ auto NumbersOf(const Desk::Beam& b)
 
 auto FieldsOf(const Desk::Wall& w)
 {
-    return std::tie(w.name, w.thickness, w.horizontalBars, w.verticalBars);
+    return std::tie(w.name, w.thickness, w.horizontalBars, w.verticalBars, w.start.x, w.start.y, w.end.x,
+                    w.end.y);
 }
 
 bool AreSame(const Desk::Project& a, const Desk::Project& b)

@@ -157,15 +157,18 @@ std::string FirstDifference(const Case& c, Module& module, Plain& plain, Player 
     return "";
 }
 
+// A table that was filled so many times, up to 2; made once, since the look-ups only read it.
 template <class Table>
-Table& FilledTable()
+Table& FilledTable(std::size_t times = 1)
 {
-    static Table table = [] {
-        Table filled;
-        filled.InintOnce();
+    static std::array<Table, 3> tables = [] {
+        std::array<Table, 3> filled;
+        filled[1].InintOnce();
+        filled[2].InintOnce();
+        filled[2].InintOnce();
         return filled;
     }();
-    return table;
+    return tables[times];
 }
 
 inline std::string AgreeBars(const Case& c)

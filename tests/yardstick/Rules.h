@@ -142,18 +142,12 @@ inline std::string AgreeFreeSerials(const std::vector<unsigned>& serials)
 }
 
 // All look-ups on one list, which holds the texts on entry; fills gives how often the tables are filled.
-inline std::string AgreeLookUps(const Case& c, int fills)
+inline std::string AgreeLookUps(const Case& c, std::size_t fills)
 {
-    SteelBiao bars;
-    SteelTable plainBars;
-    GuJinBiao stirrups;
-    StirrupTable plainStirrups;
-    for (int i = 0; i < fills; ++i) {
-        bars.InintOnce();
-        plainBars.InintOnce();
-        stirrups.InintOnce();
-        plainStirrups.InintOnce();
-    }
+    auto& bars = FilledTable<SteelBiao>(fills);
+    auto& plainBars = FilledTable<SteelTable>(fills);
+    auto& stirrups = FilledTable<GuJinBiao>(fills);
+    auto& plainStirrups = FilledTable<StirrupTable>(fills);
     CStringArray list;
     AddAll(list, c.texts);
     List plain = c.texts;
