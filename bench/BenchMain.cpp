@@ -4,8 +4,8 @@
 #include <sys/resource.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <memory>
 
 #include "bench/Contenders.h"
@@ -207,10 +207,10 @@ Bench::FirstRun MeasureFirstRun()
     };
     CStringArray candidates;
     const long before = faults();
-    const auto begin = std::chrono::steady_clock::now();
+    const std::clock_t begin = std::clock();
     Bench::RunRanker(host, candidates);
-    const std::chrono::duration<double, std::milli> ms = std::chrono::steady_clock::now() - begin;
-    return {ms.count(), faults() - before};
+    const double ms = 1e3 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+    return {ms, faults() - before};
 }
 
 }  // namespace

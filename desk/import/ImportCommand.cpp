@@ -77,8 +77,8 @@ void Run(const Options& options, std::ostream& out)
         throw Failure(options.texts + ": holds no annotation that could be read; no project is written");
     }
     SaveProject(project, options.project);
-    out << "\nwritten to " << options.project << ": " << project.beams.size() << " beams, "
-        << project.walls.size() << " walls\n";
+    out << "\nwritten to " << options.project << ": " << Plural(project.beams.size(), "beam") << ", "
+        << Plural(project.walls.size(), "wall") << "\n";
 }
 
 }  // namespace

@@ -43,11 +43,6 @@ std::string Shown(const std::string& text)
     return "\"" + shown + "\"";
 }
 
-std::string Plural(std::size_t count, const std::string& word)
-{
-    return std::to_string(count) + " " + word + (count == 1 ? "" : "s");
-}
-
 class Report {
 public:
     Report(std::ostream& out, const std::vector<ImportedText>& texts) : m_out(out), m_texts(texts) {}
@@ -62,7 +57,7 @@ public:
         if (file.blankLines > 0) {
             m_out << ", " << Plural(file.blankLines, "blank line");
         }
-        m_out << "\nread " << all[0] << ", read in part " << all[1] << ", no annotation of a beam or wall "
+        m_out << "\nread " << all[0] << ", partly read " << all[1] << ", no annotation of a beam or wall "
               << all[2] << ", not read " << all[3] << "\n";
     }
 
@@ -177,6 +172,11 @@ private:
 };
 
 }  // namespace
+
+std::string Plural(std::size_t count, const std::string& word)
+{
+    return std::to_string(count) + " " + word + (count == 1 ? "" : "s");
+}
 
 std::string Ranges(const std::vector<std::size_t>& numbers)
 {

@@ -13,6 +13,9 @@ namespace Desk::Import {
 void PrintReport(std::ostream& out, const std::string& name, const TextsFile& file,
                  const std::vector<ImportedText>& texts, const Choices& choices, bool all);
 
+// "1 beam", "2 beams".
+[[nodiscard]] std::string Plural(std::size_t count, const std::string& word);
+
 // "12, 40-57": numbers that rise, runs of three and more as a range.
 [[nodiscard]] std::string Ranges(const std::vector<std::size_t>& numbers);
 

@@ -66,7 +66,7 @@ TEST_F(Command, WritesAProjectAndAccountsForEveryText)
     const std::string report = Run("t.txt -o p.json --grade C");
     for (const char* const part :
          {"t.txt: 7 lines, 6 texts, 1 blank line",
-          "read 3, read in part 1, no annotation of a beam or wall 1, not read 1", "top bars            4",
+          "read 3, partly read 1, no annotation of a beam or wall 1, not read 1", "top bars            4",
           "C for bars, C for stirrups", "1 text, line 1\n", "line 5: \"C30\": a concrete grade",
           "line 6: \"nothing\"", "line 7: \"2C25(2)\": left out: \"(2)\"",
           "written to p.json: 4 beams, 0 walls"}) {

@@ -37,10 +37,12 @@ TEST(TextsFile, TakesLinesWithAndWithoutKinds)
 
 TEST(TextsFile, KeepsTextsThatAreNoUse)
 {
-    EXPECT_EQ(Told("KL\0"s + "1\n"), Lines{"1||KL\0"s + "1|holds the control character 0x00"});
+    const std::string withZero = "1||KL\0001|holds the control character 0x00"s;
+    EXPECT_EQ(Told("KL\0001\n"s), Lines{withZero});
     EXPECT_EQ(Told("a\rb\n"), Lines{"1||a\rb|holds the control character 0x0D"});
     const std::string text(LongestText + 1, 'x');
-    EXPECT_EQ(Told(text), Lines{"1||" + text + "|a text of 1001 bytes; the longest that is read has 1000"});
+    const std::string tooLong = "1||" + text + "|a text of 1001 bytes; the longest that is read has 1000";
+    EXPECT_EQ(Told(text), Lines{tooLong});
 }
 
 TEST(TextsFile, ReadsGbk)

@@ -60,7 +60,6 @@ TEST(Events, WhatIsFinishedEarlyNeverReachesItsTarget)
 TEST(Events, LabelsAndDisabledControlsLeaveTheirEventsToTheParent)
 {
     TestPanel panel;
-    Hands hands;
     panel.Open();
     for (const int id : {Label, Dead}) {
         CWnd& control = *panel.GetDlgItem(id);
