@@ -207,7 +207,7 @@ void PrintReport(std::ostream& out, const std::string& name, const TextsFile& fi
     report.PrintFields();
     report.PrintFilled(choices);
     report.PrintContradictions();
-    report.PrintList("\nread in part\n", Outcome::InPart);
+    report.PrintList("\npartly read\n", Outcome::InPart);
     report.PrintList("\nno annotation of a beam or wall\n", Outcome::NoBeam);
     report.PrintList("\nnot read\n", Outcome::Unread);
     if (all) {

@@ -146,10 +146,16 @@ TEST(Save, AKillLeavesTheOldFileOrTheNewOneWhole)
     const Project first = SampleProject();
     const Project second = Other();
     const std::string texts[] = {FormatProject(first), FormatProject(second)};
+    // Kills fall anywhere in about two rounds of saving both, however slow the machine is.
+    const auto begin = std::chrono::steady_clock::now();
+    SaveProject(second, file);
     SaveProject(first, file);
+    const std::chrono::microseconds span = std::chrono::duration_cast<std::chrono::microseconds>(
+        2 * (std::chrono::steady_clock::now() - begin));
     std::mt19937 random(20240501);
+    std::uniform_int_distribution<long> when(0, span.count());
     int seen[] = {0, 0};
-    for (int round = 0; round < 40; ++round) {
+    for (int round = 0; round < 40 || (round < 400 && (seen[0] == 0 || seen[1] == 0)); ++round) {
         const pid_t child = fork();
         if (child == 0) {
             for (;;) {
@@ -157,7 +163,7 @@ TEST(Save, AKillLeavesTheOldFileOrTheNewOneWhole)
                 SaveProject(first, file);
             }
         }
-        std::this_thread::sleep_for(std::chrono::microseconds(random() % 20'000));
+        std::this_thread::sleep_for(std::chrono::microseconds(when(random)));
         kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
         const std::string text = ContentOf(file);

@@ -26,7 +26,10 @@ void Try(unsigned usual, Trial trial)
 }
 
 // Most lists are short, since a run is what matters; now and then a long one.
-unsigned LengthOf(Chance& chance) { return chance.OneIn(20) ? 120U : chance.Of({2U, 9U, 12U, 30U}); }
+unsigned LengthOf(Chance& chance)
+{
+    return chance.OneIn(20) ? 120U : static_cast<unsigned>(chance.Of({2, 9, 12, 30}));
+}
 
 TEST(RandomLists, Bars)
 {
