@@ -7,6 +7,8 @@ using WindowLayer::Find;
 
 namespace {
 
+constexpr int Farthest = 1 << 28;  // pixels; a few such distances still add up within 32 bits
+
 CRect OnScreen(const WindowRecord& window)
 {
     const CPoint origin = WindowLayer::ClientOrigin(window);
@@ -79,7 +81,11 @@ void CWnd::MoveWindow(int x, int y, int nWidth, int nHeight, BOOL /*bRepaint*/)
     if (window == nullptr) {
         return;
     }
-    const CRect place(x, y, x + std::max(nWidth, 0), y + std::max(nHeight, 0));
+    // A panel flung about by releases without presses must not run out of numbers.
+    const int left = std::clamp(x, -Farthest, Farthest);
+    const int top = std::clamp(y, -Farthest, Farthest);
+    const CRect place(left, top, left + std::clamp(nWidth, 0, Farthest),
+                      top + std::clamp(nHeight, 0, Farthest));
     if (window->place != place) {
         window->place = place;
         WindowLayer::Tell(m_hWnd, WindowChange::Place);
