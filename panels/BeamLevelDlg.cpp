@@ -127,8 +127,8 @@ void CBeamLevelDlg::OnButton0() { AddButNum("0"); }
 
 void CBeamLevelDlg::OnButtonDot()
 {
-    if (m_strResult.Find('.') < 0) {
-        AddButNum(".");
+    if (LevelText::AddPoint(m_strResult)) {
+        ShowResult();
     }
 }
 
