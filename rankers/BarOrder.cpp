@@ -44,10 +44,16 @@ int Compare(std::string_view a, std::string_view b) noexcept
 // the texts do, equal ones leave it to the texts.
 Key::Key(std::string_view text) noexcept : m_text(text)
 {
-    for (std::size_t i = 0; i < 8 * m_head.size(); ++i) {
-        const int ch = i < text.size() ? std::max(CharacterAt(text, i), 0) : 0;
-        m_head[i / 8] = (m_head[i / 8] << 8) | static_cast<std::uint64_t>(ch);
-    }
+    const auto packed = [text](std::size_t from) {
+        std::uint64_t bytes = 0;
+        for (std::size_t i = from; i < from + 8; ++i) {
+            const int ch = i < text.size() ? std::max(CharacterAt(text, i), 0) : 0;
+            bytes = (bytes << 8) | static_cast<std::uint64_t>(ch);
+        }
+        return bytes;
+    };
+    m_head = packed(0);
+    m_next = packed(8);
 }
 
 // Sorts the distinct texts only, then deals them out as often as each occurs, so that a project that

@@ -1,7 +1,6 @@
 // The order of bar annotations: piece by piece, pieces by their bytes.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string_view>
 
@@ -20,11 +19,15 @@ public:
 
     [[nodiscard]] friend bool operator<(const Key& a, const Key& b) noexcept
     {
-        return a.m_head != b.m_head ? a.m_head < b.m_head : Compare(a.m_text, b.m_text) < 0;
+        if (a.m_head != b.m_head) {
+            return a.m_head < b.m_head;
+        }
+        return a.m_next != b.m_next ? a.m_next < b.m_next : Compare(a.m_text, b.m_text) < 0;
     }
 
 private:
-    std::array<std::uint64_t, 2> m_head{};
+    std::uint64_t m_head = 0;  // the first eight bytes
+    std::uint64_t m_next = 0;  // the next eight
     std::string_view m_text;
 };
 
