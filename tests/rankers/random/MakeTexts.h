@@ -10,10 +10,12 @@ namespace Yardstick {
 
 class Chance {
 public:
-    explicit Chance(unsigned seed) : m_engine(seed) {}
+    explicit Chance(unsigned seed) : m_engine(seed), m_tidy(OneIn(3)) {}
 
     unsigned Below(std::size_t n) { return static_cast<unsigned>(m_engine() % n); }
     bool OneIn(unsigned n) { return Below(n) == 0; }
+    // For what only a careless hand writes: never in a third of the trials.
+    bool Odd(unsigned n) { return !m_tidy && OneIn(n); }
     std::string Of(std::initializer_list<const char*> texts) { return texts.begin()[Below(texts.size())]; }
     int Of(std::initializer_list<int> numbers) { return numbers.begin()[Below(numbers.size())]; }
     std::string Upto(unsigned n) { return std::to_string(Below(n + 1)); }
@@ -29,7 +31,7 @@ public:
     // Now and then a character too many, one missing, a wrong one, or the text cut and turned round.
     std::string Damaged(std::string text)
     {
-        if (!OneIn(4)) {
+        if (!Odd(4)) {
             return text;
         }
         for (unsigned times = Below(4); times > 0; --times) {
@@ -48,59 +50,60 @@ public:
 
     std::string Bars()
     {
-        std::string text = OneIn(6) ? Of({"N", "G", "*", "+(", "NN", "B"}) : "";
+        std::string text = Odd(6) ? Of({"N", "G", "*", "+(", "NN", "B"}) : "";
         do {
-            text += OneIn(12) ? Of({"", "10", "12", "0", "-1", "99999999999"}) : Upto(9);
-            text += OneIn(8) ? Of({"A", "C", "AB", "BA", "b"}) : "B";
-            text += OneIn(10) ? Of({"", "8", "32", "4294967297"})
-                              : Of({"12", "14", "16", "18", "20", "22", "25", "28"});
-            text += OneIn(3) ? Of({"+", "/", "++", ""}) : "";
-        } while (!text.empty() && (text.back() == '+' || text.back() == '/') && !OneIn(8));
-        return Damaged(text + (OneIn(12) ? Of({";", ",", " 4/2", ")", " "}) : ""));
+            text += Odd(12) ? Of({"", "10", "12", "0", "-1", "99999999999"}) : Upto(9);
+            text += Odd(8) ? Of({"A", "C", "AB", "BA", "b"}) : "B";
+            text += Odd(10) ? Of({"", "8", "32", "4294967297"})
+                            : Of({"12", "14", "16", "18", "20", "22", "25", "28"});
+            text += OneIn(3) ? Of({"+", "/"}) : Odd(8) ? "++" : "";
+        } while (!text.empty() && (text.back() == '+' || text.back() == '/') && !Odd(8));
+        return Damaged(text + (Odd(12) ? Of({";", ",", " 4/2", ")", " "}) : ""));
     }
 
     std::string Stirrup()
     {
         std::string text =
             Of({"A", "A", "A", "B", "C", "AB", ""}) + Of({"6", "8", "10", "12", "", "99999999999"});
-        text += OneIn(5) ? Of({"-", "", "@@", "-@", "/"}) : "@";
+        text += Odd(5) ? Of({"-", "", "@@", "-@", "/"}) : "@";
         if (OneIn(2)) {
             text +=
-                Of({"100", "120", "150", "", "1e2"}) + (OneIn(3) ? Of({"(2)", "(4)", "(", "()", ")"}) : "");
-            text += OneIn(10) ? Of({"//", "-"}) : "/";
+                Of({"100", "120", "150", "", "1e2"}) + (Odd(3) ? Of({"(2)", "(4)", "(", "()", ")"}) : "");
+            text += Odd(10) ? Of({"//", "-"}) : "/";
         }
         text += Of({"100", "150", "200", "250", "", "200.5"});
-        text += OneIn(6) ? Of({"", "(", "(4", "(12)", "((3)", ")2("}) : Of({"(2)", "(3)", "(4)", "(6)"});
+        text += Odd(6) ? Of({"", "(", "(4", "(12)", "((3)", ")2("}) : Of({"(2)", "(3)", "(4)", "(6)"});
         return Damaged(text);
     }
 
     std::string Section()
     {
-        std::string text = OneIn(6) ? Of({" ", "\t", "Y", "  Y", " y", "-"}) : "";
-        text += OneIn(10) ? Of({"", "99999999999", "0"}) : std::to_string(200 + 50 * Below(5));
-        text += OneIn(4) ? Of({"X", "*", "", "xx", " x", "*x"}) : "x";
-        text += OneIn(10) ? Of({"", "99999999999", "-5"}) : std::to_string(300 + 100 * Below(5));
-        return Damaged(text + (OneIn(4) ? Of({"/500", " Y500x250", " ", "/", "x", "\t"}) : ""));
+        std::string text = Odd(6) ? Of({" ", "\t", "Y", "  Y", " y", "-"}) : "";
+        text += Odd(10) ? Of({"", "99999999999", "0"}) : std::to_string(200 + 50 * Below(5));
+        text += Odd(4) ? Of({"", "xx", " x", "*x"}) : Of({"x", "x", "X", "*"});
+        text += Odd(10) ? Of({"", "99999999999", "-5"}) : std::to_string(300 + 100 * Below(5));
+        return Damaged(text + (OneIn(4) ? Of({"/500", " Y500x250"})
+                               : Odd(6) ? Of({" ", "/", "x", "\t"})
+                                        : ""));
     }
 
     std::string Elevation()
     {
-        std::string text = OneIn(4) ? Of({"(", " ", "+", "--", "\v", "H"}) : "";
+        std::string text = Odd(4) ? Of({"(", " ", "+", "--", "\v", "H"}) : "";
         text += OneIn(2) ? "-" : "";
-        text += OneIn(6) ? Of({"inf", "nan", "0x1A", "1e400", "1e-400", "0", "00000000000000000000001"})
-                         : Upto(12);
-        text += OneIn(5) ? Of({"", ",", ".", "..5"}) : "." + Of({"300", "3000", "05", "6", ""});
-        text += OneIn(6) ? Of({"e1", "e-1", "E+2", "e", "e+", ")", "m"}) : "";
+        text += Odd(6) ? Of({"inf", "nan", "0x1A", "1e400", "1e-400", "0", "00000000000000000000001"})
+                       : Upto(12);
+        text += Odd(5) ? Of({"", ",", ".", "..5"}) : "." + Of({"300", "3000", "05", "6", ""});
+        text += Odd(6) ? Of({"e1", "e-1", "E+2", "e", "e+", ")", "m"}) : "";
         return Damaged(text);
     }
 
     std::string Name()
     {
         std::string text =
-            OneIn(6) ? Of({"", "K", "XL", "AL", "Lb", "kl"}) : Of({"KL", "KL", "WKL", "L", "LL"});
-        text +=
-            OneIn(10) ? Of({"", "0", "-3", "2147483647", "-2147483648", "99999999999", "007"}) : Upto(30);
-        return Damaged(text + (OneIn(4) ? "" : Of({"(1)", "(2A)", "(3)", "(B)", "(", "()"})));
+            Odd(6) ? Of({"", "K", "XL", "AL", "Lb", "kl"}) : Of({"KL", "KL", "WKL", "L", "LL"});
+        text += Odd(10) ? Of({"", "0", "-3", "2147483647", "-2147483648", "99999999999", "007"}) : Upto(30);
+        return Damaged(text + (Odd(4) ? "" : Of({"(1)", "(2A)", "(3)", "(B)", "(", "()"})));
     }
 
     // Up to length texts, drawn from few or many different ones.
@@ -131,6 +134,7 @@ public:
 
 private:
     std::mt19937 m_engine;
+    bool m_tidy;
 };
 
 }  // namespace Yardstick
