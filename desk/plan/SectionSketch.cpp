@@ -1,0 +1,1 @@
+#include "desk/plan/SectionSketch.h"

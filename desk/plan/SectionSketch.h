@@ -1,0 +1,21 @@
+// SectionSketch: the cross section of one beam, drawn from its texts.
+#pragma once
+
+#include <QtWidgets>
+
+#include "desk/Project.h"
+
+namespace Desk {
+
+class SectionSketch : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit SectionSketch(QWidget* parent = nullptr);
+
+    // Draws a beam, which is copied; null for an empty sketch.
+    void SetBeam(const Beam* beam);
+    void SetDark(bool dark);
+};
+
+}  // namespace Desk

@@ -1,0 +1,1 @@
+#include "desk/shell/QtDisplay.h"

@@ -1,0 +1,1 @@
+#include "desk/window/MainWindow.h"

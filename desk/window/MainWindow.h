@@ -1,0 +1,2 @@
+// MainWindow: the drafting desk in a window.
+#pragma once
