@@ -3,9 +3,8 @@
 
 #include <optional>
 
-#include <QtWidgets>
-
 #include "desk/Place.h"
+#include "desk/shell/Toolkit.h"
 
 namespace Desk {
 

@@ -1,9 +1,8 @@
 // SectionSketch: the cross section of one beam, drawn from its texts.
 #pragma once
 
-#include <QtWidgets>
-
 #include "desk/Project.h"
+#include "desk/shell/Toolkit.h"
 
 namespace Desk {
 

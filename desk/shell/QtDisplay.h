@@ -3,9 +3,10 @@
 
 #include <memory>
 
-#include <QtWidgets>
-
+#include "desk/shell/Toolkit.h"
 #include "platform/Display.h"
+
+Q_DECLARE_OPAQUE_POINTER(HWND)  // so that signals carry handles
 
 namespace Desk {
 
