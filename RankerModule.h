@@ -1,6 +1,7 @@
 // The one header that a host includes.
 #pragma once
 
+#include "bartext/AnalyseBarComment.h"
 #include "geometry/DPoint.h"
 #include "griditem/ItemConstraints.h"
 #include "griditem/ListItems.h"
@@ -15,6 +16,9 @@
 #include "panels/BeamNameDlg.h"
 #include "panels/BeamSecDlg.h"
 #include "panels/BeamSteelDlg.h"
+#include "pickers/ColSpecControls.h"
+#include "pickers/HBarPropertySheet.h"
+#include "pickers/VBarPropertySheet.h"
 #include "platform/Arrays.h"
 #include "platform/CButton.h"
 #include "platform/CDialog.h"

@@ -18,6 +18,10 @@ add_library(RankerModule SHARED
   panels/NameText.cpp
   panels/PanelFrame.cpp
   panels/SectionText.cpp
+  pickers/ColSpecControls.cpp
+  pickers/HBarPropertySheet.cpp
+  pickers/ItemBinding.cpp
+  pickers/VBarPropertySheet.cpp
   rankers/BarOrder.cpp
   rankers/BeamLevelRanker.cpp
   rankers/BeamNameRanker.cpp
@@ -31,4 +35,4 @@ add_library(RankerModule SHARED
   tables/SteelBiao.cpp)
 target_include_directories(RankerModule PUBLIC
   $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
-target_link_libraries(RankerModule PUBLIC platform griditem PRIVATE $<BUILD_INTERFACE:ranker_warnings>)
+target_link_libraries(RankerModule PUBLIC platform griditem bartext PRIVATE $<BUILD_INTERFACE:ranker_warnings>)

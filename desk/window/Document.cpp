@@ -1,0 +1,139 @@
+// Every change of a text is one command on the undo stack.
+#include "desk/window/Document.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "desk/Encoding.h"
+#include "desk/Failure.h"
+#include "desk/ProjectFile.h"
+#include "desk/window/FieldNames.h"
+
+namespace Desk {
+
+namespace {
+
+constexpr int RecoveryDelay = 2000;  // ms from a change to its recovery copy
+
+}  // namespace
+
+class TextChange : public QUndoCommand {
+public:
+    TextChange(Document& document, const Place& place, std::string text)
+        : m_document(document), m_place(place), m_before(TextAt(document.Get(), place)),
+          m_after(std::move(text))
+    {
+        setText(QStringLiteral("%1: %2").arg(OwnerName(document.Get(), place), FieldName(place.field)));
+    }
+
+    void undo() override { m_document.PutText(m_place, m_before); }
+    void redo() override { m_document.PutText(m_place, m_after); }
+
+private:
+    Document& m_document;
+    Place m_place;
+    std::string m_before;
+    std::string m_after;
+};
+
+Document::Document(const QString& recoveryFolder, QObject* parent)
+    : QObject(parent), m_recovery(recoveryFolder)
+{
+    m_recoverySoon.setSingleShot(true);
+    m_recoverySoon.setInterval(RecoveryDelay);
+    connect(&m_recoverySoon, &QTimer::timeout, this, &Document::WriteRecoveryCopy);
+}
+
+Document::~Document() = default;
+
+void Document::OpenSample() { Replace(SampleProject(), QString()); }
+
+void Document::Open(const QString& file)
+{
+    const QString path = QFileInfo(file).absoluteFilePath();
+    Replace(ReadProject(path.toStdString()), path);
+}
+
+void Document::OpenLost(const LostWork& lost)
+{
+    Project project = ReadProject(lost.copy.toStdString());
+    Replace(std::move(project), lost.file);
+    m_changes.resetClean();
+    m_recovery.TakeOver(lost);
+}
+
+void Document::SaveAs(const QString& file)
+{
+    const QString path = QFileInfo(file).absoluteFilePath();
+    SaveProject(m_project, path.toStdString());
+    m_file = path;
+    NoteFileTime();
+    m_changes.setClean();
+    DropRecoveryCopy();
+    emit FileChanged();
+}
+
+bool Document::IsFileNewer() const
+{
+    return !m_file.isEmpty() && QFileInfo::exists(m_file) && QFileInfo(m_file).lastModified() != m_fileTime;
+}
+
+QString Document::SetText(const Place& place, const QString& text)
+{
+    const std::string wanted = text.trimmed().toStdString();
+    if (wanted == TextAt(m_project, place)) {
+        return {};
+    }
+    const auto isControl = [](char ch) { return static_cast<unsigned char>(ch) < ' ' || ch == '\x7F'; };
+    if (std::any_of(wanted.begin(), wanted.end(), isControl)) {
+        return tr("An annotation is a single line without control characters.");
+    }
+    if (!GbkFromUtf8(wanted)) {
+        return tr("\"%1\" holds a character that drawings cannot store.").arg(text.trimmed());
+    }
+    m_changes.push(new TextChange(*this, place, wanted));
+    return {};
+}
+
+void Document::DropRecoveryCopy()
+{
+    m_recoverySoon.stop();
+    m_recovery.Drop();
+}
+
+void Document::WriteRecoveryCopy()
+{
+    m_recoverySoon.stop();
+    try {
+        m_recovery.Write(m_project, m_file);
+    } catch (const Failure& failure) {
+        emit RecoveryFailed(QString::fromStdString(failure.what()));
+    }
+}
+
+void Document::PutText(const Place& place, const std::string& text)
+{
+    TextAt(m_project, place) = text;
+    if (!m_recoverySoon.isActive()) {
+        m_recoverySoon.start();
+    }
+    emit TextChanged(place);
+}
+
+void Document::Replace(Project project, const QString& file)
+{
+    DropRecoveryCopy();
+    m_project = std::move(project);
+    m_file = file;
+    NoteFileTime();
+    m_changes.clear();
+    emit Replaced();
+    emit FileChanged();
+}
+
+void Document::NoteFileTime()
+{
+    m_fileTime = m_file.isEmpty() ? QDateTime() : QFileInfo(m_file).lastModified();
+}
+
+}  // namespace Desk

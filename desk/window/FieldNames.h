@@ -1,0 +1,16 @@
+// What a person calls the annotations and the beams and walls that they belong to.
+#pragma once
+
+#include <QtCore>
+
+#include "desk/Place.h"
+
+namespace Desk {
+
+// "Stirrups"; in the interface's language.
+[[nodiscard]] QString FieldName(Field field);
+
+// "KL1(7)", "Wall Q1", or "Beam 12" counted from 1 when it has no name. The place must exist.
+[[nodiscard]] QString OwnerName(const Project& project, const Place& place);
+
+}  // namespace Desk

@@ -1,0 +1,65 @@
+// PanelHost: keeps the module's panels and pickers and opens the one that composes an annotation.
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <QtCore>
+
+#include "RankerModule.h"
+#include "desk/Place.h"
+#include "desk/shell/QtDisplay.h"
+
+class CHBarPropertySheet;
+class CVBarPropertySheet;
+
+namespace Desk {
+
+class PanelHost : public QObject {
+    Q_OBJECT
+
+public:
+    explicit PanelHost(QtDisplay& display, QObject* parent = nullptr);
+    ~PanelHost() override;
+
+    // A wall's name has none.
+    [[nodiscard]] static bool HasPanel(const Place& place);
+
+    // Opens the panel for the place on its present text, beside a field on the screen. What it had not
+    // confirmed for another place is given up, as by Esc.
+    void Open(const Place& place, const QString& present, const QRect& field, QWidget* owner);
+    // The place that an open panel serves.
+    [[nodiscard]] std::optional<Place> Serving() const;
+    // The window of the open panel, null when none is open.
+    [[nodiscard]] HWND Window() const;
+
+signals:
+    void Composed(const Desk::Place& place, const QString& text);
+
+private:
+    // The property item that panels and pickers hand their text to.
+    class Item : public CPropertyGridItem {
+    public:
+        explicit Item(PanelHost& host) : m_host(host) {}
+        void SetValue(CString strValue) override;
+
+    private:
+        PanelHost& m_host;
+    };
+
+    CDialog& Prepare(const Place& place, const CString& present);
+    template <class Dialog>
+    Dialog& Make();
+    template <class Picker>
+    CDialog& Bound(std::unique_ptr<Picker>& picker);
+
+    QtDisplay& m_display;
+    Item m_item;
+    Place m_place;
+    HWND m_open = nullptr;
+    std::unique_ptr<CDialog> m_panel;  // the one that was open last
+    std::unique_ptr<CHBarPropertySheet> m_horizontal;
+    std::unique_ptr<CVBarPropertySheet> m_vertical;
+};
+
+}  // namespace Desk

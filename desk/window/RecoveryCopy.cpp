@@ -1,0 +1,115 @@
+#include "desk/window/RecoveryCopy.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "desk/Failure.h"
+#include "desk/ProjectFile.h"
+
+namespace Desk {
+
+namespace {
+
+constexpr const char* CopySuffix = ".json";
+constexpr const char* FromSuffix = ".from";
+constexpr const char* LockSuffix = ".lock";
+
+QString WithSuffix(const LostWork& lost, const char* suffix)
+{
+    const QFileInfo copy(lost.copy);
+    return copy.dir().filePath(copy.completeBaseName() + QLatin1String(suffix));
+}
+
+// Held by nobody, or by a program that runs no more.
+bool IsFree(const QString& lockName)
+{
+    QLockFile lock(lockName);
+    lock.setStaleLockTime(0);
+    return lock.tryLock(0);
+}
+
+}  // namespace
+
+QList<LostWork> FindLostWork(const QString& folder)
+{
+    QList<LostWork> found;
+    const QFileInfoList copies = QDir(folder).entryInfoList(
+        {QStringLiteral("*") + QLatin1String(CopySuffix)}, QDir::Files, QDir::Time);
+    for (const QFileInfo& copy : copies) {
+        LostWork lost{copy.absoluteFilePath(), {}, copy.lastModified()};
+        if (!IsFree(WithSuffix(lost, LockSuffix))) {
+            continue;
+        }
+        QFile from(WithSuffix(lost, FromSuffix));
+        if (from.open(QIODevice::ReadOnly)) {
+            lost.file = QString::fromUtf8(from.readAll());
+        }
+        found.push_back(lost);
+    }
+    return found;
+}
+
+void DropLostWork(const LostWork& lost)
+{
+    for (const char* const suffix : {CopySuffix, FromSuffix, LockSuffix}) {
+        QFile::remove(WithSuffix(lost, suffix));
+    }
+}
+
+RecoveryCopy::RecoveryCopy(QString folder)
+    : m_folder(std::move(folder)), m_name(QUuid::createUuid().toString(QUuid::WithoutBraces))
+{
+}
+
+RecoveryCopy::~RecoveryCopy() = default;
+
+void RecoveryCopy::Write(const Project& project, const QString& file)
+{
+    if (m_folder.isEmpty()) {
+        return;
+    }
+    if (!QDir().mkpath(m_folder)) {
+        throw Failure("the folder of recovery copies cannot be made: " + m_folder.toStdString());
+    }
+    Lock();
+    QSaveFile from(Path(FromSuffix));
+    if (!from.open(QIODevice::WriteOnly) || from.write(file.toUtf8()) < 0 || !from.commit()) {
+        throw Failure("the recovery copy cannot be written: " + from.errorString().toStdString());
+    }
+    SaveProject(project, Path(CopySuffix).toStdString());
+}
+
+void RecoveryCopy::Drop()
+{
+    if (m_lock == nullptr) {
+        return;  // nothing was written
+    }
+    QFile::remove(Path(CopySuffix));
+    QFile::remove(Path(FromSuffix));
+    m_lock.reset();
+}
+
+void RecoveryCopy::TakeOver(const LostWork& lost)
+{
+    Drop();
+    const QFileInfo copy(lost.copy);
+    m_folder = copy.absolutePath();
+    m_name = copy.completeBaseName();
+    Lock();
+}
+
+QString RecoveryCopy::Path(const char* suffix) const
+{
+    return QDir(m_folder).filePath(m_name + QLatin1String(suffix));
+}
+
+void RecoveryCopy::Lock()
+{
+    if (m_lock == nullptr) {
+        m_lock = std::make_unique<QLockFile>(Path(LockSuffix));
+        m_lock->setStaleLockTime(0);
+        m_lock->tryLock(0);
+    }
+}
+
+}  // namespace Desk

@@ -1,0 +1,48 @@
+// Recovery copies: what is left of unsaved work when the program or the machine stops in the middle.
+#pragma once
+
+#include <memory>
+
+#include <QtCore>
+
+#include "desk/Project.h"
+
+namespace Desk {
+
+// One copy that a broken-off session left.
+struct LostWork {
+    QString copy;  // the file that holds the project
+    QString file;  // where the project came from, empty for one that was never saved
+    QDateTime time;
+};
+
+// Copies in the folder whose program runs no more, the latest first.
+[[nodiscard]] QList<LostWork> FindLostWork(const QString& folder);
+void DropLostWork(const LostWork& lost);
+
+// The copy of one document: NAME.json with the project, NAME.from with the name of its file, NAME.lock
+// held for as long as this program runs.
+class RecoveryCopy {
+public:
+    // An empty folder name: no copy is kept.
+    explicit RecoveryCopy(QString folder);
+    ~RecoveryCopy();
+    RecoveryCopy(const RecoveryCopy&) = delete;
+    RecoveryCopy& operator=(const RecoveryCopy&) = delete;
+
+    // Throws Failure when it cannot be written.
+    void Write(const Project& project, const QString& file);
+    void Drop();
+    // Goes on with a copy that a broken-off session left, in place of an own one.
+    void TakeOver(const LostWork& lost);
+
+private:
+    [[nodiscard]] QString Path(const char* suffix) const;
+    void Lock();
+
+    QString m_folder;
+    QString m_name;
+    std::unique_ptr<QLockFile> m_lock;
+};
+
+}  // namespace Desk

@@ -1,0 +1,102 @@
+#include "pickers/VBarPropertySheet.h"
+
+#include "bartext/AnalyseBarComment.h"
+#include "pickers/VBarTemplate.h"
+#include "platform/DataExchange.h"
+
+using namespace VBarTemplate;
+using namespace ItemBinding;
+
+BEGIN_MESSAGE_MAP(CVBarPropertySheet, CDialog)
+ON_WM_RBUTTONDOWN()
+ON_WM_KEYDOWN()
+ON_LBN_SELCHANGE(GradeList, &CVBarPropertySheet::OnSelchangeListVbarGrade)
+ON_LBN_SELCHANGE(DiameterList, &CVBarPropertySheet::OnSelchangeListVbarDiameter)
+END_MESSAGE_MAP()
+
+CVBarPropertySheet::CVBarPropertySheet(CWnd* pParent) : CDialog(Shape, pParent)
+{
+    SetRows(m_arrGrade, GradeRows);
+    SetRows(m_arrDiameter, FirstRows);
+}
+
+CVBarPropertySheet::~CVBarPropertySheet() = default;
+
+void CVBarPropertySheet::DoDataExchange(CDataExchange* pDX)
+{
+    CDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, GradeEdit, m_GradeEdit);
+    DDX_Control(pDX, DiameterEdit, m_DiameterEdit);
+    DDX_Control(pDX, GradeList, m_GradeList);
+    DDX_Control(pDX, DiameterList, m_DiameterList);
+}
+
+BOOL CVBarPropertySheet::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    m_GradeEdit.SetWindowText(m_arrGrade[0]);
+    m_DiameterEdit.SetWindowText(m_arrDiameter[0]);
+    Fill(m_GradeList, m_arrGrade);
+    Fill(m_DiameterList, m_arrDiameter);
+    return TRUE;
+}
+
+void CVBarPropertySheet::UpdateValue()
+{
+    if (!IsUsable(m_pItem)) {
+        return;
+    }
+    const CString value = m_pItem->GetValue();
+    const CString grade = GradeIn(value);
+    if (!grade.IsEmpty()) {
+        m_GradeEdit.SetWindowText(grade);
+    }
+    int gradeNumber;
+    int diameter;
+    int tight;
+    int normal;
+    AnalyseBarComment(value, gradeNumber, diameter, tight, normal, nullptr);
+    CString diameterText;
+    diameterText.Format("%d", diameter);
+    m_DiameterEdit.SetWindowText(diameterText);
+    SetSelectFlag(grade, diameterText);
+}
+
+void CVBarPropertySheet::SetSelectFlag(CString strGrade, CString strDiameter)
+{
+    Select(m_GradeList, m_arrGrade, strGrade);
+    Select(m_DiameterList, m_arrDiameter, strDiameter);
+}
+
+void CVBarPropertySheet::OnRButtonDown(UINT /*nFlags*/, CPoint /*point*/)
+{
+    Confirm(*this, m_life, TextOf(m_GradeEdit) + TextOf(m_DiameterEdit));
+}
+
+void CVBarPropertySheet::OnKeyDown(UINT nChar, UINT /*nRepCnt*/, UINT /*nFlags*/)
+{
+    if (nChar == VK_ESCAPE) {
+        Dismiss(*this);
+    }
+}
+
+void CVBarPropertySheet::OnSelchangeListVbarGrade()
+{
+    const int row = m_GradeList.GetCurSel();
+    if (row < 0 || row >= m_arrGrade.GetSize()) {
+        return;
+    }
+    m_GradeEdit.SetWindowText(m_arrGrade[row]);
+    if (row == 0) {
+        SetRows(m_arrDiameter, PlainRows);
+    } else {
+        SetRows(m_arrDiameter, RibbedRows);
+    }
+    m_DiameterEdit.SetWindowText(m_arrDiameter[0]);
+    Fill(m_DiameterList, m_arrDiameter);
+}
+
+void CVBarPropertySheet::OnSelchangeListVbarDiameter()
+{
+    TakeRow(m_DiameterList, m_arrDiameter, m_DiameterEdit);
+}

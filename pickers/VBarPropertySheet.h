@@ -1,0 +1,43 @@
+// CVBarPropertySheet: the pop-up that sets a wall's vertical bars, such as "B16".
+#pragma once
+
+#include "pickers/ColSpecControls.h"
+#include "pickers/ItemBinding.h"
+#include "platform/CDialog.h"
+
+// The twin of the horizontal picker for grade and diameter alone. A click on a grade puts the diameters
+// of that grade on offer; a new picker offers rows of its own until then.
+class RANKER_API CVBarPropertySheet : public CDialog {
+public:
+    static constexpr UINT IDD = 365;
+
+    explicit CVBarPropertySheet(CWnd* pParent = nullptr);
+    ~CVBarPropertySheet() override;
+
+    // As the horizontal picker's. The diameters on offer stay, whatever the grade.
+    void UpdateValue();
+
+    void OnRButtonDown(UINT nFlags, CPoint point);
+    void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnSelchangeListVbarGrade();
+    void OnSelchangeListVbarDiameter();
+
+    CColSpecEdit m_GradeEdit;
+    CColSpecEdit m_DiameterEdit;
+    CColSpecList m_GradeList;
+    CColSpecList m_DiameterList;
+    CPropertyGridItem* m_pItem = nullptr;  // borrowed
+    CStringArray m_arrGrade;
+    CStringArray m_arrDiameter;  // on offer at present
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+
+private:
+    void SetSelectFlag(CString strGrade, CString strDiameter);
+
+    ItemBinding::Life m_life;
+
+    DECLARE_MESSAGE_MAP()
+};
