@@ -10,6 +10,7 @@
 #include "desk/Failure.h"
 #include "desk/Options.h"
 #include "desk/Tour.h"
+#include "desk/window/Window.h"
 
 namespace {
 
@@ -110,6 +111,8 @@ int RunDesk(int argc, char** argv)
     Desk::AddHitrateCommand(program, std::cout);
     Desk::AddPanelCommand(program, std::cout);
     Desk::AddEventsCommand(program, std::cout);
+    Desk::AddWindowCommand(program);
+    Desk::AddShotCommand(program);
 
     try {
         program.parse(argc, argv);

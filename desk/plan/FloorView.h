@@ -2,9 +2,9 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
-#include "desk/Place.h"
-#include "desk/shell/Toolkit.h"
+#include "desk/plan/OwnerItem.h"
 
 namespace Desk {
 
@@ -22,10 +22,12 @@ public:
 
     // Lights up an annotation and brings it into view; nothing for none. Does not signal.
     void SetChosen(std::optional<Place> place);
-    [[nodiscard]] std::optional<Place> Chosen() const;
+    [[nodiscard]] std::optional<Place> Chosen() const { return m_chosen; }
 
     // Where an annotation's text shows, in pixels of the screen; where it would stand when it is empty.
     [[nodiscard]] QRect OnScreen(const Place& place) const;
+    // Blocks of texts that lie on another text for want of room.
+    [[nodiscard]] int CoveringBlocks() const { return m_covering; }
 
     void Fit();
     void ZoomBy(double factor);  // about the middle of the view
@@ -35,6 +37,42 @@ signals:
     void Picked(const Desk::Place& place);  // a press on an annotation; on a beam or wall itself: its name
     void PanelAsked(const Desk::Place& place);  // a double click
     void NothingPicked();                       // a press on bare ground without a drag
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override { event->ignore(); }  // the window's
+    void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    struct Hit {
+        OwnerItem* item = nullptr;
+        Field field = Field::Name;
+        bool onText = false;
+    };
+
+    [[nodiscard]] Hit HitAt(const QPoint& inView) const;
+    [[nodiscard]] OwnerItem* ItemOf(const Place& place) const;
+    void AddAxes();
+    void ZoomTo(double scale);
+    void PanBy(const QPoint& pixels);
+    void Hover(const Hit& hit);
+
+    const Project* m_project = nullptr;
+    std::vector<OwnerItem*> m_items;  // beams, then walls; the scene owns them
+    int m_covering = 0;
+    std::optional<Place> m_chosen;
+    OwnerItem* m_hovered = nullptr;
+    bool m_isDark = false;
+    bool m_isFitted = true;  // until the person zooms or pans
+    bool m_isPanning = false;
+    bool m_mayPan = false;
+    QPoint m_pressed;  // in the view
+    QPoint m_panned;
 };
 
 }  // namespace Desk

@@ -1,7 +1,7 @@
 // SectionSketch: the cross section of one beam, drawn from its texts.
 #pragma once
 
-#include "desk/Project.h"
+#include "desk/plan/SectionLayout.h"
 #include "desk/shell/Toolkit.h"
 
 namespace Desk {
@@ -12,9 +12,23 @@ class SectionSketch : public QWidget {
 public:
     explicit SectionSketch(QWidget* parent = nullptr);
 
-    // Draws a beam, which is copied; null for an empty sketch.
-    void SetBeam(const Beam* beam);
-    void SetDark(bool dark);
+    // Draws a beam where the field counts; null for an empty sketch. Keeps nothing of the beam.
+    void SetBeam(const Beam* beam, Field field = Field::TopBars);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void PaintConcrete(QPainter& painter, const QTransform& toWidget) const;
+    void PaintSizes(QPainter& painter, const QRectF& section) const;
+    void PaintNotes(QPainter& painter, const QRectF& room, const QRectF& section) const;
+    [[nodiscard]] QStringList Warnings() const;
+    [[nodiscard]] bool IsFaulty(Field field) const;
+    [[nodiscard]] QColor Warning() const;
+
+    bool m_isEmpty = true;
+    Field m_field = Field::TopBars;
+    SectionLayout m_layout;
 };
 
 }  // namespace Desk

@@ -1,1 +1,237 @@
+// Records to widgets. What comes back from the widgets is in QtInput.cpp.
 #include "desk/shell/QtDisplay.h"
+
+#include "desk/Encoding.h"
+#include "desk/shell/PopUp.h"
+#include "desk/shell/QtInput.h"
+
+namespace Desk {
+
+class QtDisplay::Private {
+public:
+    explicit Private(QtDisplay& owner) : display(owner), input(owner) {}
+
+    [[nodiscard]] QWidget* Find(HWND handle) const { return widgets.value(handle); }
+    [[nodiscard]] Scale Now() const { return Scale(zoom); }
+
+    void Make(const WindowRecord& window)
+    {
+        if (window.kind == WindowKind::Frame) {
+            return;
+        }
+        QWidget* made = nullptr;
+        if (window.kind == WindowKind::PopUp) {
+            made = new Surface(nullptr);
+        } else if (QWidget* const surface = Find(window.parent)) {
+            made = MakeControl(window, surface);
+            if (auto* const line = qobject_cast<QLineEdit*>(made)) {
+                input.Follow(*line, window.handle);
+            }
+            // Tab and template order agree; where two overlap the earlier one is on top.
+            made->lower();
+            made->show();
+        }
+        if (made == nullptr) {
+            return;
+        }
+        widgets.insert(window.handle, made);
+        input.Know(*made, window.handle);
+        TakeAll(*made, window);
+    }
+
+    void TakeAll(QWidget& widget, const WindowRecord& window) const
+    {
+        TakePlace(widget, window, Now());
+        TakeText(widget, window);
+        if (auto* const list = qobject_cast<ListWidget*>(&widget)) {
+            list->TakeRows(window, Now());
+        }
+        if (window.IsControl()) {
+            widget.setEnabled(window.enabled);
+            widget.setVisible(window.visible);
+        }
+    }
+
+    // Shows or hides a pop-up, and hands the keyboard over and back.
+    void TakeVisible(QWidget& surface, const WindowRecord& window)
+    {
+        if (window.visible == surface.isVisible()) {
+            return;
+        }
+        if (window.visible) {
+            if (openOver == nullptr) {
+                before = QApplication::focusWidget();
+            }
+            surface.show();
+            surface.raise();
+            surface.activateWindow();
+            emit display.Shown(window.handle);
+        } else {
+            surface.hide();
+            if (before != nullptr && before->window() != &surface) {
+                before->window()->activateWindow();
+                before->setFocus(Qt::PopupFocusReason);
+            }
+            before = nullptr;
+            emit display.Hidden(window.handle);
+        }
+        openOver = window.visible ? &surface : nullptr;
+    }
+
+    QtDisplay& display;
+    QtInput input;
+    double zoom = 1.0;
+    QHash<HWND, QWidget*> widgets;
+    QPointer<QWidget> before;    // had the keyboard when the pop-up came
+    QPointer<QWidget> openOver;  // the pop-up that is open
+};
+
+QtDisplay::QtDisplay(QObject* parent) : QObject(parent), m_private(std::make_unique<Private>(*this))
+{
+    qApp->installEventFilter(&m_private->input);
+    SetDisplay(this);
+}
+
+QtDisplay::~QtDisplay()
+{
+    SetDisplay(nullptr);
+    for (QWidget* const widget : std::as_const(m_private->widgets)) {
+        if (widget->isWindow()) {
+            delete widget;
+        }
+    }
+}
+
+void QtDisplay::SetZoom(double zoom)
+{
+    m_private->zoom = zoom;
+    for (const HWND window : AllWindows()) {
+        if (QWidget* const widget = WidgetOf(window)) {
+            m_private->TakeAll(*widget, *FindWindowRecord(window));
+        }
+    }
+}
+
+double QtDisplay::Zoom() const { return m_private->zoom; }
+
+void QtDisplay::OpenBeside(HWND popUp, const QRect& field, QWidget* owner)
+{
+    QWidget* const surface = WidgetOf(popUp);
+    CWnd* const window = CWnd::FromHandle(popUp);
+    if (surface == nullptr || window == nullptr) {
+        return;
+    }
+    constexpr int Gap = 4;
+    const QScreen* screen = QGuiApplication::screenAt(field.center());
+    screen = screen != nullptr ? screen : QGuiApplication::primaryScreen();
+    const QRect room = screen->availableGeometry();
+    const QSize size = surface->size();
+    int y = field.bottom() + Gap;
+    if (y + size.height() > room.bottom()) {
+        y = field.top() - Gap - size.height();
+    }
+    const QPoint corner(qBound(room.left(), field.left(), qMax(room.left(), room.right() - size.width())),
+                        qBound(room.top(), y, qMax(room.top(), room.bottom() - size.height())));
+    const CPoint at = m_private->Now().FromWidget(QPointF(corner));
+    CRect place;
+    window->GetWindowRect(&place);
+    if (owner != nullptr) {
+        surface->winId();  // makes the native window that the owner is told to
+        owner->window()->winId();
+        surface->windowHandle()->setTransientParent(owner->window()->windowHandle());
+    }
+    window->MoveWindow(at.x, at.y, place.Width(), place.Height());
+    window->ShowWindow(SW_SHOW);
+}
+
+QWidget* QtDisplay::WidgetOf(HWND hWnd) const { return m_private->Find(hWnd); }
+
+void QtDisplay::WindowCreated(const WindowRecord& window) { m_private->Make(window); }
+
+void QtDisplay::WindowChanged(const WindowRecord& window, WindowChange change)
+{
+    QWidget* const widget = WidgetOf(window.handle);
+    if (widget == nullptr) {
+        return;
+    }
+    auto* const list = qobject_cast<ListWidget*>(widget);
+    switch (change) {
+    case WindowChange::Place:
+        TakePlace(*widget, window, m_private->Now());
+        if (list != nullptr) {
+            list->TakeRows(window, m_private->Now());
+        }
+        break;
+    case WindowChange::Text:
+    case WindowChange::Caret:
+        if (!m_private->input.IsReporting(window.handle)) {
+            TakeText(*widget, window);
+        }
+        break;
+    case WindowChange::Rows:
+        if (list != nullptr) {
+            list->TakeRows(window, m_private->Now());
+        }
+        break;
+    case WindowChange::Selection:
+        if (list != nullptr) {
+            list->TakeSelection(window);
+        }
+        break;
+    case WindowChange::Scroll:
+        if (list != nullptr) {
+            list->TakeTop(window);
+        }
+        break;
+    case WindowChange::Visible:
+        if (window.IsControl()) {
+            widget->setVisible(window.visible);
+        } else {
+            m_private->TakeVisible(*widget, window);
+        }
+        break;
+    case WindowChange::Enabled:
+        if (window.IsControl()) {
+            widget->setEnabled(window.enabled);
+        }
+        break;
+    case WindowChange::Focus: m_private->input.TakeFocus(*widget); break;
+    case WindowChange::Order:
+        if (widget->isWindow()) {
+            widget->raise();
+        }
+        break;
+    }
+}
+
+void QtDisplay::WindowDestroyed(HWND hWnd)
+{
+    QWidget* const widget = m_private->widgets.take(hWnd);
+    if (widget == nullptr) {
+        return;
+    }
+    const bool shown = widget->isWindow() && widget->isVisible();
+    m_private->input.Forget(*widget);
+    widget->hide();
+    widget->deleteLater();  // an event may still be on its way through it
+    if (shown) {
+        if (m_private->before != nullptr) {
+            m_private->before->window()->activateWindow();
+            m_private->before->setFocus(Qt::PopupFocusReason);
+        }
+        m_private->before = nullptr;
+        m_private->openOver = nullptr;
+        emit Hidden(hWnd);
+    }
+}
+
+int QtDisplay::ShowMessageBox(const CString& text)
+{
+    QMessageBox box(QMessageBox::Information, QStringLiteral("beamdesk"), Desk::Shown(text),
+                    QMessageBox::Ok, m_private->openOver);
+    box.setObjectName("message");
+    box.exec();
+    return IDOK;
+}
+
+}  // namespace Desk

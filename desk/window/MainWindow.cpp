@@ -133,7 +133,8 @@ void MainWindow::ShowChosen()
     m_floor->SetChosen(m_chosen);
     m_properties->Show(m_document.Get(), m_chosen);
     const bool beam = m_chosen && !m_chosen->isWall;
-    m_sketch->SetBeam(beam ? &m_document.Get().beams[m_chosen->index] : nullptr);
+    m_sketch->SetBeam(beam ? &m_document.Get().beams[m_chosen->index] : nullptr,
+                      beam ? m_chosen->field : Field::TopBars);
     ShowChoices();
 }
 

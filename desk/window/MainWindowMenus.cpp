@@ -155,7 +155,6 @@ void MainWindow::SetAppearance(Appearance appearance)
     m_settings.setValue("appearance", static_cast<int>(appearance));
     const bool dark = ApplyAppearance(appearance);
     m_floor->SetDark(dark);
-    m_sketch->SetDark(dark);
     ShowChoices();  // its marks have the old colours
 }
 

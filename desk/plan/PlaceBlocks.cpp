@@ -1,0 +1,102 @@
+// Occupied rectangles are kept by the cells of a grid.
+#include "desk/plan/PlaceBlocks.h"
+
+#include <cmath>
+#include <unordered_map>
+
+namespace Desk {
+
+namespace {
+
+constexpr double Cell = 3000.0;   // mm
+constexpr double Clear = 100.0;   // mm around a block
+constexpr double OnText = 100.0;  // what covering a text weighs against covering a beam
+
+class Ground {
+public:
+    void Occupy(const QRectF& rect, double weight)
+    {
+        const std::size_t number = m_rects.size();
+        m_rects.push_back({rect, weight});
+        ForEachCell(rect, [&](std::int64_t cell) { m_cells[cell].push_back(number); });
+    }
+
+    // The weighted area that is covered; more than a limit is not looked into.
+    [[nodiscard]] double Covered(const QRectF& rect, double limit) const
+    {
+        double covered = 0.0;
+        ForEachCell(rect, [&](std::int64_t cell) {
+            const auto found = m_cells.find(cell);
+            if (found == m_cells.end() || covered > limit) {
+                return;
+            }
+            for (const std::size_t number : found->second) {
+                const QRectF both = rect & m_rects[number].rect;
+                covered += both.width() * both.height() * m_rects[number].weight;
+            }
+        });
+        return covered;
+    }
+
+private:
+    struct Occupied {
+        QRectF rect;
+        double weight;
+    };
+
+    template <class Use>
+    static void ForEachCell(const QRectF& rect, Use use)
+    {
+        const auto index = [](double place) { return static_cast<std::int64_t>(std::floor(place / Cell)); };
+        for (std::int64_t y = index(rect.top()); y <= index(rect.bottom()); ++y) {
+            for (std::int64_t x = index(rect.left()); x <= index(rect.right()); ++x) {
+                use((y << 32) ^ (x & 0xFFFFFFFF));
+            }
+        }
+    }
+
+    std::vector<Occupied> m_rects;
+    std::unordered_map<std::int64_t, std::vector<std::size_t>> m_cells;
+};
+
+// A rectangle that is drawn has an area even where it is a line.
+QRectF Solid(const QRectF& rect) { return rect.adjusted(-1, -1, 1, 1); }
+
+}  // namespace
+
+int PlaceBlocks(const std::vector<OwnerItem*>& items)
+{
+    Ground ground;
+    for (const OwnerItem* const item : items) {
+        ground.Occupy(Solid(item->mapRectToScene(item->Body())), 1.0);
+        for (const QRectF& box : item->EndBoxes()) {
+            ground.Occupy(item->mapRectToScene(box), OnText);
+        }
+    }
+    int covering = 0;
+    for (OwnerItem* const item : items) {
+        const QSizeF size = item->BlockSize();
+        double least = std::numeric_limits<double>::max();
+        QPointF best;
+        QRectF bestRect;
+        for (const QPointF& place : item->BlockPlaces()) {
+            const QRectF rect =
+                item->mapRectToScene(QRectF(place, size).adjusted(-Clear, -Clear, Clear, Clear));
+            const double covered = ground.Covered(rect, least);
+            if (covered < least) {
+                least = covered;
+                best = place;
+                bestRect = rect;
+            }
+            if (least <= 0.0) {
+                break;
+            }
+        }
+        item->SetBlock(best);
+        ground.Occupy(bestRect, OnText);
+        covering += least >= OnText * Clear * Clear ? 1 : 0;
+    }
+    return covering;
+}
+
+}  // namespace Desk

@@ -1,0 +1,15 @@
+// Key codes of the toolkit as the window layer numbers them.
+#pragma once
+
+#include "desk/shell/Toolkit.h"
+#include "platform/Messages.h"
+
+namespace Desk {
+
+// 0 for a key that the window layer has no number for.
+[[nodiscard]] UINT KeyCode(const QKeyEvent& key);
+
+// A line edit has a use of its own for the key: letters, caret, deletion, clipboard.
+[[nodiscard]] bool IsForLineEdit(const QKeyEvent& key);
+
+}  // namespace Desk

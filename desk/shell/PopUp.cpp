@@ -1,0 +1,219 @@
+#include "desk/shell/PopUp.h"
+
+#include <algorithm>
+
+#include "desk/Encoding.h"
+#include "platform/Events.h"
+
+namespace Desk {
+
+namespace {
+
+constexpr int RowHeight = 12;      // pixels of the window layer
+constexpr int FontHeight = 12;     // of a 9-point font
+constexpr int ScrollBarWidth = 6;  // pixels of the window layer
+
+// Rows of one height, filled whole when selected.
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override
+    {
+        const bool selected = option.state.testFlag(QStyle::State_Selected);
+        const QPalette::ColorGroup group =
+            option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
+        if (selected) {
+            painter->fillRect(option.rect, option.palette.brush(group, QPalette::Highlight));
+        }
+        painter->setFont(option.font);
+        painter->setPen(option.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text));
+        painter->drawText(option.rect.adjusted(2, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                          index.data().toString());
+    }
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& /*option*/,
+                                 const QModelIndex& index) const override
+    {
+        return index.data(Qt::SizeHintRole).toSize();
+    }
+};
+
+}  // namespace
+
+ListWidget::ListWidget(HWND list, QWidget* parent) : QListView(parent), m_list(list)
+{
+    setModel(new QStandardItemModel(this));
+    setItemDelegate(new RowDelegate(this));
+    setFrameShape(QFrame::NoFrame);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setUniformItemSizes(true);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
+    m_isMultiColumn = Has(FindWindowRecord(list)->style, ControlStyle::MultiColumn);
+    setFlow(m_isMultiColumn ? QListView::LeftToRight : QListView::TopToBottom);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* const slim = new QScrollBar(m_isMultiColumn ? Qt::Horizontal : Qt::Vertical, this);
+    slim->setObjectName("scroll");
+    slim->setFocusPolicy(Qt::NoFocus);
+    slim->hide();
+    connect(slim, &QScrollBar::valueChanged, this, [this](int top) {
+        if (!m_isMirroring) {
+            SendMessage(m_list, LB_SETTOPINDEX, static_cast<WPARAM>(top));
+        }
+    });
+}
+
+QScrollBar& ListWidget::Bar() const
+{
+    return *findChild<QScrollBar*>("scroll", Qt::FindDirectChildrenOnly);
+}
+
+void ListWidget::TakeRows(const WindowRecord& list, const Scale& scale)
+{
+    auto& rows = static_cast<QStandardItemModel&>(*model());
+    rows.clear();
+    const int across = m_isMultiColumn ? scale.ToWidget(list.list.columnWidth) : 1;
+    const QSize size(across, scale.ToWidget(RowHeight));
+    for (const CString& text : list.list.rows) {
+        auto* const row = new QStandardItem(Shown(text));
+        row->setSizeHint(size);
+        rows.appendRow(row);
+    }
+    // What does not fit is reached by a slim bar over the list's edge.
+    const QScopedValueRollback mirroring(m_isMirroring, true);
+    const int count = static_cast<int>(list.list.rows.size());
+    const int inView = m_isMultiColumn
+                           ? std::max(1, list.place.Width() / std::max(1, list.list.columnWidth))
+                           : std::max(1, list.place.Height() / RowHeight);
+    QScrollBar& bar = Bar();
+    bar.setRange(0, std::max(0, count - inView));
+    bar.setPageStep(inView);
+    bar.setVisible(count > inView);
+    const int slim = scale.ToWidget(ScrollBarWidth);
+    const QSize all = scale.ToWidget(list.place).size();
+    bar.setGeometry(m_isMultiColumn ? QRect(0, all.height() - slim, all.width(), slim)
+                                    : QRect(all.width() - slim, 0, slim, all.height()));
+    if (m_isMultiColumn && list.place.Height() < RowHeight + ScrollBarWidth) {
+        bar.hide();  // it would cover the only row; wheel and arrow keys scroll
+    }
+    bar.raise();
+    TakeSelection(list);
+    TakeTop(list);
+}
+
+void ListWidget::TakeSelection(const WindowRecord& list)
+{
+    const int row = list.list.selection;
+    if (row < 0) {
+        selectionModel()->clear();
+    } else {
+        const int top = list.list.top;
+        selectionModel()->setCurrentIndex(model()->index(row, 0), QItemSelectionModel::ClearAndSelect);
+        if (top != list.list.top) {
+            TakeTop(list);
+        }
+    }
+    TakeTop(list);
+}
+
+void ListWidget::TakeTop(const WindowRecord& list)
+{
+    const QScopedValueRollback mirroring(m_isMirroring, true);
+    Bar().setValue(list.list.top);
+    if (model()->rowCount() > 0) {
+        executeDelayedItemsLayout();
+        QScrollBar& own = m_isMultiColumn ? *horizontalScrollBar() : *verticalScrollBar();
+        own.setMaximum(std::max(own.maximum(), list.list.top));  // the last row may stand alone at the top
+        own.setValue(list.list.top);
+    }
+}
+
+Surface::Surface(QWidget* owner) : QWidget(owner, Qt::Tool | Qt::FramelessWindowHint)
+{
+    setObjectName("panel");
+    setFocusPolicy(Qt::StrongFocus);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setAutoFillBackground(true);
+}
+
+void Surface::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+QString Shown(const CString& text) { return QString::fromStdString(Utf8FromGbk(text)); }
+
+int CaretInWidget(const WindowRecord& box)
+{
+    return static_cast<int>(Shown(box.text.Left(box.edit.caret)).size());
+}
+
+QWidget* MakeControl(const WindowRecord& control, QWidget* surface)
+{
+    QWidget* made = nullptr;
+    switch (control.kind) {
+    case WindowKind::ListBox: made = new ListWidget(control.handle, surface); break;
+    case WindowKind::EditBox: {
+        auto* const line = new QLineEdit(surface);
+        line->setFrame(false);
+        line->setTextMargins(0, 0, 0, 0);
+        if (Has(control.style, ControlStyle::AlignRight)) {
+            line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        }
+        line->setAutoFillBackground(true);
+        made = line;
+        break;
+    }
+    case WindowKind::Button: {
+        auto* const button = new QPushButton(surface);
+        button->setAutoDefault(false);
+        made = button;
+        break;
+    }
+    default: {
+        auto* const label = new QLabel(surface);
+        label->setAlignment((Has(control.style, ControlStyle::AlignCenter)  ? Qt::AlignHCenter
+                             : Has(control.style, ControlStyle::AlignRight) ? Qt::AlignRight
+                                                                            : Qt::AlignLeft) |
+                            Qt::AlignVCenter);
+        label->setTextFormat(Qt::PlainText);
+        made = label;
+        break;
+    }
+    }
+    made->setContextMenuPolicy(Qt::PreventContextMenu);
+    return made;
+}
+
+void TakePlace(QWidget& widget, const WindowRecord& window, const Scale& scale)
+{
+    widget.setGeometry(scale.ToWidget(window.place));
+    QFont font = widget.font();
+    font.setPixelSize(scale.ToWidget(FontHeight) - (scale.Zoom() > 1.0 ? 1 : 0));
+    widget.setFont(font);
+}
+
+void TakeText(QWidget& widget, const WindowRecord& window)
+{
+    const QString text = Shown(window.text);
+    if (auto* const line = qobject_cast<QLineEdit*>(&widget)) {
+        const QSignalBlocker quiet(line);  // what the program does is no edit
+        if (line->text() != text) {
+            line->setText(text);
+        }
+        if (!line->hasSelectedText()) {
+            line->setCursorPosition(CaretInWidget(window));
+        }
+    } else if (auto* const button = qobject_cast<QAbstractButton*>(&widget)) {
+        button->setText(text);
+    } else if (auto* const label = qobject_cast<QLabel*>(&widget)) {
+        label->setText(text);
+    }
+}
+
+}  // namespace Desk

@@ -1,0 +1,49 @@
+// The widgets of one pop-up, built from its record and kept equal to it.
+#pragma once
+
+#include "desk/shell/Scale.h"
+#include "platform/Display.h"
+
+namespace Desk {
+
+// A list box: shows the record's rows and leaves the mouse to the window layer.
+class ListWidget : public QListView {
+    Q_OBJECT
+
+public:
+    ListWidget(HWND list, QWidget* parent);
+
+    void TakeRows(const WindowRecord& list, const Scale& scale);
+    void TakeSelection(const WindowRecord& list);
+    void TakeTop(const WindowRecord& list);
+
+private:
+    [[nodiscard]] QScrollBar& Bar() const;
+
+    HWND m_list;
+    bool m_isMultiColumn = false;
+    bool m_isMirroring = false;
+};
+
+// A pop-up's surface with a thin border inside its edge.
+class Surface : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Surface(QWidget* owner);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+// The text of an edit box as Unicode; for byte positions of the caret the text before it counts.
+[[nodiscard]] QString Shown(const CString& text);
+[[nodiscard]] int CaretInWidget(const WindowRecord& box);
+
+// A widget for a control, inside its pop-up's surface and with all that its record says.
+[[nodiscard]] QWidget* MakeControl(const WindowRecord& control, QWidget* surface);
+void TakePlace(QWidget& widget, const WindowRecord& window, const Scale& scale);
+// Caption, text of a box with its caret.
+void TakeText(QWidget& widget, const WindowRecord& window);
+
+}  // namespace Desk

@@ -1,0 +1,241 @@
+#include "desk/shell/QtInput.h"
+
+#include "desk/Encoding.h"
+#include "desk/shell/Keys.h"
+#include "desk/shell/PopUp.h"
+#include "desk/shell/QtDisplay.h"
+#include "platform/WindowRecord.h"
+
+namespace Desk {
+
+namespace {
+
+HWND FocusedWindow()
+{
+    const CWnd* const focus = CWnd::GetFocus();
+    return focus != nullptr ? focus->m_hWnd : nullptr;
+}
+
+HWND HolderOf(HWND window)
+{
+    const WindowRecord* const record = FindWindowRecord(window);
+    return record != nullptr && record->IsControl() ? record->parent : window;
+}
+
+bool IsShownPopUp(HWND window)
+{
+    const WindowRecord* const record = FindWindowRecord(window);
+    return record != nullptr && record->kind == WindowKind::PopUp && record->visible;
+}
+
+constexpr LPARAM KeyWentDown = 1;
+constexpr LPARAM KeyWentUp = 0xC0000001;
+
+}  // namespace
+
+void QtInput::Know(QWidget& widget, HWND window)
+{
+    m_windows.insert(&widget, window);
+    if (const auto* const list = qobject_cast<QAbstractScrollArea*>(&widget)) {
+        m_windows.insert(list->viewport(), window);
+        list->viewport()->setContextMenuPolicy(Qt::PreventContextMenu);
+    }
+}
+
+void QtInput::Forget(QWidget& widget)
+{
+    m_windows.remove(&widget);
+    if (const auto* const list = qobject_cast<QAbstractScrollArea*>(&widget)) {
+        m_windows.remove(list->viewport());
+    }
+}
+
+void QtInput::Follow(QLineEdit& line, HWND box)
+{
+    connect(&line, &QLineEdit::textEdited, this, [this, &line, box] { Report(line, box); });
+    connect(&line, &QLineEdit::cursorPositionChanged, this, [this, &line, box] {
+        const WindowRecord* const record = FindWindowRecord(box);
+        if (m_reporting == nullptr && record != nullptr && line.hasFocus() &&
+            line.text() == Shown(record->text)) {
+            Report(line, box);  // the text is the same: it moves the caret and notifies nobody
+        }
+    });
+}
+
+void QtInput::TakeFocus(QWidget& widget)
+{
+    const QScopedValueRollback taking(m_isTakingFocus, true);
+    const CWnd* const focus = CWnd::GetFocus();
+    if (focus != nullptr && focus->m_hWnd == WindowOf(&widget)) {
+        widget.setFocus(Qt::OtherFocusReason);
+    }
+}
+
+HWND QtInput::WindowOf(const QObject* watched) const { return m_windows.value(watched); }
+
+bool QtInput::Send(const MSG& event, bool dispatch)
+{
+    MSG msg = event;
+    if (AfxPreTranslateMessage(&msg)) {
+        return true;
+    }
+    if (dispatch) {
+        DispatchMessage(&msg);
+    }
+    return false;
+}
+
+bool QtInput::eventFilter(QObject* watched, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    const HWND window = WindowOf(watched);
+    if (window == nullptr) {
+        auto* const widget = qobject_cast<QWidget*>(watched);
+        if (type == QEvent::MouseButtonPress && widget != nullptr) {
+            OnPressElsewhere(*widget);
+        }
+        return false;
+    }
+    auto& widget = static_cast<QWidget&>(*watched);
+    const bool native = qobject_cast<QLineEdit*>(&widget) != nullptr && widget.isEnabled();
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        return OnPress(widget, window, *static_cast<QMouseEvent*>(event), native);
+    case QEvent::MouseButtonRelease:
+        return OnRelease(widget, window, *static_cast<QMouseEvent*>(event), native);
+    case QEvent::MouseMove: return !native;
+    case QEvent::Wheel: return OnWheel(window, *static_cast<QWheelEvent*>(event));
+    case QEvent::ContextMenu: return true;
+    case QEvent::ShortcutOverride: event->accept(); return true;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease: return OnKey(window, *static_cast<QKeyEvent*>(event), native);
+    case QEvent::FocusIn:
+        if (CWnd* const target = CWnd::FromHandle(window);
+            target != nullptr && !m_isTakingFocus && FocusedWindow() != window && native) {
+            target->SetFocus();
+        }
+        return false;
+    default: return false;
+    }
+}
+
+// Null targets are gone; a native control goes on with what the module left.
+bool QtInput::OnMouse(HWND window, UINT message, const QPointF& onScreen, WPARAM wParam, bool native)
+{
+    CWnd* const target = CWnd::FromHandle(window);
+    if (target == nullptr) {
+        return true;
+    }
+    const CPoint place = Scale(m_display.Zoom()).FromWidget(onScreen);
+    CPoint inside = place;
+    target->ScreenToClient(&inside);
+    const auto time = static_cast<DWORD>(QDateTime::currentMSecsSinceEpoch());
+    const MSG msg{window, message, wParam, MAKELPARAM(inside.x, inside.y), time, place};
+    return Send(msg, !native) || !native;
+}
+
+bool QtInput::OnPress(QWidget& widget, HWND window, const QMouseEvent& mouse, bool native)
+{
+    const bool again = mouse.type() == QEvent::MouseButtonDblClick;
+    const QPointer<QWidget> alive(&widget);
+    if (mouse.button() == Qt::LeftButton) {
+        m_pressed = window;
+        if (native && FocusedWindow() != window) {
+            CWnd::FromHandle(window)->SetFocus();
+        }
+        const UINT message = again ? WM_LBUTTONDBLCLK : WM_LBUTTONDOWN;
+        return OnMouse(window, message, mouse.globalPosition(), MK_LBUTTON, native) || alive == nullptr;
+    }
+    if (mouse.button() == Qt::RightButton) {
+        // A line edit has no use for it: the class of the box may have.
+        const UINT message = again ? WM_RBUTTONDBLCLK : WM_RBUTTONDOWN;
+        OnMouse(window, again ? WM_RBUTTONDOWN : message, mouse.globalPosition(), MK_RBUTTON, false);
+    }
+    return true;
+}
+
+bool QtInput::OnRelease(QWidget& widget, HWND window, const QMouseEvent& mouse, bool native)
+{
+    const QPointer<QWidget> alive(&widget);
+    if (mouse.button() == Qt::LeftButton) {
+        const HWND target = IsWindow(m_pressed) ? m_pressed : window;
+        m_pressed = nullptr;
+        return OnMouse(target, WM_LBUTTONUP, mouse.globalPosition(), 0, native) || alive == nullptr;
+    }
+    if (mouse.button() == Qt::RightButton) {
+        OnMouse(window, WM_RBUTTONUP, mouse.globalPosition(), 0, false);
+    }
+    return true;
+}
+
+bool QtInput::OnWheel(HWND window, const QWheelEvent& wheel)
+{
+    const QPoint angle = wheel.angleDelta();
+    const int turn = angle.y() != 0 ? angle.y() : angle.x();
+    return OnMouse(window, WM_MOUSEWHEEL, wheel.globalPosition(), MAKEWPARAM(0, turn), false);
+}
+
+bool QtInput::OnKey(HWND window, const QKeyEvent& key, bool native)
+{
+    const bool down = key.type() == QEvent::KeyPress;
+    const HWND focus = FocusedWindow();
+    const HWND target = IsWindow(focus) && HolderOf(focus) == HolderOf(window) ? focus : window;
+    const auto time = static_cast<DWORD>(QDateTime::currentMSecsSinceEpoch());
+    const auto send = [&](UINT message, WPARAM code, bool dispatch) {
+        return Send({target, message, code, message == WM_KEYUP ? KeyWentUp : KeyWentDown, time, {}},
+                    dispatch);
+    };
+    const bool shift = key.modifiers().testFlag(Qt::ShiftModifier) || key.key() == Qt::Key_Backtab;
+    if (key.key() != Qt::Key_Shift) {  // one may have been missed
+        send(shift ? WM_KEYDOWN : WM_KEYUP, VK_SHIFT, false);
+    }
+    const bool nativeKey = native && IsForLineEdit(key);
+    const UINT code = KeyCode(key);
+    bool taken = false;
+    if (code != 0) {
+        taken = send(down ? WM_KEYDOWN : WM_KEYUP, code, !nativeKey);
+    }
+    if (down && !taken && !key.text().isEmpty()) {
+        const std::optional<CString> typed = GbkFromUtf8(key.text().toStdString());
+        for (int i = 0; typed && i < typed->GetLength() && IsWindow(target); ++i) {
+            taken = send(WM_CHAR, static_cast<unsigned char>(typed->GetAt(i)), !nativeKey) || taken;
+        }
+    }
+    return taken || !nativeKey || !IsWindow(window);
+}
+
+// As Esc: nothing is delivered. What was pressed gets its press all the same. A message box over the
+// panel is no other place.
+void QtInput::OnPressElsewhere(const QWidget& pressed)
+{
+    if (QApplication::activeModalWidget() != nullptr ||
+        qobject_cast<const QScrollBar*>(&pressed) != nullptr) {
+        return;
+    }
+    for (const HWND window : AllWindows()) {
+        const QWidget* const surface = m_display.WidgetOf(window);
+        if (surface != nullptr && IsShownPopUp(window) && pressed.window() != surface) {
+            Send({window, WM_KEYDOWN, VK_ESCAPE, KeyWentDown, 0, {}}, true);
+        }
+    }
+}
+
+void QtInput::Report(QLineEdit& line, HWND box)
+{
+    const std::optional<CString> text = GbkFromUtf8(line.text().toStdString());
+    const std::optional<CString> before =
+        GbkFromUtf8(line.text().left(line.cursorPosition()).toStdString());
+    const QPointer<QLineEdit> alive(&line);
+    BOOL taken = FALSE;
+    if (text && before) {
+        const QScopedValueRollback reporting(m_reporting, box);
+        taken = UserEditsText(box, *text, before->GetLength());
+    }
+    const WindowRecord* const record = FindWindowRecord(box);
+    if (alive != nullptr && record != nullptr && (!taken || line.text() != Shown(record->text))) {
+        TakeText(line, *record);
+    }
+}
+
+}  // namespace Desk

@@ -1,0 +1,51 @@
+// What the user does to the widgets of pop-ups, as events of the window layer.
+#pragma once
+
+#include "desk/shell/Toolkit.h"
+#include "platform/Events.h"
+#include "platform/UserInput.h"
+
+namespace Desk {
+
+class QtDisplay;
+
+// One filter on the application. Each raw mouse and key event of a pop-up goes through the host's loop
+// before a control sees it. Only a line edit goes on with what the module has not taken, and reports what
+// came of it; everything else is handled by the window layer and mirrored.
+class QtInput : public QObject {
+    Q_OBJECT
+
+public:
+    explicit QtInput(const QtDisplay& display) : m_display(display) {}
+
+    void Know(QWidget& widget, HWND window);
+    void Forget(QWidget& widget);
+    // Reports the edits of a box's widget.
+    void Follow(QLineEdit& line, HWND box);
+    // A report of this box is on its way: its widget is ahead of the record.
+    [[nodiscard]] bool IsReporting(HWND box) const { return m_reporting == box; }
+    // The window layer gave a window the focus.
+    void TakeFocus(QWidget& widget);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    [[nodiscard]] HWND WindowOf(const QObject* watched) const;
+    bool OnMouse(HWND window, UINT message, const QPointF& onScreen, WPARAM wParam, bool native);
+    bool OnPress(QWidget& widget, HWND window, const QMouseEvent& mouse, bool native);
+    bool OnRelease(QWidget& widget, HWND window, const QMouseEvent& mouse, bool native);
+    bool OnWheel(HWND window, const QWheelEvent& wheel);
+    bool OnKey(HWND window, const QKeyEvent& key, bool native);
+    void OnPressElsewhere(const QWidget& pressed);
+    void Report(QLineEdit& line, HWND box);
+    // Offers an event and dispatches it where nobody took it; true when the module has taken it.
+    static bool Send(const MSG& event, bool dispatch);
+
+    const QtDisplay& m_display;
+    QHash<const QObject*, HWND> m_windows;  // widgets and the viewports of lists
+    HWND m_reporting = nullptr;
+    HWND m_pressed = nullptr;  // got the last left press, and gets the release
+    bool m_isTakingFocus = false;
+};
+
+}  // namespace Desk

@@ -1,0 +1,42 @@
+// Places between the windows' pixels and the toolkit's: converted here and nowhere else.
+#pragma once
+
+#include <cmath>
+
+#include "desk/shell/Toolkit.h"
+#include "platform/CRect.h"
+
+namespace Desk {
+
+class Scale {
+public:
+    explicit Scale(double zoom) : m_zoom(zoom) {}
+
+    [[nodiscard]] double Zoom() const { return m_zoom; }
+
+    // Edges are rounded each for itself, so that neighbours stay neighbours.
+    [[nodiscard]] int ToWidget(int pixels) const { return qRound(pixels * m_zoom); }
+    [[nodiscard]] QPoint ToWidget(const CPoint& point) const
+    {
+        return {ToWidget(point.x), ToWidget(point.y)};
+    }
+    [[nodiscard]] QRect ToWidget(const CRect& rect) const
+    {
+        return {ToWidget(rect.TopLeft()), QPoint(ToWidget(rect.right) - 1, ToWidget(rect.bottom) - 1)};
+    }
+
+    // The pixel that a place lies in.
+    [[nodiscard]] int FromWidget(double place) const
+    {
+        return static_cast<int>(std::floor(place / m_zoom));
+    }
+    [[nodiscard]] CPoint FromWidget(const QPointF& point) const
+    {
+        return {FromWidget(point.x()), FromWidget(point.y())};
+    }
+
+private:
+    double m_zoom;
+};
+
+}  // namespace Desk
