@@ -22,7 +22,7 @@ inline constexpr ControlTemplate Controls[] = {
     {ControlKind::Label, IDC_STATIC, {63, 3, 32, 8}, GbkLabel<u8"加密间距">()},
     {ControlKind::EditBox, TightEdit, {63, 12, 32, 12}, "", ControlStyle::DigitsOnly},
     {ControlKind::ListBox, TightList, {63, 26, 32, 66}},
-    {ControlKind::Label, IDC_STATIC, {95, 14, 5, 8}, "/", ControlStyle::AlignCenter},
+    {ControlKind::Label, IDC_STATIC, {95, 14, 4, 8}, "/", ControlStyle::AlignCenter},
     {ControlKind::Label, IDC_STATIC, {100, 3, 19, 8}, GbkLabel<u8"间距">()},
     {ControlKind::EditBox, NormalEdit, {100, 12, 19, 12}, "", ControlStyle::DigitsOnly},
     {ControlKind::ListBox, NormalList, {100, 26, 19, 66}},

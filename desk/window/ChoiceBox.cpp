@@ -142,7 +142,8 @@ void ChoiceBox::FillGroup(const QString& title, const Ranking& ranking, bool (*b
         }
         if (group == nullptr) {
             group = new QTreeWidgetItem(m_rows, {title});
-            group->setFlags(Qt::NoItemFlags);
+            group->setFlags(Qt::ItemIsEnabled);
+            group->setForeground(TextColumn, palette().brush(QPalette::PlaceholderText));
             group->setFirstColumnSpanned(true);
         }
         AddRow(group, candidate, static_cast<int>(i) == ranking.focus);

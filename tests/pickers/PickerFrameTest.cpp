@@ -1,0 +1,139 @@
+// What both pickers share: binding, one delivery, Esc, and a host that pulls the rug away.
+#include "platform/WindowRecord.h"
+#include "tests/pickers/Pickers.h"
+
+namespace {
+
+template <class Picker>
+class AnyPicker : public testing::Test, protected Grid<Picker> {
+protected:
+    void ExpectHidden() { EXPECT_EQ(this->picker->IsWindowVisible(), FALSE); }
+};
+
+using Both = testing::Types<CHBarPropertySheet, CVBarPropertySheet>;
+TYPED_TEST_SUITE(AnyPicker, Both);
+
+TYPED_TEST(AnyPicker, ARightPressAnywhereConfirmsOnceAndUnbinds)
+{
+    const WindowRecord& window = *FindWindowRecord(this->picker->m_hWnd);
+    std::vector<CPoint> places{CPoint(window.place.left + 1, window.place.top + 1)};
+    for (const HWND child : window.children) {
+        places.push_back(Hands::MiddleOf(*CWnd::FromHandle(child)));
+    }
+    for (const CPoint place : places) {
+        this->Open("B12@150");
+        this->item.taken.clear();
+        this->hands.RightClick(place);
+        EXPECT_EQ(this->item.taken.size(), 1U) << place.x << "," << place.y;
+        EXPECT_EQ(this->picker->m_pItem, nullptr);
+        this->ExpectHidden();
+    }
+    // Unbound it only hides, and shows no new value.
+    this->item.CPropertyGridItem::SetValue("D16@50");
+    this->picker->UpdateValue();
+    this->picker->ShowWindow(SW_SHOW);
+    EXPECT_EQ(this->Confirm(), "taken 0");
+    this->ExpectHidden();
+}
+
+TYPED_TEST(AnyPicker, ARightPressMovesNoRow)
+{
+    this->Open("A8@100");
+    for (const HWND child : FindWindowRecord(this->picker->m_hWnd)->children) {
+        const WindowRecord& control = *FindWindowRecord(child);
+        if (control.kind == WindowKind::ListBox) {
+            const int before = control.list.selection;
+            this->hands.RightClick(Hands::OnRow(dynamic_cast<CListBox&>(*CWnd::FromHandle(child)), 3));
+            EXPECT_EQ(control.list.selection, before) << control.id;
+            this->picker->ShowWindow(SW_SHOW);
+        }
+    }
+}
+
+TYPED_TEST(AnyPicker, EscFromAnyControlDismissesAndStaysBound)
+{
+    for (const HWND child : FindWindowRecord(this->picker->m_hWnd)->children) {
+        const WindowRecord& control = *FindWindowRecord(child);
+        if (control.kind == WindowKind::Label || !control.enabled) {
+            continue;
+        }
+        this->Open("B12@150");
+        CWnd::FromHandle(child)->SetFocus();
+        this->hands.Key(VK_RETURN);
+        EXPECT_EQ(this->picker->IsWindowVisible(), TRUE) << "other keys do nothing";
+        this->hands.Key(VK_ESCAPE);
+        this->ExpectHidden();
+        EXPECT_EQ(this->item.GetListShowFlag(), FALSE) << control.id;
+        EXPECT_EQ(this->picker->m_pItem, &this->item);
+    }
+    EXPECT_TRUE(this->item.taken.empty());
+}
+
+TYPED_TEST(AnyPicker, AnItemWithoutAWindowCountsAsNone)
+{
+    this->Open("B12@150");
+    this->item.SetHWnd(nullptr);
+    this->item.CPropertyGridItem::SetValue("C16@200");
+    this->picker->UpdateValue();
+    CString grade;
+    this->picker->m_GradeEdit.GetWindowText(grade);
+    EXPECT_EQ(grade, "B");
+    this->picker->OnKeyDown(VK_ESCAPE, 1, 0);
+    EXPECT_EQ(this->item.GetListShowFlag(), TRUE);
+    this->picker->ShowWindow(SW_SHOW);
+    EXPECT_EQ(this->Confirm(), "taken 0");
+    EXPECT_EQ(this->picker->m_pItem, &this->item);
+}
+
+TYPED_TEST(AnyPicker, TheItemMayTakeThePickerAway)
+{
+    const WindowRecord& window = *FindWindowRecord(this->picker->m_hWnd);
+    for (std::size_t i = 0; i < window.children.size(); ++i) {
+        for (const bool object : {false, true}) {
+            Grid<TypeParam> grid;
+            grid.Open("A10@100");
+            grid.item.then = [&] {
+                if (object) {
+                    grid.picker.reset();
+                } else {
+                    grid.picker->DestroyWindow();
+                }
+            };
+            const HWND child = FindWindowRecord(grid.picker->m_hWnd)->children[i];
+            grid.hands.RightClick(Hands::MiddleOf(*CWnd::FromHandle(child)));
+            EXPECT_EQ(grid.item.taken.size(), 1U);
+            if (!object) {
+                EXPECT_EQ(grid.picker->m_pItem, nullptr);
+            }
+        }
+    }
+}
+
+TYPED_TEST(AnyPicker, ControlsStandInsideClearOfEachOtherAndListsShowAllRows)
+{
+    const WindowRecord& window = *FindWindowRecord(this->picker->m_hWnd);
+    const bool horizontal = std::is_same_v<TypeParam, CHBarPropertySheet>;
+    EXPECT_EQ(window.shape->id, horizontal ? 363U : 365U);
+    EXPECT_EQ(window.shape->width, horizontal ? 122 : 60);
+    EXPECT_EQ(window.shape->height, horizontal ? 96 : 105);
+    const CRect all(0, 0, window.place.Width(), window.place.Height());
+    for (std::size_t i = 0; i < window.children.size(); ++i) {
+        const WindowRecord& control = *FindWindowRecord(window.children[i]);
+        EXPECT_TRUE(control.place.left >= 0 && control.place.right <= all.right &&
+                    control.place.bottom <= all.bottom)
+            << control.id;
+        EXPECT_GE(control.place.Width(), control.text.GetLength() * 6) << control.id << control.text.View();
+        if (control.kind == WindowKind::ListBox) {
+            EXPECT_LE(static_cast<int>(control.list.rows.size()) * 12, control.place.Height())
+                << control.id;
+        }
+        for (std::size_t j = 0; j < i; ++j) {
+            const CRect& other = FindWindowRecord(window.children[j])->place;
+            EXPECT_TRUE(other.right <= control.place.left || control.place.right <= other.left ||
+                        other.bottom <= control.place.top || control.place.bottom <= other.top)
+                << control.id << " over " << FindWindowRecord(window.children[j])->id;
+        }
+    }
+}
+
+}  // namespace
