@@ -92,6 +92,7 @@ void TakeShots(const std::string& folder, const ShotOptions& options)
     if (!home.isValid() || !out.mkpath(QStringLiteral("."))) {
         throw Failure("the folder cannot be made: " + folder);
     }
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));  // it has no window manager
     int count = 1;
     char name[] = "beamdesk";
     char* arguments[] = {name, nullptr};

@@ -1,0 +1,192 @@
+// Panels with an item that notes what it gets, and a user's hand on the toolkit's widgets.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QtTest/QtTest>
+
+#include "desk/Encoding.h"
+#include "desk/shell/PopUp.h"
+#include "desk/shell/QtDisplay.h"
+#include "tests/support/Hands.h"
+
+#include "RankerModule.h"
+
+struct NotedItem : CPropertyGridItem {
+    void SetValue(CString strValue) override { taken.emplace_back(strValue.View()); }
+    std::vector<std::string> taken;
+};
+
+// All seven pop-ups, each as a host opens it.
+enum class Shown { Name, Section, Elevation, Stirrup, Bars, Horizontal, Vertical };
+inline constexpr Shown AllShown[] = {Shown::Name, Shown::Section,    Shown::Elevation, Shown::Stirrup,
+                                     Shown::Bars, Shown::Horizontal, Shown::Vertical};
+
+class Stage {
+public:
+    explicit Stage(Shown kind)
+    {
+        item.SetHWnd(this);
+        switch (kind) {
+        case Shown::Name: Make<CBeamNameDlg>()->Init(); break;
+        case Shown::Section: Make<CBeamSecDlg>()->Init("300x600"); break;
+        case Shown::Elevation: Make<CBeamLevelDlg>()->Init(); break;
+        case Shown::Stirrup: Make<CBeamGujinDlg>()->Init(); break;
+        case Shown::Bars: {
+            auto* const bars = Make<CBeamSteelDlg>();
+            bars->m_nSteelKind = 0;
+            bars->Init();
+            break;
+        }
+        case Shown::Horizontal: Make<CHBarPropertySheet>(); break;
+        case Shown::Vertical: Make<CVBarPropertySheet>(); break;
+        }
+        Rebind();
+    }
+
+    // A confirmed picker lets go of its item.
+    void Rebind()
+    {
+        if (auto* const horizontal = dynamic_cast<CHBarPropertySheet*>(panel.get())) {
+            horizontal->m_pItem = &item;
+        } else if (auto* const vertical = dynamic_cast<CVBarPropertySheet*>(panel.get())) {
+            vertical->m_pItem = &item;
+        }
+        panel->MoveWindow(100, 100, Width(), Height());
+        panel->ShowWindow(SW_SHOW);
+    }
+
+    // Everything that a person sees, and what went out.
+    [[nodiscard]] std::string State() const
+    {
+        std::string state = panel->IsWindowVisible() ? "shown" : "hidden";
+        const CWnd* const focus = CWnd::GetFocus();
+        for (const HWND child : FindWindowRecord(panel->m_hWnd)->children) {
+            const WindowRecord& control = *FindWindowRecord(child);
+            state += " " + std::to_string(control.id) +
+                     (focus != nullptr && focus->m_hWnd == child ? "*" : "") + "=" +
+                     std::string(control.text.View()) + ":" + std::to_string(control.list.selection) + "/" +
+                     std::to_string(control.list.rows.size()) + "@" + std::to_string(control.list.top);
+        }
+        const CRect& place = FindWindowRecord(panel->m_hWnd)->place;
+        state += " at " + std::to_string(place.left) + "," + std::to_string(place.top) + " gave";
+        for (const std::string& text : item.taken) {
+            state += " " + text;
+        }
+        return state;
+    }
+
+    NotedItem item;
+    std::unique_ptr<CDialog> panel;
+
+private:
+    template <class Dialog>
+    Dialog* Make()
+    {
+        auto made = std::make_unique<Dialog>();
+        Dialog* const dialog = made.get();
+        panel = std::move(made);
+        dialog->m_pItem = &item;
+        if constexpr (requires { dialog->m_bToItem; }) {
+            dialog->m_bToItem = true;
+        }
+        dialog->Create(Dialog::IDD);
+        return dialog;
+    }
+    [[nodiscard]] int Width() const { return FindWindowRecord(panel->m_hWnd)->place.Width(); }
+    [[nodiscard]] int Height() const { return FindWindowRecord(panel->m_hWnd)->place.Height(); }
+};
+
+// Hands on the widgets: places are pixels of the window layer, as those of Hands.
+class QtHands {
+public:
+    explicit QtHands(const Desk::QtDisplay& display) : m_display(display) {}
+
+    void Click(CPoint point) { Mouse(point, Qt::LeftButton, QEvent::MouseButtonPress, true); }
+    void RightClick(CPoint point) { Mouse(point, Qt::RightButton, QEvent::MouseButtonPress, true); }
+    void DoubleClick(CPoint point)
+    {
+        Click(point);
+        Mouse(point, Qt::LeftButton, QEvent::MouseButtonDblClick, true);
+    }
+    void Drag(CPoint from, CPoint to)
+    {
+        QPointer<QWidget> widget = Mouse(from, Qt::LeftButton, QEvent::MouseButtonPress, false);
+        if (widget != nullptr) {
+            Send(*widget, QEvent::MouseButtonRelease, to, Qt::LeftButton);
+        }
+    }
+    void Wheel(CPoint point, int notches)
+    {
+        if (QWidget* const widget = At(point)) {
+            const QPointF onScreen = Middle(point);
+            QWheelEvent event(widget->mapFromGlobal(onScreen), onScreen, {}, {0, notches * WHEEL_DELTA},
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(widget, &event);
+        }
+    }
+    void Key(UINT key)
+    {
+        static const std::map<UINT, Qt::Key> keys = {
+            {VK_TAB, Qt::Key_Tab},     {VK_UP, Qt::Key_Up},          {VK_DOWN, Qt::Key_Down},
+            {VK_LEFT, Qt::Key_Left},   {VK_RIGHT, Qt::Key_Right},    {VK_HOME, Qt::Key_Home},
+            {VK_END, Qt::Key_End},     {VK_BACK, Qt::Key_Backspace}, {VK_DELETE, Qt::Key_Delete},
+            {VK_SPACE, Qt::Key_Space}, {VK_ESCAPE, Qt::Key_Escape},  {VK_RETURN, Qt::Key_Return}};
+        if (QWidget* const widget = Focused()) {
+            QTest::keyClick(widget, keys.at(key));
+        }
+    }
+    void Type(const CString& text)
+    {
+        for (const QChar ch : QString::fromStdString(Desk::Utf8FromGbk(text))) {
+            if (QWidget* const widget = Focused(); widget != nullptr && ch.unicode() < 128) {
+                QTest::keyClick(widget, ch.toLatin1());
+            } else if (widget != nullptr) {
+                QInputMethodEvent event;
+                event.setCommitString(ch);
+                QApplication::sendEvent(widget, &event);
+            }
+        }
+    }
+
+    // The widget under a place, the viewport of a list.
+    [[nodiscard]] QWidget* At(CPoint point) const
+    {
+        QWidget* const widget = m_display.WidgetOf(WindowFromPoint(point));
+        const auto* const area = qobject_cast<QAbstractScrollArea*>(widget);
+        return area != nullptr ? area->viewport() : widget;
+    }
+    [[nodiscard]] QPointF Middle(CPoint point) const
+    {
+        constexpr double Inside = 0.25;  // of the pixel, so that rounding to whole ones stays in it
+        const double zoom = m_display.Zoom();
+        return {(point.x + Inside) * zoom, (point.y + Inside) * zoom};
+    }
+
+private:
+    [[nodiscard]] QWidget* Focused() const
+    {
+        const CWnd* const focus = CWnd::GetFocus();
+        return focus != nullptr && focus->IsWindowVisible() ? m_display.WidgetOf(focus->m_hWnd) : nullptr;
+    }
+    QPointer<QWidget> Mouse(CPoint point, Qt::MouseButton button, QEvent::Type type, bool release)
+    {
+        QPointer<QWidget> widget = At(point);
+        if (widget != nullptr) {
+            Send(*widget, type, point, button);
+        }
+        if (widget != nullptr && release) {
+            Send(*widget, QEvent::MouseButtonRelease, point, button);
+        }
+        return widget;
+    }
+    void Send(QWidget& widget, QEvent::Type type, CPoint point, Qt::MouseButton button) const
+    {
+        const QPointF onScreen = Middle(point);
+        const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
+        QMouseEvent event(type, widget.mapFromGlobal(onScreen), onScreen, button, held, Qt::NoModifier);
+        QApplication::sendEvent(&widget, &event);
+    }
+
+    const Desk::QtDisplay& m_display;
+};
