@@ -1,9 +1,12 @@
 #include "desk/shell/QtInput.h"
 
+#include <algorithm>
+
 #include "desk/Encoding.h"
 #include "desk/shell/Keys.h"
 #include "desk/shell/PopUp.h"
 #include "desk/shell/QtDisplay.h"
+#include "platform/GbkWalk.h"
 #include "platform/WindowRecord.h"
 
 namespace Desk {
@@ -26,6 +29,60 @@ bool IsShownPopUp(HWND window)
 {
     const WindowRecord* const record = FindWindowRecord(window);
     return record != nullptr && record->kind == WindowKind::PopUp && record->visible;
+}
+
+struct EditedText {
+    CString text;
+    int caret = 0;  // byte position
+};
+
+// What a line edit makes of a text in GBK. Only what the user put in is turned, so that bytes which show
+// as a mark stay what they are. Nothing when it holds a character that GBK lacks.
+std::optional<EditedText> EditedFrom(const CString& before, const QLineEdit& line)
+{
+    const QString shown = Shown(before);
+    const QString now = line.text();
+    std::vector<int> bytes{0};  // by characters shown: where each begins in the text
+    for (int at = 0; at < before.GetLength();) {
+        const int next = NextCharacter(before.View(), at);
+        const qsizetype characters = Shown(before.Mid(at, next - at)).size();
+        bytes.insert(bytes.end(), static_cast<std::size_t>(characters - 1), at);
+        bytes.push_back(next);
+        at = next;
+    }
+    if (static_cast<qsizetype>(bytes.size()) != shown.size() + 1) {
+        return std::nullopt;
+    }
+    const qsizetype shorter = std::min(shown.size(), now.size());
+    qsizetype head = 0;
+    while (head < shorter && shown[head] == now[head]) {
+        ++head;
+    }
+    qsizetype tail = 0;
+    while (tail < shorter - head && shown[shown.size() - 1 - tail] == now[now.size() - 1 - tail]) {
+        ++tail;
+    }
+    const auto byteAt = [&bytes](qsizetype character) {
+        return bytes[static_cast<std::size_t>(character)];
+    };
+    const std::optional<CString> typed = GbkFromUtf8(now.mid(head, now.size() - head - tail).toStdString());
+    if (!typed) {
+        return std::nullopt;
+    }
+    const int typedEnd = byteAt(head) + typed->GetLength();
+    const int tailStart = byteAt(shown.size() - tail);
+    EditedText edited;
+    edited.text = before.Left(byteAt(head)) + *typed + before.Mid(tailStart);
+    const qsizetype cursor = line.cursorPosition();
+    if (cursor <= head) {
+        edited.caret = byteAt(cursor);
+    } else if (cursor >= now.size() - tail) {
+        edited.caret = typedEnd + byteAt(cursor - now.size() + shown.size()) - tailStart;
+    } else {
+        const std::optional<CString> part = GbkFromUtf8(now.mid(head, cursor - head).toStdString());
+        edited.caret = byteAt(head) + (part ? part->GetLength() : 0);
+    }
+    return edited;
 }
 
 constexpr LPARAM KeyWentDown = 1;
@@ -55,8 +112,7 @@ void QtInput::Follow(QLineEdit& line, HWND box)
     connect(&line, &QLineEdit::textEdited, this, [this, &line, box] { Report(line, box); });
     connect(&line, &QLineEdit::cursorPositionChanged, this, [this, &line, box] {
         const WindowRecord* const record = FindWindowRecord(box);
-        if (m_reporting == nullptr && record != nullptr && line.hasFocus() &&
-            line.text() == Shown(record->text)) {
+        if (m_reporting == nullptr && record != nullptr && line.text() == Shown(record->text)) {
             Report(line, box);  // the text is the same: it moves the caret and notifies nobody
         }
     });
@@ -111,8 +167,9 @@ bool QtInput::eventFilter(QObject* watched, QEvent* event)
     case QEvent::KeyPress:
     case QEvent::KeyRelease: return OnKey(window, *static_cast<QKeyEvent*>(event), native);
     case QEvent::FocusIn:
-        if (CWnd* const target = CWnd::FromHandle(window);
-            target != nullptr && !m_isTakingFocus && FocusedWindow() != window && native) {
+        if (CWnd* const target = CWnd::FromHandle(window); target != nullptr && !m_isTakingFocus &&
+                                                           FocusedWindow() != window && native &&
+                                                           IsShownPopUp(HolderOf(window))) {
             target->SetFocus();
         }
         return false;
@@ -223,14 +280,12 @@ void QtInput::OnPressElsewhere(const QWidget& pressed)
 
 void QtInput::Report(QLineEdit& line, HWND box)
 {
-    const std::optional<CString> text = GbkFromUtf8(line.text().toStdString());
-    const std::optional<CString> before =
-        GbkFromUtf8(line.text().left(line.cursorPosition()).toStdString());
+    const std::optional<EditedText> edited = EditedFrom(FindWindowRecord(box)->text, line);
     const QPointer<QLineEdit> alive(&line);
     BOOL taken = FALSE;
-    if (text && before) {
+    if (edited) {
         const QScopedValueRollback reporting(m_reporting, box);
-        taken = UserEditsText(box, *text, before->GetLength());
+        taken = UserEditsText(box, edited->text, edited->caret);
     }
     const WindowRecord* const record = FindWindowRecord(box);
     if (alive != nullptr && record != nullptr && (!taken || line.text() != Shown(record->text))) {
