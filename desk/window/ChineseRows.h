@@ -132,6 +132,18 @@ inline constexpr ChineseRow ChineseRows[] = {
     {"%1 mm²", "%1 mm²"},
     {"%1 / %2 mm²", "%1 / %2 mm²"},
 
+    // the section
+    {"at the left end", "左端截面"},
+    {"at the right end", "右端截面"},
+    {"in the span", "跨中截面"},
+    {"%1 of %2 mm²", "%1 / 需 %2 mm²"},
+    {"There is no section to draw", "没有截面尺寸"},
+    {"Less steel than required", "配筋小于计算面积"},
+    {"Too many bars for the width", "梁宽排不下钢筋"},
+    {"The section cannot be read", "截面无法识别"},
+    {"The stirrups cannot be read", "箍筋无法识别"},
+    {"Bars cannot be read", "钢筋无法识别"},
+
     // files
     {"Projects (*.json);;All files (*)", "工程文件 (*.json);;所有文件 (*)"},
     {"Open a project", "打开工程"},

@@ -1,0 +1,131 @@
+// The floor plan: every annotation is found where it shows, and only the changed one changes.
+#include <QtTest/QtTest>
+
+#include <gtest/gtest.h>
+
+#include "desk/ProjectFile.h"
+#include "desk/plan/FloorView.h"
+
+namespace {
+
+using namespace Desk;
+
+std::vector<Place> AllPlaces(const Project& project)
+{
+    std::vector<Place> places;
+    for (const bool wall : {false, true}) {
+        for (std::size_t i = 0; i < (wall ? project.walls.size() : project.beams.size()); ++i) {
+            for (const Field field : wall ? WallFields() : BeamFields()) {
+                if (!TextAt(project, {wall, i, field}).empty()) {
+                    places.push_back({wall, i, field});
+                }
+            }
+        }
+    }
+    return places;
+}
+
+struct View : FloorView {
+    View()
+    {
+        resize(1200, 800);
+        connect(this, &FloorView::Picked, [this](const Place& place) { picked.push_back(place); });
+        connect(this, &FloorView::NothingPicked, [this] { ++nothing; });
+        connect(this, &FloorView::PanelAsked, [this](const Place& place) { panel = place; });
+    }
+    [[nodiscard]] QPoint Middle(const Place& place) const
+    {
+        return viewport()->mapFromGlobal(OnScreen(place).center());
+    }
+    std::vector<Place> picked;
+    int nothing = 0;
+    std::optional<Place> panel;
+};
+
+TEST(FloorView, APressOnEachAnnotationOfTheSamplePicksIt)
+{
+    const Project project = SampleProject();
+    View view;
+    view.SetProject(&project);
+    view.show();
+    EXPECT_LE(view.CoveringBlocks(), static_cast<int>(project.beams.size() + project.walls.size()) / 6);
+    int others = 0;
+    for (const double zoom : {1.0, 3.0}) {
+        view.Fit();
+        view.ZoomBy(zoom);
+        for (const Place& place : AllPlaces(project)) {
+            view.SetChosen(place);
+            view.picked.clear();
+            QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.Middle(place));
+            ASSERT_EQ(view.picked.size(), 1U);
+            others += view.picked.front() == place ? 0 : 1;
+        }
+    }
+    EXPECT_LE(others, 2 * static_cast<int>(AllPlaces(project).size()) / 50) << "covered by another text";
+    const Place place{false, 3, Field::Section};
+    view.SetChosen(place);
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, view.Middle(place));
+    EXPECT_EQ(view.panel, place);
+}
+
+TEST(FloorView, BareGroundPansOrPicksNothing)
+{
+    const Project project = SampleProject();
+    View view;
+    view.SetProject(&project);
+    view.show();
+    const Place place{false, 0, Field::Name};
+    const QPoint before = view.Middle(place);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(view.nothing, 1);
+    QTest::mousePress(view.viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+    QTest::mouseMove(view.viewport(), QPoint(45, 35));
+    QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, QPoint(45, 35));
+    EXPECT_EQ(view.nothing, 1);
+    EXPECT_EQ(view.Middle(place) - before, QPoint(40, 30));
+    EXPECT_TRUE(view.picked.empty());
+}
+
+TEST(FloorView, RefreshMovesNoOtherText)
+{
+    Project project = SampleProject();
+    View view;
+    view.SetProject(&project);
+    view.show();
+    const auto boxes = [&](std::size_t except) {
+        std::vector<QRect> rects;
+        for (const Place& place : AllPlaces(project)) {
+            if (place.isWall || place.index != except) {
+                rects.push_back(view.OnScreen(place));
+            }
+        }
+        return rects;
+    };
+    const std::vector<QRect> before = boxes(2);
+    const QRect own = view.OnScreen({false, 2, Field::Section});
+    project.beams[2].section = "1000x2000";
+    view.Refresh({false, 2, Field::Section});
+    EXPECT_EQ(boxes(2), before);
+    EXPECT_GT(view.OnScreen({false, 2, Field::Section}).width(), own.width());
+}
+
+TEST(FloorView, TakesWhateverAProjectFileMayHold)
+{
+    for (const char* const text :
+         {R"({"version": 1})", R"({"version": 1, "axes": 7, "beams": [{"name": ""}]})",
+          R"({"version": 1, "axes": {"x": [1], "y": {"A": "x", "B": 3}},
+              "beams": [{"name": "L1", "section": "wide", "start": [5, 5], "end": [5, 5]}],
+              "walls": [{"name": "Q1", "start": [-1e9, 0], "end": [1e9, 0]}]})"}) {
+        const Project project = ParseProject(text, "test");
+        View view;
+        view.SetProject(&project);
+        view.show();
+        view.SetDark(true);
+        view.ZoomBy(4);
+        EXPECT_FALSE(view.grab().isNull());
+        EXPECT_EQ(view.OnScreen({false, 9, Field::Name}), QRect());
+        view.SetProject(nullptr);
+    }
+}
+
+}  // namespace

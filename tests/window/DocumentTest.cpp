@@ -1,0 +1,116 @@
+// The document: changes taken back, files, and what a broken-off session leaves.
+#include <gtest/gtest.h>
+
+#include "desk/Failure.h"
+#include "desk/ProjectFile.h"
+#include "desk/window/Document.h"
+
+namespace {
+
+using namespace Desk;
+
+constexpr Place Section{false, 0, Field::Section};
+
+class DocumentTest : public testing::Test {
+protected:
+    [[nodiscard]] QString File(const char* name) const { return folder.filePath(name); }
+    [[nodiscard]] QString Recovery() const { return folder.filePath("recovery"); }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(DocumentTest, EveryChangeGoesBackAndForth)
+{
+    Document document{QString()};
+    document.OpenSample();
+    const std::string first = document.Get().beams[0].section;
+    std::vector<Place> told;
+    QObject::connect(&document, &Document::TextChanged, [&](const Place& place) { told.push_back(place); });
+    for (int i = 0; i < 500; ++i) {
+        EXPECT_TRUE(document.SetText(Section, QString::number(i) + "x600").isEmpty());
+    }
+    EXPECT_TRUE(document.SetText(Section, " 499x600 ").isEmpty());
+    EXPECT_EQ(document.Changes().count(), 500) << "the same text is no change";
+    while (document.Changes().canUndo()) {
+        document.Changes().undo();
+    }
+    EXPECT_EQ(document.Get().beams[0].section, first);
+    EXPECT_FALSE(document.IsChanged());
+    document.Changes().redo();
+    EXPECT_EQ(document.Get().beams[0].section, "0x600");
+    EXPECT_EQ(told.size(), 1001U);
+}
+
+TEST_F(DocumentTest, RefusesWhatDrawingsCannotHold)
+{
+    Document document{QString()};
+    document.OpenSample();
+    for (const QString& text :
+         {QString("300\n600"), QString::fromUtf8("\U0001F600"), QString(QChar(0x7F))}) {
+        EXPECT_FALSE(document.SetText(Section, text).isEmpty());
+    }
+    EXPECT_FALSE(document.IsChanged());
+    EXPECT_TRUE(document.SetText(Section, QString::fromUtf8("见图")).isEmpty());
+}
+
+TEST_F(DocumentTest, SavesAndOpensAndKeepsWhatFails)
+{
+    Document document{QString()};
+    document.OpenSample();
+    document.SetText(Section, "999x999");
+    document.SaveAs(File("a.json"));
+    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.IsFileNewer());
+    EXPECT_EQ(ReadProject(File("a.json").toStdString()).beams[0].section, "999x999");
+    document.SetText(Section, "888x888");
+    EXPECT_THROW(document.SaveAs(File("no/such/folder.json")), Failure);
+    EXPECT_THROW(document.Open(File("missing.json")), Failure);
+    EXPECT_TRUE(document.IsChanged());
+    EXPECT_EQ(document.Get().beams[0].section, "888x888");
+    EXPECT_EQ(document.File(), File("a.json"));
+    QFile other(File("a.json"));
+    ASSERT_TRUE(other.open(QIODevice::Append));
+    other.write("\n");
+    other.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime);
+    other.close();
+    EXPECT_TRUE(document.IsFileNewer());
+}
+
+TEST_F(DocumentTest, LeavesACopyThatTheNextSessionFinds)
+{
+    auto document = std::make_unique<Document>(Recovery());
+    document->OpenSample();
+    document->SaveAs(File("work.json"));
+    EXPECT_TRUE(FindLostWork(Recovery()).isEmpty());
+    document->SetText(Section, "777x777");
+    document->WriteRecoveryCopy();
+    EXPECT_TRUE(FindLostWork(Recovery()).isEmpty()) << "its program still runs";
+    document.reset();  // without dropping the copy, as at a crash
+    const QList<LostWork> lost = FindLostWork(Recovery());
+    ASSERT_EQ(lost.size(), 1);
+    EXPECT_EQ(lost[0].file, File("work.json"));
+
+    Document next(Recovery());
+    next.OpenSample();
+    next.OpenLost(lost[0]);
+    EXPECT_EQ(next.Get().beams[0].section, "777x777");
+    EXPECT_TRUE(next.IsChanged());
+    EXPECT_EQ(next.File(), File("work.json"));
+    EXPECT_TRUE(FindLostWork(Recovery()).isEmpty()) << "taken over";
+    next.SaveAs(next.File());
+    EXPECT_FALSE(next.IsChanged());
+    EXPECT_TRUE(QDir(Recovery()).entryList({"*.json"}).isEmpty());
+    EXPECT_EQ(ReadProject(File("work.json").toStdString()).beams[0].section, "777x777");
+}
+
+TEST_F(DocumentTest, ASavedOrGivenUpDocumentLeavesNone)
+{
+    Document document(Recovery());
+    document.OpenSample();
+    document.SetText(Section, "777x777");
+    document.WriteRecoveryCopy();
+    document.OpenSample();
+    EXPECT_TRUE(QDir(Recovery()).entryList({"*.json"}).isEmpty());
+}
+
+}  // namespace

@@ -1,0 +1,316 @@
+// The desk as a person uses it, by the toolkit's own events.
+#include <QtTest/QtTest>
+
+#include <gtest/gtest.h>
+
+#include "desk/window/MainWindow.h"
+#include "desk/window/ScreenReport.h"
+#include "tests/support/Hands.h"
+
+namespace {
+
+using namespace Desk;
+
+class MainWindowTest : public testing::Test {
+protected:
+    MainWindowTest()
+    {
+        QSettings().clear();
+        window.SetLanguage(Language::English);
+        window.OpenFile(QString());
+        window.show();
+        QCoreApplication::processEvents();
+    }
+    ~MainWindowTest() override { window.TheDocument().DropRecoveryCopy(); }
+
+    template <class Widget>
+    Widget& Find(const char* name)
+    {
+        return *window.findChild<Widget*>(name);
+    }
+    std::string Text(const Place& place) { return TextAt(window.TheDocument().Get(), place); }
+    void Trigger(const char* action) { Find<QAction>(action).trigger(); }
+    // Presses an annotation in the drawing.
+    void Press(const Place& place)
+    {
+        FloorView& drawing = window.Drawing();
+        drawing.SetChosen(place);  // brings it into view
+        QTest::mouseClick(drawing.viewport(), Qt::LeftButton, {},
+                          drawing.viewport()->mapFromGlobal(drawing.OnScreen(place).center()));
+        ASSERT_EQ(window.Chosen(), place);
+    }
+    // The texts on offer that are not hidden, group titles in brackets.
+    QStringList Offer()
+    {
+        QStringList texts;
+        auto& rows = Find<QTreeWidget>("choices");
+        for (QTreeWidgetItemIterator at(&rows, QTreeWidgetItemIterator::NotHidden); *at != nullptr; ++at) {
+            const bool group = (*at)->parent() == nullptr;
+            if (group || !(*at)->parent()->isHidden()) {
+                texts << (group ? "[" + (*at)->text(0) + "]" : (*at)->text(0));
+            }
+        }
+        return texts;
+    }
+    void ClickOffer(const QString& text)
+    {
+        auto& rows = Find<QTreeWidget>("choices");
+        const QList<QTreeWidgetItem*> found = rows.findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
+        ASSERT_FALSE(found.isEmpty());
+        rows.scrollToItem(found.front());
+        QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualItemRect(found.front()).center());
+    }
+    // A control of the open panel.
+    QWidget& Control(int id)
+    {
+        const HWND panel = window.Panels().Window();
+        QWidget* const widget = display.WidgetOf(CWnd::FromHandle(panel)->GetDlgItem(id)->m_hWnd);
+        auto* const area = qobject_cast<QAbstractScrollArea*>(widget);
+        return area != nullptr ? *area->viewport() : *widget;
+    }
+    void ClickRow(int id, const char* text)
+    {
+        auto& list = *qobject_cast<QListView*>(Control(id).parentWidget());
+        const QModelIndexList found = list.model()->match(list.model()->index(0, 0), Qt::DisplayRole,
+                                                          QString(text), 1, Qt::MatchExactly);
+        ASSERT_EQ(found.size(), 1) << text;
+        QTest::mouseClick(&Control(id), Qt::LeftButton, {}, list.visualRect(found[0]).center());
+    }
+
+    QtDisplay display;
+    MainWindow window{display};
+};
+
+constexpr Place Bars{false, 0, Field::TopBars};
+
+TEST_F(MainWindowTest, AClickOnACandidateTakesItAndUndoTakesItBack)
+{
+    Press(Bars);
+    ASSERT_EQ(Offer().first(), "[In the project]");
+    EXPECT_TRUE(Offer().contains("[Guesses]"));
+    ClickOffer("2B25");
+    EXPECT_EQ(Text(Bars), "2B25");
+    EXPECT_TRUE(window.isWindowModified());
+    Trigger("undo");
+    EXPECT_EQ(Text(Bars), "2B20");
+    EXPECT_FALSE(window.isWindowModified());
+    Trigger("redo");
+    EXPECT_EQ(Text(Bars), "2B25");
+}
+
+TEST_F(MainWindowTest, TypingNarrowsAndEnterTakes)
+{
+    Press(Bars);
+    auto& typed = Find<QLineEdit>("typed");
+    QTest::keyClick(&window.Drawing(), '2');  // begins in the drawing
+    QTest::keyClicks(&typed, "b2");
+    EXPECT_EQ(typed.text(), "2b2");
+    for (const QString& text : Offer()) {
+        EXPECT_TRUE(text.startsWith('[') || text.startsWith("2B2")) << text.toStdString();
+    }
+    QTest::keyClick(&typed, Qt::Key_Down);
+    QTest::keyClick(&typed, Qt::Key_Return);
+    EXPECT_NE(Text(Bars), "2B20");
+    EXPECT_EQ(Text(Bars).substr(0, 3), "2B2");
+    QTest::keyClicks(&typed, "7B28");
+    QTest::keyClick(&typed, Qt::Key_Return);
+    EXPECT_EQ(Text(Bars), "7B28") << "what no row holds is taken as typed";
+    QTest::keyClicks(&typed, "2B1");
+    QTest::keyClick(&typed, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(Text(Bars), "2B1");
+    QTest::keyClicks(&typed, "9");
+    QTest::keyClick(&typed, Qt::Key_Escape);
+    EXPECT_TRUE(typed.text().isEmpty());
+    EXPECT_EQ(Text(Bars), "2B1");
+}
+
+TEST_F(MainWindowTest, TableRowsComeOnRequest)
+{
+    Press({false, 0, Field::BottomBars});
+    EXPECT_FALSE(Offer().contains("[From the table]"));
+    const qsizetype without = Offer().size();
+    QTest::mouseClick(&Find<QCheckBox>("table"), Qt::LeftButton, {}, QPoint(8, 8));
+    EXPECT_TRUE(Find<QCheckBox>("table").isChecked());
+    EXPECT_GE(Offer().size(), without);
+    window.Choose(Place{false, 0, Field::Side});
+    EXPECT_TRUE(Offer().contains("G4B12"));
+    window.Choose(Place{false, 0, Field::Torsion});
+    EXPECT_TRUE(Offer().contains("N4B14"));
+}
+
+TEST_F(MainWindowTest, ThePanelOpensOnThePresentTextAndTheRightButtonTakes)
+{
+    constexpr int Count = 1338, Diameter = 1340, Separate = 1345, Pieces = 1346;
+    const Place end{false, 1, Field::LeftEnd};  // 2B25+2B22
+    Press(end);
+    QTest::keyClick(&window, Qt::Key_F4);
+    ASSERT_EQ(window.Panels().Serving(), end);
+    auto& pieces = *qobject_cast<QListView*>(Control(Pieces).parentWidget());
+    ASSERT_EQ(pieces.model()->rowCount(), 2);
+    EXPECT_EQ(pieces.model()->index(1, 0).data().toString(), "+2B22 ");
+    ClickRow(Count, "3");
+    ClickRow(Diameter, "20");
+    QTest::mouseClick(&Control(Diameter), Qt::RightButton);
+    EXPECT_EQ(Text(end), "2B25+3B20");
+    EXPECT_FALSE(window.Panels().Serving());
+    window.OpenPanel();
+    ClickRow(Count, "1");
+    QTest::keyClick(&Control(Separate), Qt::Key_Escape);
+    EXPECT_EQ(Text(end), "2B25+3B20") << "Esc takes nothing";
+}
+
+// Confirmed unchanged, each panel gives back what it opened on.
+TEST_F(MainWindowTest, EachPanelReadsItsAnnotation)
+{
+    QTimer answers;  // a name without spans brings a message
+    QObject::connect(&answers, &QTimer::timeout, [] {
+        if (QWidget* const box = QApplication::activeModalWidget()) {
+            box->close();
+        }
+    });
+    answers.start(1);
+    const Project& project = window.TheDocument().Get();
+    for (const Field field : BeamFields()) {
+        for (std::size_t i = 0; i < project.beams.size(); i += 7) {
+            const Place place{false, i, field};
+            const std::string text = Text(place);
+            if (text.empty()) {
+                continue;
+            }
+            window.Choose(place);
+            window.OpenPanel();
+            ASSERT_EQ(window.Panels().Serving(), place);
+            QTest::mouseClick(display.WidgetOf(window.Panels().Window()), Qt::RightButton, {},
+                              QPoint(1, 1));
+            EXPECT_EQ(Text(place), text);
+        }
+    }
+}
+
+TEST_F(MainWindowTest, AWallsBarsAreSetByThePickers)
+{
+    const Place wall{true, 0, Field::HorizontalBars};
+    Press(wall);
+    window.OpenPanel();
+    ClickRow(1308, "A");
+    ClickRow(1112, "10");
+    ClickRow(1114, "100");
+    ClickRow(1116, "200");
+    QTest::mouseClick(&Control(1116), Qt::RightButton);
+    EXPECT_EQ(Text(wall), "A10@100/200");
+    auto& grid = Find<QTreeWidget>("properties");
+    QTest::mouseClick(grid.findChild<QToolButton*>("open-12"), Qt::LeftButton);
+    ASSERT_EQ(window.Panels().Serving(), (Place{true, 0, Field::VerticalBars}));
+    ClickRow(1306, "C");
+    ClickRow(1307, "16");
+    QTest::mouseClick(&Control(1377), Qt::RightButton);
+    EXPECT_EQ(Text({true, 0, Field::VerticalBars}), "C16");
+}
+
+TEST_F(MainWindowTest, PropertiesAreEditedInPlace)
+{
+    Press({false, 2, Field::Section});
+    Trigger("edit");
+    auto* const editor = Find<QTreeWidget>("properties").findChild<QLineEdit*>();
+    ASSERT_NE(editor, nullptr);
+    editor->setText("350x750");
+    QTest::keyClick(editor, Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Text({false, 2, Field::Section}) == "350x750"; }, 2000));
+    EXPECT_EQ(Text({false, 2, Field::Section}), "350x750");
+}
+
+TEST_F(MainWindowTest, KeysGoFromAnnotationToAnnotationAndTheSearchFinds)
+{
+    window.Choose(Bars);
+    Trigger("nextField");
+    EXPECT_EQ(window.Chosen(), (Place{false, 0, Field::BottomBars}));
+    Trigger("nextOwner");
+    EXPECT_EQ(window.Chosen(), (Place{false, 1, Field::BottomBars}));
+    Trigger("previousOwner");
+    Trigger("previousOwner");
+    EXPECT_TRUE(window.Chosen()->isWall) << "around the circle";
+    auto& search = Find<QLineEdit>("search");
+    search.setText("wkl");
+    std::set<std::size_t> found;
+    for (int i = 0; i < 60; ++i) {
+        Trigger("findNext");
+        ASSERT_NE(QString::fromStdString(Text(*window.Chosen())).indexOf("WKL"), -1);
+        found.insert(window.Chosen()->index);
+    }
+    std::size_t wanted = 0;
+    for (const Beam& beam : window.TheDocument().Get().beams) {
+        wanted += beam.name.find("WKL") != std::string::npos ? 1U : 0U;
+    }
+    EXPECT_EQ(found.size(), wanted);
+    const Place last = *window.Chosen();
+    Trigger("findNext");
+    Trigger("findPrevious");
+    EXPECT_EQ(window.Chosen(), last);
+}
+
+TEST_F(MainWindowTest, UnsavedWorkIsNeverLeftWithoutAQuestion)
+{
+    window.TheDocument().SetText(Bars, "8B28");
+    QStringList asked;
+    const auto answer = [&](const char* button) {
+        QTimer::singleShot(0, [&asked, button] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            asked << box->text();
+            for (QAbstractButton* const each : box->buttons()) {
+                if (each->text() == button) {
+                    each->click();
+                }
+            }
+        });
+    };
+    answer("Stay");
+    EXPECT_FALSE(window.OpenFile(QString()));
+    EXPECT_EQ(Text(Bars), "8B28");
+    answer("Stay");
+    EXPECT_FALSE(window.close());
+    answer("Leave without saving");
+    EXPECT_TRUE(window.close());
+    EXPECT_EQ(asked.size(), 3);
+}
+
+TEST_F(MainWindowTest, EveryTextOfTheWindowIsThereInChinese)
+{
+    window.SetLanguage(Language::Chinese);
+    const ChineseTexts& texts = *ApplyLanguage(Language::Chinese);
+    for (const Field field : BeamFields()) {
+        window.Choose(Place{false, 1, field});
+    }
+    window.Choose(Place{true, 0, Field::VerticalBars});
+    Beam beam;
+    SectionSketch sketch;
+    for (const char* const section : {"", "x", "300x600"}) {
+        beam.section = section;
+        beam.stirrup = beam.topBars = "?";
+        beam.bottomBars = *section == '3' ? "9B25" : "1B12";
+        beam.area.bottom = 1000;
+        sketch.SetBeam(&beam, Field::LeftEnd);
+        sketch.grab();
+        sketch.SetBeam(&beam, Field::RightEnd);
+        sketch.grab();
+    }
+    window.grab();
+    EXPECT_EQ(texts.Missing().join('|').toStdString(), "");
+    EXPECT_TRUE(Find<QAction>("save").text().startsWith(QString::fromUtf8("保存")));
+    EXPECT_EQ(Offer().first(), QString::fromUtf8("[工程已有]"));
+    window.SetLanguage(Language::English);
+    EXPECT_EQ(Find<QAction>("save").text(), "&Save");
+}
+
+TEST_F(MainWindowTest, TheReportTellsWhatShowsAndWhere)
+{
+    Press(Bars);
+    window.OpenPanel();
+    const QJsonObject report = ScreenReport(window);
+    EXPECT_FALSE(report["annotations"].toArray().isEmpty());
+    EXPECT_TRUE(report["panel"].toObject().contains("1346"));
+    EXPECT_TRUE(report["widgets"].toObject().contains("desk/choices"));
+    EXPECT_EQ(report["chosen"].toObject()["field"].toInt(), static_cast<int>(Field::TopBars));
+}
+
+}  // namespace
