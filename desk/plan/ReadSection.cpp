@@ -85,6 +85,9 @@ std::optional<SectionSize> ReadSize(std::string_view text)
         return std::nullopt;
     }
     const std::optional<int> height = reader.TakeNumber(MaxLength);
+    if (height && reader.Take("/") && !reader.TakeNumber(MaxLength)) {
+        return std::nullopt;
+    }
     return height && reader.IsAtEnd() ? std::optional(SectionSize{*width, *height}) : std::nullopt;
 }
 

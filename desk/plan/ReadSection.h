@@ -13,7 +13,8 @@ struct SectionSize {
     int height = 0;
 };
 
-// "300x700"; X, * and the multiplication sign do as well. Nothing for another text.
+// "300x700"; X, * and the multiplication sign do as well. Of a tapering "300x500/350" the deeper end.
+// Nothing for another text.
 [[nodiscard]] std::optional<SectionSize> ReadSize(std::string_view text);
 
 // Bars as they lie, the row next to the face first; each row holds diameters in mm from left to right.

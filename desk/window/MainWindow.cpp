@@ -26,7 +26,7 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
     m_display.SetZoom(m_settings.value("panelZoom", 1.25).toDouble());
     SetAppearance(static_cast<Appearance>(m_settings.value("appearance", 0).toInt()));
     SetLanguage(static_cast<Language>(m_settings.value("language", 0).toInt()));
-    resize(1440, 900);
+    resize(QSize(1440, 900).boundedTo(screen()->availableSize()));
     restoreGeometry(m_settings.value("geometry").toByteArray());
     restoreState(m_settings.value("state").toByteArray());
 }

@@ -57,9 +57,10 @@ void AddWindowCommand(CLI::App& program)
     const auto report = std::make_shared<std::string>();
     CLI::App& command = *program.add_subcommand("window", "The drafting desk in a window");
     AddProjectOption(command, *project);
+    command.add_option("file", *project, "The same without the option's name")->type_name("FILE");
     command.add_option("--report", *report, "Keep a JSON file that tells what the window shows and where")
         ->type_name("FILE");
-    command.footer("Examples:\n  beamdesk window\n  beamdesk window --project tower.json");
+    command.footer("Examples:\n  beamdesk window\n  beamdesk window tower.json");
     command.callback([project, report] { RunWindow(project->c_str(), report->c_str()); });
 }
 

@@ -38,7 +38,9 @@ TEST(Section, ReadsWhatTheTextsSay)
                        "650")
                   ->width,
               300);
-    EXPECT_FALSE(ReadSize("300") || ReadSize("300x") || ReadSize("0x700") || ReadSize("300x700x"));
+    EXPECT_EQ(ReadSize("300x500/350")->height, 500);
+    EXPECT_FALSE(ReadSize("300x500/") || ReadSize("300") || ReadSize("300x") || ReadSize("0x700") ||
+                 ReadSize("300x700x"));
     EXPECT_EQ(ReadStirrup("A8@100(2)/200(4)")->legs, 4);
     EXPECT_EQ(ReadStirrup("A10@150")->legs, 2);
     EXPECT_FALSE(ReadStirrup("8@100(2)") || ReadStirrup("A8@100()"));

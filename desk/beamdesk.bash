@@ -1,0 +1,34 @@
+# Completion of beamdesk for bash.
+
+_beamdesk() {
+  local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]-}
+  local words=
+  case $previous in
+    --project | --output | -o | --report | --script)
+      mapfile -t COMPREPLY < <(compgen -f -- "$current")
+      return
+      ;;
+  esac
+  if [ "$COMP_CWORD" -eq 1 ]; then
+    words="tour rank table import hitrate panel events window shot --help --help-all --version"
+  else
+    case $command in
+      tour) words="--project --beam" ;;
+      rank) words="name section elevation bars stirrups --project --beam --json --limit --kind --top --width
+                   --area --table --grade --seismic --project-kind" ;;
+      table) words="bars stirrups --width --area --grade --seismic --json" ;;
+      import) words="--output --encoding --grade --legs --force --all" ;;
+      hitrate) words="--project --json" ;;
+      panel | events) words="name section elevation stirrup bars --do --script --to --text --kind --quiet --ids
+                             --json" ;;
+      window) words="--project --report" ;;
+      shot) words="--project --scale --dark --chinese" ;;
+    esac
+    words+=" --help"
+  fi
+  mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
+  if [ "$command" = window ] || [ "$command" = import ]; then
+    mapfile -t -O "${#COMPREPLY[@]}" COMPREPLY < <(compgen -f -- "$current")
+  fi
+}
+complete -o filenames -F _beamdesk beamdesk

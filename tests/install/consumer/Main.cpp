@@ -1,0 +1,25 @@
+// A host outside the source tree: ranks once and opens a picker.
+#include <cstdio>
+
+#include "RankerModule.h"
+
+int main()
+{
+    SteelBiao table;
+    table.InintOnce();
+    CHABIAO_HITNESS_RANKER ranker;
+    ranker.SetPara(300, 1000, &table, "1");
+    CStringArray candidates;
+    ranker.ProcessController(candidates);
+    CHBarPropertySheet picker;
+    CPropertyGridItem item;
+    item.SetHWnd(&item);
+    item.SetValue("B8@150");
+    const BOOL bCreated = picker.Create(CHBarPropertySheet::IDD);
+    picker.m_pItem = &item;
+    picker.UpdateValue();
+    picker.OnRButtonDown(0, CPoint());
+    std::printf("%d %s\n", candidates.GetSize() > 0 && bCreated ? 1 : 0,
+                static_cast<const char*>(item.GetValue()));
+    return 0;
+}
