@@ -16,5 +16,6 @@ void AddImportCommand(CLI::App& program, std::ostream& out);
 void AddHitrateCommand(CLI::App& program, std::ostream& out);
 void AddPanelCommand(CLI::App& program, std::ostream& out);
 void AddEventsCommand(CLI::App& program, std::ostream& out);
+void AddGenerateCommand(CLI::App& program, std::ostream& out);
 
 }  // namespace Desk

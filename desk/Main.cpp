@@ -111,6 +111,7 @@ int RunDesk(int argc, char** argv)
     Desk::AddHitrateCommand(program, std::cout);
     Desk::AddPanelCommand(program, std::cout);
     Desk::AddEventsCommand(program, std::cout);
+    Desk::AddGenerateCommand(program, std::cout);
     Desk::AddWindowCommand(program);
     Desk::AddShotCommand(program);
 

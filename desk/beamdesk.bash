@@ -10,7 +10,7 @@ _beamdesk() {
       ;;
   esac
   if [ "$COMP_CWORD" -eq 1 ]; then
-    words="tour rank table import hitrate panel events window shot --help --help-all --version"
+    words="tour rank table import hitrate panel events generate window shot --help --help-all --version"
   else
     case $command in
       tour) words="--project --beam" ;;
@@ -21,6 +21,7 @@ _beamdesk() {
       hitrate) words="--project --json" ;;
       panel | events) words="name section elevation stirrup bars --do --script --to --text --kind --quiet --ids
                              --json" ;;
+      generate) words="--seed --output --force" ;;
       window) words="--project --report" ;;
       shot) words="--project --scale --dark --chinese" ;;
     esac

@@ -126,14 +126,13 @@ void MainWindow::MakeChoiceMenus()
             [this](int number) { SetLanguage(static_cast<Language>(number)); });
     choices("&Appearance", {"As the system", "Light", "Dark"}, m_settings.value("appearance", 0).toInt(),
             [this](int number) { SetAppearance(static_cast<Appearance>(number)); });
-    constexpr double Zooms[] = {1.0, 1.25, 1.5, 2.0};
+    static constexpr double Zooms[] = {1.0, 1.25, 1.5, 2.0};
     const double zoom = m_settings.value("panelZoom", Zooms[1]).toDouble();
     const auto at = std::find(std::begin(Zooms), std::end(Zooms), zoom) - std::begin(Zooms);
-    choices("&Panel size", {"100 %", "125 %", "150 %", "200 %"}, static_cast<int>(at),
-            [this, Zooms](int number) {
-                m_settings.setValue("panelZoom", Zooms[number]);
-                m_display.SetZoom(Zooms[number]);
-            });
+    choices("&Panel size", {"100 %", "125 %", "150 %", "200 %"}, static_cast<int>(at), [this](int number) {
+        m_settings.setValue("panelZoom", Zooms[number]);
+        m_display.SetZoom(Zooms[number]);
+    });
 }
 
 void MainWindow::MakeSearch()

@@ -63,7 +63,6 @@ protected:
         }
         m_scale = std::stod(scale);
         WaitFor("the window", [](const json& report) { return !report["annotations"].empty(); });
-        Shell("xdotool search --sync --name beamdesk windowactivate --sync");
     }
     void Kill()
     {
