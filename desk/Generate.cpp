@@ -65,7 +65,7 @@ Project GenerateProject(int beams, unsigned seed)
     for (int i = 0; i < beams / 10 && !sample.walls.empty(); ++i) {
         Wall wall = draw.From(sample.walls);
         wall.source = nlohmann::ordered_json::object();
-        wall.name = "Q" + std::to_string(i + 1);
+        wall.name = std::string("Q").append(std::to_string(i + 1));
         PlaceOnGrid(i * 10, wall.start, wall.end);
         wall.end = {(wall.start.x + wall.end.x) / 2, (wall.start.y + wall.end.y) / 2};
         project.walls.push_back(std::move(wall));

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <charconv>
 
+#include <CLI/CLI.hpp>
+
 #include "RankerModule.h"
 #include "desk/Encoding.h"
 #include "desk/Failure.h"

@@ -4,9 +4,12 @@
 #include <optional>
 #include <string>
 
-#include <CLI/CLI.hpp>
-
 #include "desk/Project.h"
+
+namespace CLI {
+class App;
+class Validator;
+}  // namespace CLI
 
 namespace Desk {
 

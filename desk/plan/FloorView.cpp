@@ -14,6 +14,7 @@ constexpr double LeastScale = 1e-4;  // pixels a mm
 constexpr double MostScale = 0.5;
 constexpr double WheelStep = 1.2;  // a notch of the wheel
 constexpr double BodyReach = 4.0;  // pixels beside a beam that still count as on it
+constexpr int KeySteps = 8;        // strokes of an arrow key across the view
 constexpr int ViewMargin = 30;     // pixels around an annotation that is brought into view
 
 }  // namespace
@@ -257,6 +258,29 @@ void FloorView::wheelEvent(QWheelEvent* event)
     ZoomTo(transform().m11() * std::pow(WheelStep, event->angleDelta().y() / Notch));
     PanBy(at - mapFromScene(before));
     event->accept();
+}
+
+void FloorView::keyPressEvent(QKeyEvent* event)
+{
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const QSize step = viewport()->size() / KeySteps;
+    const int page = viewport()->height() - step.height();
+    QPoint by;
+    switch (event->key()) {
+    case Qt::Key_Left: by = {step.width(), 0}; break;
+    case Qt::Key_Right: by = {-step.width(), 0}; break;
+    case Qt::Key_Up: by = {0, step.height()}; break;
+    case Qt::Key_Down: by = {0, -step.height()}; break;
+    case Qt::Key_PageUp: by = {0, page}; break;
+    case Qt::Key_PageDown: by = {0, -page}; break;
+    default: break;
+    }
+    if (!plain || by.isNull()) {
+        event->ignore();
+        return;
+    }
+    PanBy(by);
+    m_isFitted = false;
 }
 
 void FloorView::showEvent(QShowEvent* event)

@@ -44,7 +44,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override { event->ignore(); }  // the window's
+    void keyPressEvent(QKeyEvent* event) override;  // moves the floor; other keys are the window's
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

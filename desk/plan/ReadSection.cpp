@@ -20,6 +20,14 @@ public:
 
     [[nodiscard]] bool IsAtEnd() const { return m_rest.find_first_not_of(' ') == std::string_view::npos; }
 
+    // Behind a term: counts of rows, in brackets or not.
+    [[nodiscard]] bool IsAtCounts() const
+    {
+        const std::size_t at = m_rest.find_first_not_of(' ');
+        return at != std::string_view::npos &&
+               (m_rest[at] == '(' || (m_rest[at] >= '0' && m_rest[at] <= '9'));
+    }
+
     bool Take(std::string_view wanted)
     {
         SkipBlanks();
@@ -68,6 +76,17 @@ std::optional<std::vector<int>> TakeSplit(Reader& reader)
     return !bracket || reader.Take(")") ? std::optional(counts) : std::nullopt;
 }
 
+std::vector<std::vector<int>> InRows(const std::vector<int>& bars, const std::vector<int>& counts)
+{
+    std::vector<std::vector<int>> rows;
+    auto next = bars.begin();
+    for (const int count : counts) {
+        rows.emplace_back(next, next + count);
+        next += count;
+    }
+    return rows;
+}
+
 // Half of the new bars on either side would tear pairs apart: the later terms go to the middle.
 void InsertInTheMiddle(std::vector<int>& row, int count, int diameter)
 {
@@ -102,12 +121,17 @@ double BarRows::Area() const
     return area;
 }
 
+// 2B22+3B25/2B22: "+" joins bars of one row, "/" begins the row below. Counts of rows behind a term share
+// out its bars, or all bars so far.
 std::optional<BarRows> ReadBars(std::string_view text)
 {
     Reader reader(text.substr(0, text.find(';')));
-    reader.TakeOneOf("GN*");
+    const bool bracket = reader.Take("+(") || reader.Take("(");
+    if (!bracket) {
+        reader.TakeOneOf("GN*");
+    }
     BarRows read;
-    read.rows.emplace_back();
+    std::size_t row = 0;
     do {
         const std::optional<int> count = reader.TakeNumber(MaxBars);
         if (!count || !reader.TakeOneOf("ABCD")) {
@@ -117,26 +141,34 @@ std::optional<BarRows> ReadBars(std::string_view text)
         if (!diameter) {
             return std::nullopt;
         }
-        InsertInTheMiddle(read.rows.front(), *count, *diameter);
-    } while (reader.Take("+"));
-    if (reader.IsAtEnd()) {
-        return read;
-    }
-    const std::optional<std::vector<int>> split = TakeSplit(reader);
-    const std::vector<int> all = read.rows.front();
-    if (!split || !reader.IsAtEnd() ||
-        std::accumulate(split->begin(), split->end(), std::size_t{0}, [](std::size_t sum, int count) {
-            return sum + static_cast<std::size_t>(count);
-        }) != all.size()) {
+        read.rows.resize(std::max(read.rows.size(), row + 1));
+        if (!reader.IsAtCounts()) {
+            InsertInTheMiddle(read.rows[row], *count, *diameter);
+            continue;
+        }
+        const std::optional<std::vector<int>> counts = TakeSplit(reader);
+        if (!counts) {
+            return std::nullopt;
+        }
+        const int sum = std::accumulate(counts->begin(), counts->end(), 0);
+        if (sum == *count) {
+            read.rows.resize(std::max(read.rows.size(), row + counts->size()));
+            for (std::size_t i = 0; i < counts->size(); ++i) {
+                InsertInTheMiddle(read.rows[row + i], (*counts)[i], *diameter);
+            }
+            continue;
+        }
+        InsertInTheMiddle(read.rows[row], *count, *diameter);
+        if (read.rows.size() != 1 || static_cast<std::size_t>(sum) != read.rows.front().size()) {
+            return std::nullopt;
+        }
+        read.rows = InRows(read.rows.front(), *counts);
+    } while (reader.Take("+") || (reader.Take("/") && ++row > 0));
+    if (bracket && !reader.Take(")")) {
         return std::nullopt;
     }
-    read.rows.clear();
-    auto next = all.begin();
-    for (const int count : *split) {
-        read.rows.emplace_back(next, next + count);
-        next += count;
-    }
-    return read;
+    reader.Take(",");
+    return reader.IsAtEnd() ? std::optional(read) : std::nullopt;
 }
 
 std::optional<StirrupSize> ReadStirrup(std::string_view text)

@@ -17,16 +17,17 @@ struct SectionSize {
 // Nothing for another text.
 [[nodiscard]] std::optional<SectionSize> ReadSize(std::string_view text);
 
-// Bars as they lie, the row next to the face first; each row holds diameters in mm from left to right.
+// Bars as they lie, the upper row first; each row holds diameters in mm from left to right.
 struct BarRows {
     std::vector<std::vector<int>> rows;
 
     [[nodiscard]] double Area() const;  // mm²
 };
 
-// "2B25+1B22", "5B20 3/2", "6B25(2/4)" with the counts from the top down; "G4B12" and "N4B14" without
-// rows. The first term's bars lie at the corners. Of "2B25;4B25" the part in front of the semicolon.
-// Nothing for a text that cannot be read to its end, and for rows that do not add up.
+// "2B25+1B22", "6B25/4B25" and "2B22+3B25/2B22" from the row above to the row below, "5B20 3/2" and
+// "6B25(2/4)" with the counts from the top down; "G4B12", "N4B14", "*2B12" and "+(2B12)" without the mark.
+// The first term's bars lie at the corners. Of "2B25;4B25" the part in front of the semicolon. Nothing for
+// a text that cannot be read to its end, and for rows that do not add up.
 [[nodiscard]] std::optional<BarRows> ReadBars(std::string_view text);
 
 struct StirrupSize {

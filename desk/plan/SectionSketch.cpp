@@ -8,7 +8,7 @@ namespace Desk {
 namespace {
 
 constexpr int LeftMargin = 46;    // pixels, for the height
-constexpr int RightMargin = 132;  // for the notes
+constexpr int NoteGap = 10;       // between the section and its notes
 constexpr int TopMargin = 26;
 constexpr int BottomMargin = 30;  // for the width
 constexpr int LineHeight = 16;
@@ -45,7 +45,8 @@ void SectionSketch::paintEvent(QPaintEvent* /*event*/)
     }
     const QStringList warnings = Warnings();
     const int below = BottomMargin + LineHeight * static_cast<int>(warnings.size());
-    const QRectF room(LeftMargin, TopMargin, std::max(20, width() - LeftMargin - RightMargin),
+    const int right = NotesWidth() + 2 * NoteGap;
+    const QRectF room(LeftMargin, TopMargin, std::max(20, width() - LeftMargin - right),
                       std::max(20, height() - TopMargin - below));
     const SectionSize size = m_layout.size;
     if (size.width > 0) {
@@ -120,29 +121,47 @@ void SectionSketch::PaintSizes(QPainter& painter, const QRectF& section) const
     painter.restore();
 }
 
-// Each text beside its bars, with the steel that it gives and the steel that is required.
+// A note's second line: the steel that its text gives, and the steel that is required.
+QString SectionSketch::SteelOf(const SectionNote& note)
+{
+    if (note.area <= 0.0) {
+        return {};
+    }
+    return note.required > 0 ? tr("%1 of %2 mm²").arg(std::lround(note.area)).arg(note.required)
+                             : tr("%1 mm²").arg(std::lround(note.area));
+}
+
+// As much as the notes need, at most half of the sketch.
+int SectionSketch::NotesWidth() const
+{
+    int most = 0;
+    for (const SectionNote& note : m_layout.notes) {
+        most = std::max({most, fontMetrics().horizontalAdvance(QString::fromStdString(note.text)),
+                         fontMetrics().horizontalAdvance(SteelOf(note))});
+    }
+    return std::min(most, width() / 2);
+}
+
+// Each text beside its bars, with its steel.
 void SectionSketch::PaintNotes(QPainter& painter, const QRectF& room, const QRectF& section) const
 {
     double middle = section.center().y() - LineHeight;
-    const double x = room.right() + 10;
+    const int across = NotesWidth();
+    const auto draw = [&](double y, const QString& text, const QColor& color) {
+        painter.setPen(color);
+        painter.drawText(QRectF(room.right() + NoteGap, y, across, LineHeight),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
+                         painter.fontMetrics().elidedText(text, Qt::ElideRight, across));
+    };
     for (const SectionNote& note : m_layout.notes) {
         const bool sides = note.field == Field::Side || note.field == Field::Torsion;
         const bool bottom = note.field == Field::BottomBars;
         const double y = bottom ? section.bottom() - 2 * LineHeight : sides ? middle : section.top();
         middle += sides ? LineHeight : 0;
         const bool faulty = IsFaulty(note.field);
-        painter.setPen(faulty ? Warning() : palette().color(QPalette::Text));
-        const QRectF line(x, y, RightMargin - 14, LineHeight);
-        painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
-                         painter.fontMetrics().elidedText(QString::fromStdString(note.text), Qt::ElideRight,
-                                                          RightMargin - 14));
-        if (note.area > 0.0) {
-            painter.setPen(faulty ? Warning() : palette().color(QPalette::PlaceholderText));
-            const QString steel = note.required > 0
-                                      ? tr("%1 of %2 mm²").arg(std::lround(note.area)).arg(note.required)
-                                      : tr("%1 mm²").arg(std::lround(note.area));
-            painter.drawText(line.translated(0, LineHeight), Qt::AlignLeft | Qt::AlignVCenter, steel);
-        }
+        draw(y, QString::fromStdString(note.text), faulty ? Warning() : palette().color(QPalette::Text));
+        draw(y + LineHeight, SteelOf(note),
+             faulty ? Warning() : palette().color(QPalette::PlaceholderText));
     }
 }
 

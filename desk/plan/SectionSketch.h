@@ -21,6 +21,8 @@ protected:
 private:
     void PaintConcrete(QPainter& painter, const QTransform& toWidget) const;
     void PaintSizes(QPainter& painter, const QRectF& section) const;
+    [[nodiscard]] static QString SteelOf(const SectionNote& note);
+    [[nodiscard]] int NotesWidth() const;
     void PaintNotes(QPainter& painter, const QRectF& room, const QRectF& section) const;
     [[nodiscard]] QStringList Warnings() const;
     [[nodiscard]] bool IsFaulty(Field field) const;

@@ -51,4 +51,15 @@ bool IsForLineEdit(const QKeyEvent& key)
     }
 }
 
+bool IsRightPress(const QKeyEvent& key)
+{
+    switch (key.key()) {
+    case Qt::Key_Menu: return true;
+    case Qt::Key_F10: return key.modifiers().testFlag(Qt::ShiftModifier);
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return key.modifiers().testFlag(Qt::ControlModifier);
+    default: return false;
+    }
+}
+
 }  // namespace Desk

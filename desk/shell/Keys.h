@@ -12,4 +12,7 @@ namespace Desk {
 // A line edit has a use of its own for the key: letters, caret, deletion, clipboard.
 [[nodiscard]] bool IsForLineEdit(const QKeyEvent& key);
 
+// What stands for the right button where there is no mouse: the menu key, Shift+F10, Ctrl+Enter.
+[[nodiscard]] bool IsRightPress(const QKeyEvent& key);
+
 }  // namespace Desk

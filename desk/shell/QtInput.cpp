@@ -253,6 +253,14 @@ bool QtInput::OnKey(HWND window, const QKeyEvent& key, bool native)
     if (code != 0) {
         taken = send(down ? WM_KEYDOWN : WM_KEYUP, code, !nativeKey);
     }
+    if (down && !taken && IsRightPress(key)) {
+        const HWND holder = HolderOf(window);
+        if (const QWidget* const surface = m_display.WidgetOf(holder)) {
+            OnMouse(holder, WM_RBUTTONDOWN, surface->mapToGlobal(surface->rect().center()), MK_RBUTTON,
+                    false);
+        }
+        return true;
+    }
     if (down && !taken && !key.text().isEmpty()) {
         const std::optional<CString> typed = GbkFromUtf8(key.text().toStdString());
         for (int i = 0; typed && i < typed->GetLength() && IsWindow(target); ++i) {

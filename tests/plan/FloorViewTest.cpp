@@ -86,6 +86,28 @@ TEST(FloorView, BareGroundPansOrPicksNothing)
     EXPECT_TRUE(view.picked.empty());
 }
 
+TEST(FloorView, ArrowKeysMoveTheFloorAndOtherKeysAreTheWindows)
+{
+    const Project project = SampleProject();
+    View view;
+    view.SetProject(&project);
+    view.show();
+    view.ZoomBy(4.0);
+    const Place place{false, 0, Field::Name};
+    const QPoint before = view.Middle(place);
+    QTest::keyClick(&view, Qt::Key_Right);
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_LT(view.Middle(place).x(), before.x());
+    EXPECT_LT(view.Middle(place).y(), before.y());
+    QTest::keyClick(&view, Qt::Key_Left);
+    QTest::keyClick(&view, Qt::Key_PageUp);
+    EXPECT_EQ(view.Middle(place).x(), before.x());
+    EXPECT_GT(view.Middle(place).y(), before.y());
+    QKeyEvent letter(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
+    QApplication::sendEvent(&view, &letter);
+    EXPECT_FALSE(letter.isAccepted());
+}
+
 TEST(FloorView, RefreshMovesNoOtherText)
 {
     Project project = SampleProject();

@@ -26,10 +26,15 @@ TEST(Section, ReadsWhatTheTextsSay)
     EXPECT_EQ(Rows("3B20+2B16"), "20 20 16 16 20 | ");
     EXPECT_EQ(Rows("5B20 3/2"), "20 20 20 | 20 20 | ");
     EXPECT_EQ(Rows("6B25(2/4)"), "25 25 | 25 25 25 25 | ");
+    EXPECT_EQ(Rows("6B25/4B25"), "25 25 25 25 25 25 | 25 25 25 25 | ");
+    EXPECT_EQ(Rows("2B22+3B25/2B22"), "22 25 25 25 22 | 22 22 | ");
+    EXPECT_EQ(Rows("6B25 4/2+2B22 1/1 "), "25 25 22 25 25 | 25 22 25 | ");
+    EXPECT_EQ(Rows("2B25+3B22 3/2"), "25 22 22 | 22 25 | ");
+    EXPECT_EQ(Rows("+(2B12+2B14),"), "12 14 14 12 | ");
     EXPECT_EQ(Rows("G4B12"), "12 12 12 12 | ");
     EXPECT_EQ(Rows("2B25;4B20"), "25 25 | ");
     for (const char* const text :
-         {"", "2B", "B25", "2E25", "5B20 3/3", "2B25+", "2B25 x", "-2B25", "999B25", "2B9999"}) {
+         {"", "2B", "B25", "2E25", "5B20 3/3", "2B25+", "2B25/", "2B25/2", "+(2B12", "2B25)", "2B25 x", "-2B25", "999B25", "2B9999"}) {
         EXPECT_EQ(Rows(text), "no bars") << text;
     }
     EXPECT_NEAR(ReadBars("2B25+1B22")->Area(), 1361.9, 0.1);

@@ -154,6 +154,38 @@ TEST_F(Shell, ARightPressIsEatenWholeAndDeliversOnce)
     }
 }
 
+// Tab into a list, arrows to the row, and a key that stands for the right button.
+TEST_F(Shell, TheKeyboardAlonePicksAndConfirms)
+{
+    const auto press = [](Qt::Key key, Qt::KeyboardModifiers with = {}) {
+        QTest::keyClick(QApplication::focusWidget(), key, with);
+    };
+    const std::pair<Qt::Key, Qt::KeyboardModifiers> confirms[] = {{Qt::Key_Menu, {}},
+                                                                  {Qt::Key_F10, Qt::ShiftModifier},
+                                                                  {Qt::Key_Return, Qt::ControlModifier}};
+    for (const auto& [key, with] : confirms) {
+        Stage stage(Shown::Vertical);
+        display.WidgetOf(stage.panel->m_hWnd)->activateWindow();
+        constexpr int Grades = 1306, Diameters = 1307;
+        const auto tabTo = [&](int id) {
+            for (int i = 0; i < 8 && CWnd::GetFocus() != stage.panel->GetDlgItem(id); ++i) {
+                press(Qt::Key_Tab);
+            }
+            ASSERT_EQ(CWnd::GetFocus(), stage.panel->GetDlgItem(id));
+        };
+        tabTo(Grades);
+        press(Qt::Key_Down);
+        press(Qt::Key_Down);
+        tabTo(Diameters);
+        press(Qt::Key_End);
+        press(Qt::Key_Return);
+        EXPECT_TRUE(stage.item.taken.empty());
+        press(key, with);
+        EXPECT_EQ(stage.item.taken, std::vector<std::string>{"B32"});
+        EXPECT_EQ(stage.panel->IsWindowVisible(), FALSE);
+    }
+}
+
 TEST_F(Shell, AMessageWaitsForItsAnswerAndLeavesThePanel)
 {
     Stage stage(Shown::Section);

@@ -1,6 +1,11 @@
 // Panels with an item that notes what it gets, and a user's hand on the toolkit's widgets.
 #pragma once
 
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include <QtTest/QtTest>
@@ -59,21 +64,21 @@ public:
     // Everything that a person sees, and what went out.
     [[nodiscard]] std::string State() const
     {
-        std::string state = panel->IsWindowVisible() ? "shown" : "hidden";
+        std::ostringstream state;
+        state << (panel->IsWindowVisible() ? "shown" : "hidden");
         const CWnd* const focus = CWnd::GetFocus();
         for (const HWND child : FindWindowRecord(panel->m_hWnd)->children) {
             const WindowRecord& control = *FindWindowRecord(child);
-            state += " " + std::to_string(control.id) +
-                     (focus != nullptr && focus->m_hWnd == child ? "*" : "") + "=" +
-                     std::string(control.text.View()) + ":" + std::to_string(control.list.selection) + "/" +
-                     std::to_string(control.list.rows.size()) + "@" + std::to_string(control.list.top);
+            state << ' ' << control.id << (focus != nullptr && focus->m_hWnd == child ? "*" : "") << '='
+                  << control.text.View() << ':' << control.list.selection << '/' << control.list.rows.size()
+                  << '@' << control.list.top;
         }
         const CRect& place = FindWindowRecord(panel->m_hWnd)->place;
-        state += " at " + std::to_string(place.left) + "," + std::to_string(place.top) + " gave";
+        state << " at " << place.left << ',' << place.top << " gave";
         for (const std::string& text : item.taken) {
-            state += " " + text;
+            state << ' ' << text;
         }
-        return state;
+        return state.str();
     }
 
     NotedItem item;
