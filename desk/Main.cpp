@@ -86,7 +86,8 @@ void ExplainWrongUse(const CLI::App& program, const CLI::ParseError& error, std:
 int RunDesk(int argc, char** argv)
 {
     CLI::App program(
-        "Ranks the annotation texts of reinforced-concrete beams by what a project already holds.",
+        "The annotations of reinforced-concrete beams and walls, picked instead of typed: in a window, or "
+        "ranked on the command line by what a project already holds.",
         "beamdesk");
     std::string project;
     std::string beam;
@@ -95,6 +96,7 @@ int RunDesk(int argc, char** argv)
     program.require_subcommand(0, 1);
     program.footer("Without a command: the tour.\n\nExamples:\n"
                    "  beamdesk\n"
+                   "  beamdesk window\n"
                    "  beamdesk rank bars --kind 1 --width 300 --area 1000 --table\n"
                    "  beamdesk rank name --project tower.json\n"
                    "  beamdesk table bars --width 300 --area 1000\n\n"

@@ -139,7 +139,8 @@ int SectionSketch::NotesWidth() const
         most = std::max({most, fontMetrics().horizontalAdvance(QString::fromStdString(note.text)),
                          fontMetrics().horizontalAdvance(SteelOf(note))});
     }
-    return std::min(most, width() / 2);
+    constexpr int Rounding = 2;  // advances are no whole pixels
+    return std::min(most + Rounding, width() / 2);
 }
 
 // Each text beside its bars, with its steel.

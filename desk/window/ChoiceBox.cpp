@@ -14,7 +14,8 @@ bool OfProject(Source source) { return source == Source::Project || source == So
 bool OfGuess(Source source) { return source == Source::Guess; }
 bool OfTable(Source source) { return source == Source::Table; }
 
-// A dot for the ranker's focus, drawn so that it follows the colours.
+// A mark for the ranker's focus that follows the colours. The other rows have one that does not show, so
+// that all texts stand in one line.
 QIcon FocusMark(const QColor& color)
 {
     constexpr int Size = 32;
@@ -164,8 +165,8 @@ void ChoiceBox::AddRow(QTreeWidgetItem* group, const Candidate& candidate, bool 
         bold.setBold(true);
         row->setFont(TextColumn, bold);
     }
+    row->setIcon(TextColumn, FocusMark(focus ? palette().color(QPalette::Highlight) : Qt::transparent));
     if (focus) {
-        row->setIcon(TextColumn, FocusMark(palette().color(QPalette::Highlight)));
         row->setToolTip(TextColumn, tr("The last text that the project supports"));
     }
     if (present || (focus && m_first == nullptr)) {

@@ -117,6 +117,8 @@ void TakeShots(const std::string& folder, const ShotOptions& options)
     window.Choose(PlaceFor(window.TheDocument().Get(), {"", Field::TopBars, false}));
     QCoreApplication::processEvents();
     SaveTo(out, "window", window.grab());
+    constexpr double Closer = 2.2;  // so that the texts beside an open panel can be read
+    window.Drawing().ZoomBy(Closer);
     ShootPanels(window, out);
 }
 

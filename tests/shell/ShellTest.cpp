@@ -157,15 +157,16 @@ TEST_F(Shell, ARightPressIsEatenWholeAndDeliversOnce)
 // Tab into a list, arrows to the row, and a key that stands for the right button.
 TEST_F(Shell, TheKeyboardAlonePicksAndConfirms)
 {
-    const auto press = [](Qt::Key key, Qt::KeyboardModifiers with = {}) {
-        QTest::keyClick(QApplication::focusWidget(), key, with);
-    };
     const std::pair<Qt::Key, Qt::KeyboardModifiers> confirms[] = {{Qt::Key_Menu, {}},
                                                                   {Qt::Key_F10, Qt::ShiftModifier},
                                                                   {Qt::Key_Return, Qt::ControlModifier}};
     for (const auto& [key, with] : confirms) {
         Stage stage(Shown::Vertical);
-        display.WidgetOf(stage.panel->m_hWnd)->activateWindow();
+        const auto press = [&](Qt::Key pressed, Qt::KeyboardModifiers held = {}) {
+            const CWnd* const focus = CWnd::GetFocus();
+            QTest::keyClick(display.WidgetOf(focus != nullptr ? focus->m_hWnd : stage.panel->m_hWnd), pressed,
+                            held);
+        };
         constexpr int Grades = 1306, Diameters = 1307;
         const auto tabTo = [&](int id) {
             for (int i = 0; i < 8 && CWnd::GetFocus() != stage.panel->GetDlgItem(id); ++i) {
