@@ -137,6 +137,7 @@ QJsonObject ScreenReport(MainWindow& window)
     }
     QJsonObject told{{"title", window.windowTitle()},
                      {"changed", window.TheDocument().IsChanged()},
+                     {"active", QApplication::activeWindow() != nullptr},
                      {"status", window.statusBar()->currentMessage()},
                      {"widgets", widgets},
                      {"annotations", Annotations(window)},

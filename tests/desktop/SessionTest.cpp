@@ -62,7 +62,8 @@ protected:
             _exit(127);
         }
         m_scale = std::stod(scale);
-        WaitFor("the window", [](const json& report) { return !report["annotations"].empty(); });
+        WaitFor("the window",
+                [](const json& report) { return report["active"] == true && !report["annotations"].empty(); });
     }
     void Kill()
     {
@@ -105,6 +106,21 @@ protected:
         FAIL() << what << " did not come; the window tells:\n" << last.dump();
     }
 
+    // The report once nothing moves any more: a window manager places windows some time after they show.
+    [[nodiscard]] json Settled() const
+    {
+        json before = Report();
+        for (int i = 0; i < 50; ++i) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(500));
+            json now = Report();
+            if (now.is_object() && now == before) {
+                break;
+            }
+            before = std::move(now);
+        }
+        return before;
+    }
+
     void Click(const json& place, int button = 1)
     {
         ClickAt(place[0].get<double>() + place[2].get<double>() / 2,
@@ -116,12 +132,10 @@ protected:
             return std::to_string(static_cast<int>(place * m_scale));
         };
         Shell("xdotool mousemove --sync " + pixel(x) + " " + pixel(y) + " click " + std::to_string(button));
-        std::this_thread::sleep_for(std::chrono::milliseconds(250));
     }
     void Keys(const std::string& keys)
     {
         Shell("xdotool key --delay 60 " + keys);
-        std::this_thread::sleep_for(std::chrono::milliseconds(250));
     }
 
     // Presses an annotation in the drawing.
@@ -131,7 +145,7 @@ protected:
             return each["wall"] == place.isWall && each["index"] == place.index &&
                    each["field"] == static_cast<int>(place.field);
         };
-        const json shown = Report();
+        const json shown = Settled();
         for (const json& each : shown["annotations"]) {
             if (isWanted(each)) {
                 Click(each["place"]);
@@ -145,11 +159,14 @@ protected:
     }
     void TakeCandidate(const std::string& text)
     {
-        const json report = Report();
+        const json report = Settled();
         const json& choices = report["widgets"]["desk/choices"];
         for (const json& row : choices["rows"]) {
             if (row["text"] == text) {
                 Click(row["place"]);
+                WaitFor("the taken text", [&](const json& now) {
+                    return now["changed"] == true && now["status"].get<std::string>().ends_with(text);
+                });
                 return;
             }
         }
@@ -160,7 +177,7 @@ protected:
     {
         constexpr int RowHeight = 12;
         WaitFor("the panel", [&](const json& report) { return report["panel"].contains(id); });
-        const json report = Report();
+        const json report = Settled();
         const json& list = report["panel"][id];
         const double height = RowHeight * report["panelZoom"].get<double>();
         for (std::size_t row = 0; row < list["rows"].size(); ++row) {
@@ -174,13 +191,13 @@ protected:
     }
     void ConfirmPanel(const char* id)
     {
-        const json before = Report();
+        const json before = Settled();
         Click(before["panel"][id]["place"], 3);
         WaitFor("the end of the panel", [](const json& report) { return report["panel"].empty(); });
     }
     void Press(const std::string& button)
     {
-        const json report = Report();
+        const json report = Settled();
         for (const auto& [name, widget] : report["widgets"].items()) {
             if (widget.contains("text") && widget["text"] == button) {
                 Click(widget["place"]);
@@ -214,7 +231,7 @@ TEST_F(Session, ChoosesComposesSetsAWallSavesAndReloads)
     ConfirmPanel("1340");
     // The wall whose bars show nearest to the sheet's edge.
     Place wall{true, 0, Field::HorizontalBars};
-    const json shown = Report();
+    const json shown = Settled();
     for (const json& each : shown["annotations"]) {
         if (each["wall"] == true && each["field"] == static_cast<int>(Field::HorizontalBars)) {
             wall.index = each["index"].get<std::size_t>();
