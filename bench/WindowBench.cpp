@@ -57,7 +57,10 @@ void Measure(const char* name, const Project& project, const QString& file)
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    QElapsedTimer timer;
+    timer.start();
     QApplication application(argc, argv);
+    std::cout << "toolkit: " << static_cast<double>(timer.nsecsElapsed()) / 1e6 << " ms\n";
     QStandardPaths::setTestModeEnabled(true);
     const QTemporaryDir folder;
     Measure("sample", SampleProject(), folder.filePath("sample.json"));
