@@ -19,7 +19,7 @@ _beamdesk() {
       table) words="bars stirrups --width --area --grade --seismic --json" ;;
       import) words="--output --encoding --grade --legs --force --all" ;;
       hitrate) words="--project --json" ;;
-      panel | events) words="name section elevation stirrup bars --do --script --to --text --kind --quiet --ids
+      panel | events) words="name section elevation stirrup bars hbars vbars --do --script --to --text --kind --quiet --ids
                              --json" ;;
       generate) words="--seed --output --force" ;;
       window) words="--project --report" ;;

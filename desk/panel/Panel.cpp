@@ -107,7 +107,7 @@ Holding HeldBy(const CBeamSteelDlg& dialog)
 template <class Dialog>
 Holding HeldBy(const Dialog& dialog)
 {
-    return {Utf8FromGbk(dialog.m_strResult), {}, -1};
+    return {Utf8FromGbk(dialog.m_strResult), {}, -1, {}};
 }
 
 template <class Rules>
@@ -168,6 +168,8 @@ std::unique_ptr<Panel> MakePanel(const Setup& setup, Watch& watch, CPropertyGrid
     case PanelKind::Elevation:
         return std::make_unique<PanelOf<ElevationRules>>(setup, watch, item, hostData);
     case PanelKind::Stirrup: return std::make_unique<PanelOf<StirrupRules>>(setup, watch, item, hostData);
+    case PanelKind::HorizontalBars:
+    case PanelKind::VerticalBars: return MakePicker(setup, watch, *item);
     case PanelKind::Bars: break;
     }
     return std::make_unique<PanelOf<BarRules>>(setup, watch, item, hostData);
@@ -180,6 +182,8 @@ const char* TitleOf(PanelKind kind)
     case PanelKind::Section: return "Section panel";
     case PanelKind::Elevation: return "Elevation panel";
     case PanelKind::Stirrup: return "Stirrup panel";
+    case PanelKind::HorizontalBars: return "Horizontal wall bar picker";
+    case PanelKind::VerticalBars: return "Vertical wall bar picker";
     case PanelKind::Bars: break;
     }
     return "Bar panel";

@@ -1,4 +1,4 @@
-// The five panels behind one face, as a host makes and opens them.
+// The five panels and the two pickers behind one face, as a host makes and opens them.
 #pragma once
 
 #include <memory>
@@ -8,7 +8,7 @@
 
 namespace Desk::Panels {
 
-enum class PanelKind { Name, Section, Elevation, Stirrup, Bars };
+enum class PanelKind { Name, Section, Elevation, Stirrup, Bars, HorizontalBars, VerticalBars };
 enum class Route { Item, Parent, Host };
 
 // What a host decides before it makes a panel.
@@ -39,6 +39,14 @@ public:
 // Item and host data are borrowed by the panel.
 [[nodiscard]] std::unique_ptr<Panel> MakePanel(const Setup& setup, Watch& watch, CPropertyGridItem* item,
                                                void* hostData);
+
+// The picker of a wall's horizontal or vertical bars: it delivers to the item alone.
+[[nodiscard]] std::unique_ptr<Panel> MakePicker(const Setup& setup, Watch& watch, CPropertyGridItem& item);
+
+[[nodiscard]] constexpr bool IsPicker(PanelKind kind)
+{
+    return kind == PanelKind::HorizontalBars || kind == PanelKind::VerticalBars;
+}
 
 [[nodiscard]] const char* TitleOf(PanelKind kind);
 

@@ -142,6 +142,10 @@ constexpr Form Forms[] = {
      "stirrup --text \"A8@200(2)\" --do \"click 1356 100; right\""},
     {PanelKind::Bars, "bars", "Longitudinal bars: pieces composed by mouse alone",
      "bars --kind 0 --to parent --do \"click 1338 2; click 1340 25; right\""},
+    {PanelKind::HorizontalBars, "hbars", "Horizontal bars of a wall: grade, diameter, spacings",
+     "hbars --text \"A10@100/200\" --do \"click 1112 12; right\""},
+    {PanelKind::VerticalBars, "vbars", "Vertical bars of a wall: grade and diameter",
+     "vbars --do \"click 1306 B; click 1307 28; right\""},
 };
 
 // The name panel knows no host data.
@@ -178,7 +182,9 @@ void AddForm(CLI::App& command, const Form& row, View view, std::ostream& out)
     } else {
         form.add_option("--text", options->text, "The text that it opens with")->type_name("TEXT");
     }
-    AddRoute(form, options);
+    if (!IsPicker(row.kind)) {
+        AddRoute(form, options);
+    }
     CLI::Option* const steps = form.add_option("--do", options->steps, "The steps")->type_name("STEPS");
     form.add_option("--script", options->script, "A file with the steps, - for standard input")
         ->type_name("FILE")
@@ -208,7 +214,7 @@ void AddDriving(CLI::App& program, const char* name, const char* about, View vie
 
 void AddPanelCommand(CLI::App& program, std::ostream& out)
 {
-    AddDriving(program, "panel", "Drive a pop-up panel by mouse and keys and see it after each step",
+    AddDriving(program, "panel", "Drive a pop-up panel or picker by mouse and keys and see it after each step",
                View::Panel, out);
 }
 

@@ -34,11 +34,13 @@ struct Group {
     bool operator==(const Group&) const = default;
 };
 
-// What a panel holds besides what its controls show: its text, or groups and mode of the bar panel.
+// What a panel holds besides what its controls show: its text, or groups and mode of the bar panel. Of a
+// picker the value of its item, and whether it is bound to it.
 struct Holding {
     std::optional<std::string> text;
     std::vector<Group> groups;
     int editedRow = -1;  // of the bar panel; -1 while it composes a new piece
+    std::optional<bool> bound;
 
     bool operator==(const Holding&) const = default;
 };

@@ -62,7 +62,11 @@ void PrintHead(int number, const Done& done, std::ostream& out)
 void PrintHolding(const Holding& holding, std::ostream& out)
 {
     if (holding.text) {
-        out << Indent << "text: " << Quoted(*holding.text) << '\n';
+        out << Indent << (holding.bound ? "item: " : "text: ") << Quoted(*holding.text);
+        if (holding.bound) {
+            out << (*holding.bound ? ", bound" : ", not bound");
+        }
+        out << '\n';
         return;
     }
     for (const Group& group : holding.groups) {

@@ -80,6 +80,9 @@ Json JsonOf(const Picture& picture)
     Json json = {{"shown", picture.shown}, {"x", picture.place.left}, {"y", picture.place.top}};
     if (picture.holding.text) {
         json["text"] = *picture.holding.text;
+        if (picture.holding.bound) {
+            json["bound"] = *picture.holding.bound;
+        }
     } else {
         json["groups"] = Json::array();
         for (const Group& group : picture.holding.groups) {

@@ -131,6 +131,17 @@ void ListWidget::TakeTop(const WindowRecord& list)
     }
 }
 
+// A frame tells which list has the keyboard.
+void ListWidget::paintEvent(QPaintEvent* event)
+{
+    QListView::paintEvent(event);
+    if (hasFocus()) {
+        QPainter painter(viewport());
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+    }
+}
+
 Surface::Surface(QWidget* owner) : QWidget(owner, Qt::Tool | Qt::FramelessWindowHint)
 {
     setObjectName("panel");

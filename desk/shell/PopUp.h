@@ -17,6 +17,9 @@ public:
     void TakeSelection(const WindowRecord& list);
     void TakeTop(const WindowRecord& list);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     [[nodiscard]] QScrollBar& Bar() const;
 

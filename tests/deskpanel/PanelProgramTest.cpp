@@ -40,6 +40,11 @@ TEST(PanelProgram, DeliversWhatWasComposed)
          {"callback: parent window, 1, \"G2B12 \", 24", "group 4: \"G2B12 \", pieces \"G2B12 \""}},
         {"bars --quiet --do 'click 1345 #1; kind 2; click 1338 2; click 1340 12; click 删除; right'",
          {"6. right", "SetValue \"\"", "mode: new piece"}},
+        {"hbars --text B8@150 --do 'right; show; right; text C12@100; show; click 1116 200; key esc'",
+         {"2. show", "3. right", "hidden, nothing delivered", "\"C12@100\", bound", "[200 ]",
+          "7. key esc", "nothing delivered"}},
+        {"hbars --quiet --text A6.5@50 --do right", {"SetValue \"A6.5@50\"", "not bound"}},
+        {"vbars --quiet --do 'click 1306 B; click 1307 28; right'", {"SetValue \"B28\""}},
         {"bars --kind -1 --do 'drag 30 -4; drag 1 1 1347'", {"(at 30,-4)", "(at 31,-3)"}},
     };
     for (const Case& one : cases) {
@@ -57,6 +62,7 @@ TEST(PanelProgram, RefusesWrongUseWithStatusTwo)
         {"panel name --to host", {"item or parent is wanted, not \"host\""}},
         {"panel bars --kind 9", {"-1 to 8"}},
         {"panel bars --text 2B25", {"--text"}},
+        {"panel vbars --to host", {"--to"}},
         {"panel name --do show --script x", {"excludes"}},
         {"panel name --script /nowhere/x", {"/nowhere/x: this script cannot be read"}},
         {"panel name --script /", {"this script cannot be read"}},
