@@ -18,6 +18,7 @@ protected:
         QSettings().clear();
         window.SetLanguage(Language::English);
         window.OpenFile(QString());
+        window.resize(1440, 900);  // whatever the screen's size and scale
         window.show();
         QCoreApplication::processEvents();
     }
