@@ -18,7 +18,7 @@ inline constexpr ControlTemplate Controls[] = {
     {ControlKind::Label, IDC_STATIC, {37, 3, 18, 8}, GbkLabel<u8"直径">()},
     {ControlKind::EditBox, DiameterEdit, {37, 12, 18, 12}, "", ControlStyle::DigitsOnly},
     {ControlKind::ListBox, DiameterList, {37, 26, 18, 66}},
-    {ControlKind::Label, AtSign, {55, 14, 9, 8}, "@", ControlStyle::AlignCenter},
+    {ControlKind::Label, AtSign, {55, 14, 8, 8}, "@", ControlStyle::AlignCenter},
     {ControlKind::Label, IDC_STATIC, {64, 3, 32, 8}, GbkLabel<u8"加密间距">()},
     {ControlKind::EditBox, TightEdit, {64, 12, 32, 12}, "", ControlStyle::DigitsOnly},
     {ControlKind::ListBox, TightList, {64, 26, 32, 66}},

@@ -58,8 +58,13 @@ void Document::OpenLost(const LostWork& lost)
 {
     Project project = ReadProject(lost.copy.toStdString());
     Replace(std::move(project), lost.file);
+    if (m_fileTime > lost.time) {
+        m_fileTime = QDateTime();  // what was saved since is not in the copy: saving asks
+    }
     m_changes.resetClean();
-    m_recovery.TakeOver(lost);
+    if (!m_recovery.TakeOver(lost)) {
+        WriteRecoveryCopy();
+    }
 }
 
 void Document::SaveAs(const QString& file)

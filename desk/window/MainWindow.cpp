@@ -29,6 +29,7 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
     resize(QSize(1440, 900).boundedTo(screen()->availableSize()));
     restoreGeometry(m_settings.value("geometry").toByteArray());
     restoreState(m_settings.value("state").toByteArray());
+    m_floor->setFocus();
 }
 
 void MainWindow::MakeDocks()
@@ -117,6 +118,9 @@ void MainWindow::OpenPanel()
 
 void MainWindow::Take(const Place& place, const QString& text)
 {
+    if (!Exists(m_document.Get(), place)) {
+        return;  // of a project that is gone
+    }
     if (const QString refusal = m_document.SetText(place, text); !refusal.isEmpty()) {
         Report(tr("The text was not taken"), refusal);
         ShowChosen();

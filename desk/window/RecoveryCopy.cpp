@@ -51,6 +51,9 @@ QList<LostWork> FindLostWork(const QString& folder)
 
 void DropLostWork(const LostWork& lost)
 {
+    if (!IsFree(WithSuffix(lost, LockSuffix))) {
+        return;  // another program has taken it over since
+    }
     for (const char* const suffix : {CopySuffix, FromSuffix, LockSuffix}) {
         QFile::remove(WithSuffix(lost, suffix));
     }
@@ -89,13 +92,18 @@ void RecoveryCopy::Drop()
     m_lock.reset();
 }
 
-void RecoveryCopy::TakeOver(const LostWork& lost)
+bool RecoveryCopy::TakeOver(const LostWork& lost)
 {
     Drop();
-    const QFileInfo copy(lost.copy);
-    m_folder = copy.absolutePath();
-    m_name = copy.completeBaseName();
-    Lock();
+    auto lock = std::make_unique<QLockFile>(WithSuffix(lost, LockSuffix));
+    lock->setStaleLockTime(0);
+    if (!lock->tryLock(0)) {
+        return false;
+    }
+    m_folder = QFileInfo(lost.copy).absolutePath();
+    m_name = QFileInfo(lost.copy).completeBaseName();
+    m_lock = std::move(lock);
+    return true;
 }
 
 QString RecoveryCopy::Path(const char* suffix) const
