@@ -160,7 +160,11 @@ bool QtInput::eventFilter(QObject* watched, QEvent* event)
         return OnPress(widget, window, *static_cast<QMouseEvent*>(event), native);
     case QEvent::MouseButtonRelease:
         return OnRelease(widget, window, *static_cast<QMouseEvent*>(event), native);
-    case QEvent::MouseMove: return !native;
+    case QEvent::MouseMove: {
+        const auto& mouse = *static_cast<QMouseEvent*>(event);
+        const WPARAM held = mouse.buttons().testFlag(Qt::LeftButton) ? MK_LBUTTON : 0;
+        return OnMouse(window, WM_MOUSEMOVE, mouse.globalPosition(), held, native);
+    }
     case QEvent::Wheel: return OnWheel(window, *static_cast<QWheelEvent*>(event));
     case QEvent::ContextMenu: return true;
     case QEvent::ShortcutOverride: event->accept(); return true;
@@ -205,11 +209,11 @@ bool QtInput::OnPress(QWidget& widget, HWND window, const QMouseEvent& mouse, bo
         return OnMouse(window, message, mouse.globalPosition(), MK_LBUTTON, native) || alive == nullptr;
     }
     if (mouse.button() == Qt::RightButton) {
-        // A line edit has no use for it: the class of the box may have.
-        const UINT message = again ? WM_RBUTTONDBLCLK : WM_RBUTTONDOWN;
-        OnMouse(window, again ? WM_RBUTTONDOWN : message, mouse.globalPosition(), MK_RBUTTON, false);
+        // A line edit has no use for it: the class of the box may have. Two quick presses are two.
+        OnMouse(window, WM_RBUTTONDOWN, mouse.globalPosition(), MK_RBUTTON, false);
+        return true;
     }
-    return true;
+    return !native;  // a line edit pastes by the middle button where that is the custom
 }
 
 bool QtInput::OnRelease(QWidget& widget, HWND window, const QMouseEvent& mouse, bool native)
@@ -222,8 +226,9 @@ bool QtInput::OnRelease(QWidget& widget, HWND window, const QMouseEvent& mouse, 
     }
     if (mouse.button() == Qt::RightButton) {
         OnMouse(window, WM_RBUTTONUP, mouse.globalPosition(), 0, false);
+        return true;
     }
-    return true;
+    return !native;
 }
 
 bool QtInput::OnWheel(HWND window, const QWheelEvent& wheel)

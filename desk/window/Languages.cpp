@@ -11,6 +11,9 @@ namespace Desk {
 QString ChineseTexts::translate(const char* context, const char* sourceText, const char* /*disambiguation*/,
                                 int /*n*/) const
 {
+    if (!std::string_view(context).starts_with("Desk")) {
+        return {};  // the toolkit's texts mean other things by the same words
+    }
     const std::string_view wanted = sourceText;
     const auto* const row =
         std::find_if(std::begin(ChineseRows), std::end(ChineseRows),
@@ -18,24 +21,29 @@ QString ChineseTexts::translate(const char* context, const char* sourceText, con
     if (row != std::end(ChineseRows)) {
         return QString::fromUtf8(row->chinese.data(), static_cast<qsizetype>(row->chinese.size()));
     }
-    if (std::string_view(context).starts_with("Desk")) {
-        m_missing.push_back(QString::fromUtf8(sourceText));
-    }
+    m_missing.push_back(QString::fromUtf8(sourceText));
     return {};
 }
 
 const ChineseTexts* ApplyLanguage(Language language)
 {
     static ChineseTexts texts;
+    static QTranslator ofToolkit;  // its own dialogs; empty where the package is not installed
     static bool isInstalled = false;
     const bool chinese = language == Language::Chinese ||
                          (language == Language::System && QLocale::system().language() == QLocale::Chinese);
     if (chinese != isInstalled) {
         isInstalled = chinese;
         if (chinese) {
+            if (ofToolkit.isEmpty()) {
+                const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+                static_cast<void>(ofToolkit.load(QStringLiteral("qtbase_zh_CN"), folder));
+            }
+            QCoreApplication::installTranslator(&ofToolkit);
             QCoreApplication::installTranslator(&texts);
         } else {
             QCoreApplication::removeTranslator(&texts);
+            QCoreApplication::removeTranslator(&ofToolkit);
         }
     }
     return chinese ? &texts : nullptr;

@@ -7,7 +7,7 @@ namespace Desk {
 
 enum class Language { System, Chinese, English };
 
-// Chinese texts for the English ones of the source. Looks each up by the text alone.
+// Chinese texts for the English ones of the desk's own source.
 class ChineseTexts : public QTranslator {
     Q_OBJECT
 

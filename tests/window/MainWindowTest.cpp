@@ -299,6 +299,7 @@ TEST_F(MainWindowTest, EveryTextOfTheWindowIsThereInChinese)
     window.grab();
     EXPECT_EQ(texts.Missing().join('|').toStdString(), "");
     EXPECT_TRUE(Find<QAction>("save").text().startsWith(QString::fromUtf8("保存")));
+    EXPECT_EQ(texts.translate("QFileDialog", "Name"), QString()) << "a file has another kind of name";
     EXPECT_EQ(Offer().first(), QString::fromUtf8("[工程已有]"));
     window.SetLanguage(Language::English);
     EXPECT_EQ(Find<QAction>("save").text(), "&Save");
