@@ -8,6 +8,8 @@
 namespace {
 
 constexpr std::string_view Grades = "ABCD";
+constexpr std::string_view DigitsAndPoint = "0123456789.";
+constexpr std::string_view Digits = DigitsAndPoint.substr(0, 10);
 
 bool IsDigit(char ch) { return ch >= '0' && ch <= '9'; }
 
@@ -41,15 +43,53 @@ std::size_t FindGrade(std::string_view text)
     return text.find_first_of(Grades);
 }
 
-// ".5" behind a diameter: 5.
+// ".5" behind a diameter: 5. Further digits go with it.
 int TakeTenths(std::string_view& text)
 {
     if (text.size() < 2 || text[0] != '.' || !IsDigit(text[1])) {
         return 0;
     }
     const int tenths = text[1] - '0';
-    text.remove_prefix(2);
+    text.remove_prefix(std::min(text.find_first_not_of(Digits, 1), text.size()));
     return tenths;
+}
+
+// "(2)" behind a number.
+void SkipBracket(std::string_view& text)
+{
+    SkipBlanks(text);
+    if (text.starts_with('(')) {
+        text.remove_prefix(std::min(text.find(')'), text.size() - 1) + 1);
+        SkipBlanks(text);
+    }
+}
+
+// Where the number in front of the "@" begins, npos where none stands there.
+std::size_t FindDiameter(std::string_view text)
+{
+    const std::size_t at = text.find('@');
+    if (at == std::string_view::npos) {
+        return at;
+    }
+    const std::size_t last = text.substr(0, at).find_last_not_of(" \t");
+    if (last == std::string_view::npos || !IsDigit(text[last])) {
+        return std::string_view::npos;
+    }
+    const std::size_t before = text.substr(0, last).find_last_not_of(DigitsAndPoint);
+    const std::size_t begin = before == std::string_view::npos ? 0 : before + 1;
+    std::string_view number = text.substr(begin, last + 1 - begin);
+    TakeNumber(number);
+    TakeTenths(number);
+    return number.empty() ? begin : std::string_view::npos;
+}
+
+// The grade letter right in front of a place, npos for none.
+std::size_t GradeBefore(std::string_view text, std::size_t place)
+{
+    const std::size_t last = text.substr(0, place).find_last_not_of(" \t");
+    return last != std::string_view::npos && Grades.find(text[last]) != std::string_view::npos
+               ? last
+               : std::string_view::npos;
 }
 
 }  // namespace
@@ -58,14 +98,18 @@ bool AnalyseBarComment(CString strText, int& nGrade, int& nDiameter, int& nTight
                        int* pnTenths)
 {
     std::string_view text = strText.View();
-    const std::size_t grade = FindGrade(text);
+    const std::size_t first = FindGrade(text);
+    std::size_t diameter = text.find_first_of(Digits);
     nGrade = 0;
-    if (grade != std::string_view::npos) {
+    if (first != std::string_view::npos) {
+        diameter = FindDiameter(text);
+        const bool found = diameter != std::string_view::npos;
+        const std::size_t before = found ? GradeBefore(text, diameter) : first;
+        const std::size_t grade = before != std::string_view::npos ? before : first;
         nGrade = static_cast<int>(Grades.find(text[grade])) + 1;
-        text.remove_prefix(grade + 1);
-    } else {
-        text.remove_prefix(std::min(text.find_first_of("0123456789"), text.size()));
+        diameter = found ? diameter : grade + 1;
     }
+    text.remove_prefix(std::min(diameter, text.size()));
     nDiameter = TakeNumber(text);
     const int tenths = TakeTenths(text);
     if (pnTenths != nullptr) {
@@ -74,7 +118,7 @@ bool AnalyseBarComment(CString strText, int& nGrade, int& nDiameter, int& nTight
     const std::size_t at = text.find('@');
     text.remove_prefix(at != std::string_view::npos ? at + 1 : text.size());
     nTight = TakeNumber(text);
-    SkipBlanks(text);
+    SkipBracket(text);
     nNormal = 0;
     if (text.starts_with('/')) {
         text.remove_prefix(1);

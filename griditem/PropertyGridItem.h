@@ -84,7 +84,8 @@ public:
     [[nodiscard]] void* GetHWnd() const;
     void SetHWnd(void* hWnd);
 
-private:
+protected:
+    // For a grid's own items, which keep them.
     int m_nIndex = 0;
     UINT m_nID = 0;
     UINT m_nFlags = 0;

@@ -22,6 +22,7 @@ public:
     // item, or with one that has no window, nothing changes.
     void UpdateValue();
 
+    BOOL OnInitDialog() override;
     void OnRButtonDown(UINT nFlags, CPoint point);
     void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     void OnSelchangeListHbarGrade();
@@ -45,7 +46,6 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
-    BOOL OnInitDialog() override;
 
 private:
     void SetSelectFlag(CString strGrade, CString strDiameter, CString strTight, CString strNonTight);

@@ -17,6 +17,7 @@ public:
     // As the horizontal picker's. The diameters on offer stay, whatever the grade.
     void UpdateValue();
 
+    BOOL OnInitDialog() override;
     void OnRButtonDown(UINT nFlags, CPoint point);
     void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     void OnSelchangeListVbarGrade();
@@ -32,7 +33,6 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
-    BOOL OnInitDialog() override;
 
 private:
     void SetSelectFlag(CString strGrade, CString strDiameter);

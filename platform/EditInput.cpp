@@ -57,7 +57,10 @@ bool TypeByte(HWND hEdit, WPARAM typed)
         edit.pendingLead = byte;
         return true;
     }
-    Replace(hEdit, edit.caret, edit.caret, lead != '\0' ? std::string{lead, byte} : std::string{byte});
+    // Half of a character and then another one come in together; a box for digits leaves the half out.
+    const bool drop = !IsGbkTrail(byte) && Has(FindBox(hEdit)->style, ControlStyle::DigitsOnly);
+    Replace(hEdit, edit.caret, edit.caret,
+            lead != '\0' && !drop ? std::string{lead, byte} : std::string{byte});
     return true;
 }
 

@@ -179,6 +179,8 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
         m_choices->StartTyping(text);
     } else if (m_chosen && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
         m_choices->StartTyping();
+    } else if (event->key() == Qt::Key_Escape && m_search->hasFocus()) {
+        m_floor->setFocus();
     } else if (event->key() == Qt::Key_Escape) {
         Choose(std::nullopt);
     } else {

@@ -33,6 +33,15 @@ constexpr Reading Readings[] = {
     // the letter that a digit follows is the grade
     {"DB10@100", true, 2, 10, 100, 0, 0},
     {"WALL A8@200", true, 1, 8, 200, 0, 0},
+    // the number in front of the spacings is the diameter
+    {"LB1 C10@150", true, 3, 10, 150, 0, 0},
+    {"C25 A8@100/200", true, 1, 8, 100, 200, 0},
+    {"WB2 D6.25 @200", true, 4, 6, 200, 0, 2},
+    {"HPB300 8@200", true, 2, 8, 200, 0, 0},
+    {"WALL 10@150", true, 1, 10, 150, 0, 0},
+    {"A8@100(4)/150(2)", true, 1, 8, 100, 150, 0},
+    {"A8@100(4", true, 1, 8, 100, 0, 0},
+    {"A1.2.3@100", true, 1, 1, 100, 0, 2},
     // no grade, no diameter, nothing
     {"10@150", false, 0, 10, 150, 0, 0},
     {"A@100/200", false, 1, 0, 100, 200, 0},

@@ -112,6 +112,10 @@ TEST_F(EditBox, DigitsOnlyHoldsForWhatTheUserBringsIn)
     EXPECT_TRUE(UserEditsText(digits.m_hWnd, "6123", 2));
     hands.Type("0");
     EXPECT_TRUE(panel.TextOf(Digits) == "61023");
+    hands.Type("\xA6"
+               "4\xC3"
+               "5");  // a stray half of a character takes no digit along
+    EXPECT_TRUE(panel.TextOf(Digits) == "6104523");
 }
 
 TEST_F(EditBox, TheDoorKeepsTheCaretBetweenCharactersAndIsSilentOnTheSameText)
