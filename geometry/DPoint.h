@@ -6,7 +6,7 @@ struct __attribute__((visibility("default"))) DPoint {
     float m_fY;
     int m_nTag;  // a word that travels with the point
 
-    DPoint();  // (-1000, -1000), tag 0
+    DPoint();                  // (-1000, -1000), tag 0
     DPoint(float x, float y);  // tag 0
 
     void operator=(const DPoint& other);

@@ -63,9 +63,6 @@ bool SameFirstDiameter(const CString& a, const CString& b)
            headA.substr(gradeA + 1) == headB.substr(gradeB + 1);
 }
 
-bool SameEssence(const CString& a, const CString& b)
-{
-    return EssenceOf(a.View()) == EssenceOf(b.View());
-}
+bool SameEssence(const CString& a, const CString& b) { return EssenceOf(a.View()) == EssenceOf(b.View()); }
 
 }  // namespace BarText

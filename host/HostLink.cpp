@@ -47,10 +47,7 @@ void AskSections(CStringArray& arResult) { CallIfSet(g_slots.section, arResult);
 void AskElevations(CStringArray& arResult) { CallIfSet(g_slots.elevation, arResult); }
 void AskStirrups(CStringArray& arResult) { CallIfSet(g_slots.stirrup, arResult); }
 
-void AskBars(CStringArray& arResult, const CString& strKind)
-{
-    CallIfSet(g_slots.bars, arResult, strKind);
-}
+void AskBars(CStringArray& arResult, const CString& strKind) { CallIfSet(g_slots.bars, arResult, strKind); }
 
 void DeliverText(void* pTarget, int nMode, const CString& strText, int nCode)
 {

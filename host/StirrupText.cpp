@@ -73,10 +73,7 @@ void Trim(CString& text)
     text.TrimRight();
 }
 
-CString WithBrackets(const CString& legs)
-{
-    return legs.Find('(') < 0 ? "(" + legs + ")" : legs;
-}
+CString WithBrackets(const CString& legs) { return legs.Find('(') < 0 ? "(" + legs + ")" : legs; }
 
 }  // namespace
 

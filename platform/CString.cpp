@@ -20,10 +20,7 @@ int PositionOf(std::size_t found) noexcept
     return found == std::string_view::npos ? -1 : static_cast<int>(found);
 }
 
-std::size_t AtLeastZero(int n) noexcept
-{
-    return static_cast<std::size_t>(std::max(n, 0));
-}
+std::size_t AtLeastZero(int n) noexcept { return static_cast<std::size_t>(std::max(n, 0)); }
 
 CString Join(std::string_view a, std::string_view b)
 {
@@ -51,15 +48,9 @@ int CString::Find(const char* text, int nStart) const noexcept
     return PositionOf(View().find(OrEmpty(text), AtLeastZero(nStart)));
 }
 
-int CString::ReverseFind(char ch) const noexcept
-{
-    return PositionOf(View().rfind(ch));
-}
+int CString::ReverseFind(char ch) const noexcept { return PositionOf(View().rfind(ch)); }
 
-CString CString::Left(int nCount) const
-{
-    return CString(View().substr(0, AtLeastZero(nCount)));
-}
+CString CString::Left(int nCount) const { return CString(View().substr(0, AtLeastZero(nCount))); }
 
 CString CString::Right(int nCount) const
 {
@@ -67,10 +58,7 @@ CString CString::Right(int nCount) const
     return CString(View().substr(m_text.size() - count));
 }
 
-CString CString::Mid(int nFirst) const
-{
-    return Mid(nFirst, GetLength());
-}
+CString CString::Mid(int nFirst) const { return Mid(nFirst, GetLength()); }
 
 CString CString::Mid(int nFirst, int nCount) const
 {
@@ -78,15 +66,9 @@ CString CString::Mid(int nFirst, int nCount) const
     return first >= m_text.size() ? CString() : CString(View().substr(first, AtLeastZero(nCount)));
 }
 
-void CString::TrimLeft()
-{
-    m_text.erase(0, m_text.find_first_not_of(Blanks));
-}
+void CString::TrimLeft() { m_text.erase(0, m_text.find_first_not_of(Blanks)); }
 
-void CString::TrimRight()
-{
-    m_text.erase(m_text.find_last_not_of(Blanks) + 1);
-}
+void CString::TrimRight() { m_text.erase(m_text.find_last_not_of(Blanks) + 1); }
 
 void CString::Format(const char* format, ...)
 {
@@ -128,27 +110,12 @@ int CString::Compare(const CString& other) const noexcept
     return (order > 0) - (order < 0);
 }
 
-CString operator+(const CString& a, const CString& b)
-{
-    return Join(a.View(), b.View());
-}
+CString operator+(const CString& a, const CString& b) { return Join(a.View(), b.View()); }
 
-CString operator+(const CString& a, const char* b)
-{
-    return Join(a.View(), OrEmpty(b));
-}
+CString operator+(const CString& a, const char* b) { return Join(a.View(), OrEmpty(b)); }
 
-CString operator+(const char* a, const CString& b)
-{
-    return Join(OrEmpty(a), b.View());
-}
+CString operator+(const char* a, const CString& b) { return Join(OrEmpty(a), b.View()); }
 
-CString operator+(const CString& a, char b)
-{
-    return Join(a.View(), std::string_view(&b, 1));
-}
+CString operator+(const CString& a, char b) { return Join(a.View(), std::string_view(&b, 1)); }
 
-CString operator+(char a, const CString& b)
-{
-    return Join(std::string_view(&a, 1), b.View());
-}
+CString operator+(char a, const CString& b) { return Join(std::string_view(&a, 1), b.View()); }

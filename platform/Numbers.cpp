@@ -7,10 +7,7 @@
 
 namespace {
 
-constexpr bool IsDigit(char ch) noexcept
-{
-    return ch >= '0' && ch <= '9';
-}
+constexpr bool IsDigit(char ch) noexcept { return ch >= '0' && ch <= '9'; }
 
 // The white space that C skips in front of a number.
 std::string_view WithoutLeadingSpace(std::string_view text) noexcept

@@ -48,7 +48,10 @@ public:
         position = node->next;
         return node->item;
     }
-    [[nodiscard]] const T& GetAt(POSITION position) const { return static_cast<const Node*>(position)->item; }
+    [[nodiscard]] const T& GetAt(POSITION position) const
+    {
+        return static_cast<const Node*>(position)->item;
+    }
 
     void RemoveAll() noexcept { m_nodes.clear(); }
 

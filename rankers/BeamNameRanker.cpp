@@ -149,13 +149,11 @@ void BEAMNAME_HITNESS_RANKER::SetPreBeamName(CString strName)
         if (previous < serial) {
             m_nPreXuStep = serial;
         } else if (previous > serial) {
-            m_nPreXuStep = serial == std::numeric_limits<int>::min() ? std::numeric_limits<int>::max() : -serial;
+            m_nPreXuStep =
+                serial == std::numeric_limits<int>::min() ? std::numeric_limits<int>::max() : -serial;
         }
     }
     m_strPreBeamName = strName;
 }
 
-int BEAMNAME_HITNESS_RANKER::GetMostFixedBeamNameIndex()
-{
-    return 0;
-}
+int BEAMNAME_HITNESS_RANKER::GetMostFixedBeamNameIndex() { return 0; }

@@ -109,9 +109,7 @@ void CHABIAO_HITNESS_RANKER::ChaBiao(CStringArray& arResult)
         switch (WantedBy(m_strKind)) {
         case Wanted::TopBars: m_pSteelBiao->GetTopJin(m_nWidth, area, arResult); break;
         case Wanted::BottomBars: m_pSteelBiao->GetDiJin(m_nWidth, area, arResult); break;
-        case Wanted::EndBars:
-            m_pSteelBiao->GetExactTotalJin(m_nWidth, area, m_strKind, arResult);
-            break;
+        case Wanted::EndBars: m_pSteelBiao->GetExactTotalJin(m_nWidth, area, m_strKind, arResult); break;
         }
     }
     StampFlags(arResult, 1);
@@ -129,8 +127,10 @@ int CHABIAO_HITNESS_RANKER::FindIndexOfFocusByArFlags()
 
 void CHABIAO_HITNESS_RANKER::GuessFromScratch(CStringArray& arResult)
 {
-    static constexpr const char* TwoBars[] = {"2B12", "2B14", "2B16", "2B18", "2B20", "2B22", "2B25", "2B28"};
-    static constexpr const char* ThreeBars[] = {"3B12", "3B14", "3B16", "3B18", "3B20", "3B22", "3B25", "3B28"};
+    static constexpr const char* TwoBars[] = {"2B12", "2B14", "2B16", "2B18",
+                                              "2B20", "2B22", "2B25", "2B28"};
+    static constexpr const char* ThreeBars[] = {"3B12", "3B14", "3B16", "3B18",
+                                                "3B20", "3B22", "3B25", "3B28"};
     const auto append = [&arResult](const auto& texts) {
         for (const char* const text : texts) {
             arResult.Add(text);

@@ -11,20 +11,11 @@ int CHABIAO_HITNESS_RANKER::CompareSteel(CString strA, CString strB)
     return BarOrder::Compare(strA.View(), strB.View());
 }
 
-int CHABIAO_HITNESS_RANKER::ComparePieceSteel(CString strA, CString strB)
-{
-    return strA.Compare(strB);
-}
+int CHABIAO_HITNESS_RANKER::ComparePieceSteel(CString strA, CString strB) { return strA.Compare(strB); }
 
-void CHABIAO_HITNESS_RANKER::SortResult(CStringArray& arResult)
-{
-    SortWithNumAndDia(arResult);
-}
+void CHABIAO_HITNESS_RANKER::SortResult(CStringArray& arResult) { SortWithNumAndDia(arResult); }
 
-void CHABIAO_HITNESS_RANKER::SortWithNumAndDia(CStringArray& arResult)
-{
-    BarOrder::Sort(arResult);
-}
+void CHABIAO_HITNESS_RANKER::SortWithNumAndDia(CStringArray& arResult) { BarOrder::Sort(arResult); }
 
 void CHABIAO_HITNESS_RANKER::SortWithFlags(CStringArray& arResult)
 {

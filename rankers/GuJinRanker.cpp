@@ -37,10 +37,7 @@ void GUJIN_HITNESS_RANKER::ProcessController(CStringArray& arResult)
     SortResult(arResult);
 }
 
-void GUJIN_HITNESS_RANKER::SelectFromProject(CStringArray& arResult)
-{
-    HostLink::AskStirrups(arResult);
-}
+void GUJIN_HITNESS_RANKER::SelectFromProject(CStringArray& arResult) { HostLink::AskStirrups(arResult); }
 
 void GUJIN_HITNESS_RANKER::StampFlags(CStringArray& arResult)
 {
@@ -110,8 +107,8 @@ void GUJIN_HITNESS_RANKER::SortResult(CStringArray& arResult)
         return m_arFlags[a] == m_arFlags[b] ? smaller(b, a) : m_arFlags[a] == 0 && m_arFlags[b] == 1;
     };
     const bool ownStamps = std::all_of(m_arFlags.begin(), m_arFlags.begin() + count, isOwnStamp);
-    const Order::Positions order = ownStamps ? Order::Sorted(count, less)
-                                             : Order::ExchangePass(Order::Present(count), mustExchange);
+    const Order::Positions order =
+        ownStamps ? Order::Sorted(count, less) : Order::ExchangePass(Order::Present(count), mustExchange);
     Order::Apply(order, arResult);
     Order::Apply(order, m_arFlags);
 }

@@ -12,7 +12,4 @@ void HITNESS_RANKER::AddPreferable(CStringArray& /*arResult*/) {}
 void HITNESS_RANKER::SortResult(CStringArray& /*arResult*/) {}
 void HITNESS_RANKER::GuessFromScratch(CStringArray& /*arResult*/) {}
 
-void HITNESS_RANKER::EliminateSameResult(CStringArray& arResult)
-{
-    Repeats::Remove(arResult);
-}
+void HITNESS_RANKER::EliminateSameResult(CStringArray& arResult) { Repeats::Remove(arResult); }

@@ -41,10 +41,7 @@ void Keep(Array& items, const std::vector<int>& kept)
 
 }  // namespace
 
-void Remove(CStringArray& arText)
-{
-    Keep(arText, FirstOccurrences(arText));
-}
+void Remove(CStringArray& arText) { Keep(arText, FirstOccurrences(arText)); }
 
 void Remove(CStringArray& arText, CUIntArray& arStamp)
 {

@@ -11,6 +11,7 @@ struct Row {
     const char* gujin;  // stirrup annotation with one spacing
 };
 
+// clang-format off: one row a line
 inline constexpr Row Rows[] = {
     {20, 200, 0.27, "A6@200(2)"},
     {20, 200, 0.36, "A6@150(2)"},
@@ -227,5 +228,6 @@ inline constexpr Row Rows[] = {
     {40, 600, 0.39, "A10@250(6)"},
     {40, 600, 0.37, "A12@250(4)"},
 };
+// clang-format on
 
 }  // namespace GuJinRows

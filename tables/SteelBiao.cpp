@@ -21,8 +21,12 @@ struct DiJinClass {
     const char* diJin;
 };
 constexpr DiJinClass DiJinClasses[] = {
-    {400, "3B12"},  {570, "3B14"},  {700, "3B16"},
-    {880, "3B18"},  {1050, "3B20"}, {1300, "3B22"},
+    {400, "3B12"},
+    {570, "3B14"},
+    {700, "3B16"},
+    {880, "3B18"},
+    {1050, "3B20"},
+    {1300, "3B22"},
     {std::numeric_limits<int>::max(), "3B25"},
 };
 

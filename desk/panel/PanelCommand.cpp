@@ -214,8 +214,9 @@ void AddDriving(CLI::App& program, const char* name, const char* about, View vie
 
 void AddPanelCommand(CLI::App& program, std::ostream& out)
 {
-    AddDriving(program, "panel", "Drive a pop-up panel or picker by mouse and keys and see it after each step",
-               View::Panel, out);
+    AddDriving(program, "panel",
+               "Drive a pop-up panel or picker by mouse and keys and see it after each step", View::Panel,
+               out);
 }
 
 void AddEventsCommand(CLI::App& program, std::ostream& out)

@@ -76,7 +76,8 @@ private:
                     m_text.substr(start, std::min(m_text.find('\n', start), m_text.size()) - start);
                 ThrowAt(step, closed
                                   ? "a quoted word ends with its quote; put a blank behind it"
-                                  : std::string("a word opens with this quote and does not end with it: ") + quote);
+                                  : std::string("a word opens with this quote and does not end with it: ") +
+                                        quote);
             }
         }
         return word;

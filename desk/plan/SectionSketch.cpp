@@ -7,8 +7,8 @@ namespace Desk {
 
 namespace {
 
-constexpr int LeftMargin = 46;    // pixels, for the height
-constexpr int NoteGap = 10;       // between the section and its notes
+constexpr int LeftMargin = 46;  // pixels, for the height
+constexpr int NoteGap = 10;     // between the section and its notes
 constexpr int TopMargin = 26;
 constexpr int BottomMargin = 30;  // for the width
 constexpr int LineHeight = 16;

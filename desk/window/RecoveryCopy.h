@@ -33,8 +33,8 @@ public:
     // Throws Failure when it cannot be written.
     void Write(const Project& project, const QString& file);
     void Drop();
-    // Goes on with a copy that a broken-off session left, in place of an own one. False when another program
-    // has taken it over.
+    // Goes on with a copy that a broken-off session left, in place of an own one. False when another
+    // program has taken it over.
     bool TakeOver(const LostWork& lost);
 
 private:

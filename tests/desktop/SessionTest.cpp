@@ -62,8 +62,9 @@ protected:
             _exit(127);
         }
         m_scale = std::stod(scale);
-        WaitFor("the window",
-                [](const json& report) { return report["active"] == true && !report["annotations"].empty(); });
+        WaitFor("the window", [](const json& report) {
+            return report["active"] == true && !report["annotations"].empty();
+        });
     }
     void Kill()
     {
@@ -133,10 +134,7 @@ protected:
         };
         Shell("xdotool mousemove --sync " + pixel(x) + " " + pixel(y) + " click " + std::to_string(button));
     }
-    void Keys(const std::string& keys)
-    {
-        Shell("xdotool key --delay 60 " + keys);
-    }
+    void Keys(const std::string& keys) { Shell("xdotool key --delay 60 " + keys); }
 
     // Presses an annotation in the drawing.
     void Choose(const Place& place)

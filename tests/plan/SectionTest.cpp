@@ -33,8 +33,8 @@ TEST(Section, ReadsWhatTheTextsSay)
     EXPECT_EQ(Rows("+(2B12+2B14),"), "12 14 14 12 | ");
     EXPECT_EQ(Rows("G4B12"), "12 12 12 12 | ");
     EXPECT_EQ(Rows("2B25;4B20"), "25 25 | ");
-    for (const char* const text :
-         {"", "2B", "B25", "2E25", "5B20 3/3", "2B25+", "2B25/", "2B25/2", "+(2B12", "2B25)", "2B25 x", "-2B25", "999B25", "2B9999"}) {
+    for (const char* const text : {"", "2B", "B25", "2E25", "5B20 3/3", "2B25+", "2B25/", "2B25/2",
+                                   "+(2B12", "2B25)", "2B25 x", "-2B25", "999B25", "2B9999"}) {
         EXPECT_EQ(Rows(text), "no bars") << text;
     }
     EXPECT_NEAR(ReadBars("2B25+1B22")->Area(), 1361.9, 0.1);

@@ -157,15 +157,14 @@ TEST_F(Shell, ARightPressIsEatenWholeAndDeliversOnce)
 // Tab into a list, arrows to the row, and a key that stands for the right button.
 TEST_F(Shell, TheKeyboardAlonePicksAndConfirms)
 {
-    const std::pair<Qt::Key, Qt::KeyboardModifiers> confirms[] = {{Qt::Key_Menu, {}},
-                                                                  {Qt::Key_F10, Qt::ShiftModifier},
-                                                                  {Qt::Key_Return, Qt::ControlModifier}};
+    const std::pair<Qt::Key, Qt::KeyboardModifiers> confirms[] = {
+        {Qt::Key_Menu, {}}, {Qt::Key_F10, Qt::ShiftModifier}, {Qt::Key_Return, Qt::ControlModifier}};
     for (const auto& [key, with] : confirms) {
         Stage stage(Shown::Vertical);
         const auto press = [&](Qt::Key pressed, Qt::KeyboardModifiers held = {}) {
             const CWnd* const focus = CWnd::GetFocus();
-            QTest::keyClick(display.WidgetOf(focus != nullptr ? focus->m_hWnd : stage.panel->m_hWnd), pressed,
-                            held);
+            QTest::keyClick(display.WidgetOf(focus != nullptr ? focus->m_hWnd : stage.panel->m_hWnd),
+                            pressed, held);
         };
         constexpr int Grades = 1306, Diameters = 1307;
         const auto tabTo = [&](int id) {
