@@ -80,11 +80,11 @@ void CHBarPropertySheet::UpdateValue()
     if (!grade.IsEmpty()) {
         m_GradeEdit.SetWindowText(grade);
     }
-    int gradeNumber;
-    int whole;
-    int tight;
-    int normal;
-    int tenths;
+    int gradeNumber = 0;
+    int whole = 0;
+    int tight = 0;
+    int normal = 0;
+    int tenths = 0;
     AnalyseBarComment(value, gradeNumber, whole, tight, normal, &tenths);
     const CString diameterText = DiameterText(whole, tenths);
     const CString tightText = Number(tight);

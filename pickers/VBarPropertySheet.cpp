@@ -51,10 +51,10 @@ void CVBarPropertySheet::UpdateValue()
     if (!grade.IsEmpty()) {
         m_GradeEdit.SetWindowText(grade);
     }
-    int gradeNumber;
-    int diameter;
-    int tight;
-    int normal;
+    int gradeNumber = 0;
+    int diameter = 0;
+    int tight = 0;
+    int normal = 0;
     AnalyseBarComment(value, gradeNumber, diameter, tight, normal, nullptr);
     CString diameterText;
     diameterText.Format("%d", diameter);

@@ -158,6 +158,7 @@ FloorView::Hit FloorView::HitAt(const QPoint& inView) const
 {
     const QPointF at = mapToScene(inView);
     const double reach = BodyReach / transform().m11();
+    const bool readable = OwnerItem::IsReadable(transform().m11());
     Hit body;
     for (QGraphicsItem* const each :
          scene()->items(QRectF(at.x() - reach, at.y() - reach, 2 * reach, 2 * reach),
@@ -167,7 +168,7 @@ FloorView::Hit FloorView::HitAt(const QPoint& inView) const
             continue;
         }
         const QPointF local = item->mapFromScene(at);
-        if (const std::optional<Field> field = item->FieldAt(local)) {
+        if (const std::optional<Field> field = readable ? item->FieldAt(local) : std::nullopt) {
             return {item, *field, true};
         }
         if (body.item == nullptr && item->IsOnBody(local, reach)) {

@@ -124,6 +124,8 @@ std::vector<Label> OwnerItem::AllLabels() const
     return all;
 }
 
+bool OwnerItem::IsReadable(double scale) { return scale * TextHeight >= ReadableHeight; }
+
 std::optional<Field> OwnerItem::FieldAt(const QPointF& local) const
 {
     for (const Label& label : AllLabels()) {
@@ -180,7 +182,7 @@ void OwnerItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*optio
 {
     PaintBody(*painter);
     const double scale = QStyleOptionGraphicsItem::levelOfDetailFromTransform(painter->worldTransform());
-    if (scale * TextHeight >= ReadableHeight) {
+    if (IsReadable(scale)) {
         PaintTexts(*painter);
     }
 }

@@ -40,6 +40,8 @@ public:
     [[nodiscard]] QSizeF BlockSize() const { return SizeOf(m_block); }
     void SetBlock(const QPointF& corner);
 
+    // Texts are drawn, and found, from a height on that can be read; the scale is pixels a mm.
+    [[nodiscard]] static bool IsReadable(double scale);
     [[nodiscard]] std::optional<Field> FieldAt(const QPointF& local) const;
     [[nodiscard]] bool IsOnBody(const QPointF& local, double reach) const;
     // Where a field's text stands, drawn or not.

@@ -1,6 +1,7 @@
 // Occupied rectangles are kept by the cells of a grid.
 #include "desk/plan/PlaceBlocks.h"
 
+#include <algorithm>
 #include <cmath>
 #include <unordered_map>
 
@@ -8,9 +9,11 @@ namespace Desk {
 
 namespace {
 
-constexpr double Cell = 3000.0;   // mm
-constexpr double Clear = 100.0;   // mm around a block
-constexpr double OnText = 100.0;  // what covering a text weighs against covering a beam
+constexpr double Cell = 3000.0;         // mm
+constexpr double Clear = 100.0;         // mm around a block
+constexpr double OnText = 100.0;        // what covering a text weighs against covering a beam
+constexpr double MostCells = 10'000.0;  // of a rectangle that is kept by its cells
+constexpr double MostPieces = 100.0;    // of a body
 
 class Ground {
 public:
@@ -18,21 +21,28 @@ public:
     {
         const std::size_t number = m_rects.size();
         m_rects.push_back({rect, weight});
-        ForEachCell(rect, [&](std::int64_t cell) { m_cells[cell].push_back(number); });
+        if ((rect.width() / Cell + 1.0) * (rect.height() / Cell + 1.0) > MostCells) {
+            m_large.push_back(number);
+        } else {
+            ForEachCell(rect, [&](std::int64_t cell) { m_cells[cell].push_back(number); });
+        }
     }
 
     // The weighted area that is covered; more than a limit is not looked into.
     [[nodiscard]] double Covered(const QRectF& rect, double limit) const
     {
         double covered = 0.0;
-        ForEachCell(rect, [&](std::int64_t cell) {
-            const auto found = m_cells.find(cell);
-            if (found == m_cells.end() || covered > limit) {
-                return;
-            }
-            for (const std::size_t number : found->second) {
+        const auto add = [&](const std::vector<std::size_t>& numbers) {
+            for (const std::size_t number : numbers) {
                 const QRectF both = rect & m_rects[number].rect;
                 covered += both.width() * both.height() * m_rects[number].weight;
+            }
+        };
+        add(m_large);
+        ForEachCell(rect, [&](std::int64_t cell) {
+            const auto found = m_cells.find(cell);
+            if (found != m_cells.end() && covered <= limit) {
+                add(found->second);
             }
         });
         return covered;
@@ -57,10 +67,26 @@ private:
 
     std::vector<Occupied> m_rects;
     std::unordered_map<std::int64_t, std::vector<std::size_t>> m_cells;
+    std::vector<std::size_t> m_large;  // what would fill too many cells
 };
 
 // A rectangle that is drawn has an area even where it is a line.
 QRectF Solid(const QRectF& rect) { return rect.adjusted(-1, -1, 1, 1); }
+
+// A beam or wall, in pieces along it where it is slanted: the rectangle around all of it would cover the
+// ground on both sides.
+void OccupyBody(Ground& ground, const OwnerItem& item)
+{
+    const QRectF body = item.Body();
+    const QRectF all = Solid(item.mapRectToScene(body));
+    const double pieces =
+        std::clamp(std::ceil(std::min(all.width(), all.height()) / Cell), 1.0, MostPieces);
+    const double length = body.width() / pieces;
+    for (double piece = 0.0; piece < pieces; piece += 1.0) {
+        const QRectF part(body.left() + piece * length, body.top(), length, body.height());
+        ground.Occupy(Solid(item.mapRectToScene(part)), 1.0);
+    }
+}
 
 }  // namespace
 
@@ -68,7 +94,7 @@ int PlaceBlocks(const std::vector<OwnerItem*>& items)
 {
     Ground ground;
     for (const OwnerItem* const item : items) {
-        ground.Occupy(Solid(item->mapRectToScene(item->Body())), 1.0);
+        OccupyBody(ground, *item);
         for (const QRectF& box : item->EndBoxes()) {
             ground.Occupy(item->mapRectToScene(box), OnText);
         }

@@ -79,7 +79,10 @@ private:
         }
         const std::optional<BarRows> erection = Read(m_beam.erection, Field::Erection);
         std::optional<BarRows> read = Read(m_beam.topBars, Field::TopBars);
-        NoteSteel(Field::TopBars, m_beam.topBars, m_beam.area.top);
+        const int required = m_field == Field::LeftEnd    ? m_beam.area.leftEnd
+                             : m_field == Field::RightEnd ? m_beam.area.rightEnd
+                                                          : m_beam.area.top;
+        NoteSteel(Field::TopBars, m_beam.topBars, required);
         if (read && erection) {
             std::vector<int>& row = read->rows.front();
             const std::vector<int>& between = erection->rows.front();
@@ -156,8 +159,9 @@ private:
                 m_layout.cover + (m_layout.stirrup != 0 ? m_layout.stirrup : DefaultStirrup);
             for (std::size_t i = 0; i < all.size(); ++i) {
                 const double half = all[i] / 2.0;
+                const std::size_t level = i / 2 + 1;
                 const double y =
-                    top + (bottom - top) * static_cast<double>(i / 2 + 1) / static_cast<double>(levels + 1);
+                    top + (bottom - top) * static_cast<double>(level) / static_cast<double>(levels + 1);
                 m_layout.dots.push_back(
                     {i % 2 == 0 ? face + half : m_layout.size.width - face - half, y, all[i]});
             }

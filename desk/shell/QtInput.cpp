@@ -86,6 +86,7 @@ std::optional<EditedText> EditedFrom(const CString& before, const QLineEdit& lin
 }
 
 constexpr LPARAM KeyWentDown = 1;
+constexpr LPARAM KeyStaysDown = 0x40000001;
 constexpr LPARAM KeyWentUp = 0xC0000001;
 
 }  // namespace
@@ -146,11 +147,8 @@ bool QtInput::eventFilter(QObject* watched, QEvent* event)
     const QEvent::Type type = event->type();
     const HWND window = WindowOf(watched);
     if (window == nullptr) {
-        auto* const widget = qobject_cast<QWidget*>(watched);
-        if (type == QEvent::MouseButtonPress && widget != nullptr) {
-            OnPressElsewhere(*widget);
-        }
-        return false;
+        const auto* const widget = qobject_cast<const QWidget*>(watched);
+        return widget != nullptr && OnEventElsewhere(*widget, *event);
     }
     auto& widget = static_cast<QWidget&>(*watched);
     const bool native = qobject_cast<QLineEdit*>(&widget) != nullptr && widget.isEnabled();
@@ -167,6 +165,10 @@ bool QtInput::eventFilter(QObject* watched, QEvent* event)
     }
     case QEvent::Wheel: return OnWheel(window, *static_cast<QWheelEvent*>(event));
     case QEvent::ContextMenu: return true;
+    case QEvent::Close:  // by the window manager
+        Send({window, WM_KEYDOWN, VK_ESCAPE, KeyWentDown, 0, {}}, true);
+        event->accept();
+        return true;
     case QEvent::ShortcutOverride: event->accept(); return true;
     case QEvent::KeyPress:
     case QEvent::KeyRelease: return OnKey(window, *static_cast<QKeyEvent*>(event), native);
@@ -241,12 +243,17 @@ bool QtInput::OnWheel(HWND window, const QWheelEvent& wheel)
 bool QtInput::OnKey(HWND window, const QKeyEvent& key, bool native)
 {
     const bool down = key.type() == QEvent::KeyPress;
+    if (!down && key.isAutoRepeat()) {
+        return !native || !IsForLineEdit(key);  // the key is still down
+    }
     const HWND focus = FocusedWindow();
     const HWND target = IsWindow(focus) && HolderOf(focus) == HolderOf(window) ? focus : window;
     const auto time = static_cast<DWORD>(QDateTime::currentMSecsSinceEpoch());
     const auto send = [&](UINT message, WPARAM code, bool dispatch) {
-        return Send({target, message, code, message == WM_KEYUP ? KeyWentUp : KeyWentDown, time, {}},
-                    dispatch);
+        const LPARAM went = message == WM_KEYUP  ? KeyWentUp
+                            : key.isAutoRepeat() ? KeyStaysDown
+                                                 : KeyWentDown;
+        return Send({target, message, code, went, time, {}}, dispatch);
     };
     const bool shift = key.modifiers().testFlag(Qt::ShiftModifier) || key.key() == Qt::Key_Backtab;
     if (key.key() != Qt::Key_Shift) {  // one may have been missed
@@ -275,20 +282,44 @@ bool QtInput::OnKey(HWND window, const QKeyEvent& key, bool native)
     return taken || !nativeKey || !IsWindow(window);
 }
 
+// A press, and any key that reaches another window, dismiss what is open.
+bool QtInput::OnEventElsewhere(const QWidget& target, const QEvent& event)
+{
+    if (event.type() == QEvent::MouseButtonPress) {
+        DismissFor(target);
+        return false;
+    }
+    if (event.type() != QEvent::ShortcutOverride && event.type() != QEvent::KeyPress) {
+        return false;
+    }
+    switch (static_cast<const QKeyEvent&>(event).key()) {
+    case Qt::Key_Escape: return event.type() == QEvent::KeyPress && DismissFor(target);
+    case Qt::Key_Control:
+    case Qt::Key_Shift:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Meta: return false;
+    default: DismissFor(target); return false;
+    }
+}
+
 // As Esc: nothing is delivered. What was pressed gets its press all the same. A message box over the
-// panel is no other place.
-void QtInput::OnPressElsewhere(const QWidget& pressed)
+// panel is no other place. True when something was open.
+bool QtInput::DismissFor(const QWidget& pressed)
 {
     if (QApplication::activeModalWidget() != nullptr ||
         qobject_cast<const QScrollBar*>(&pressed) != nullptr) {
-        return;
+        return false;
     }
+    bool wasOpen = false;
     for (const HWND window : AllWindows()) {
         const QWidget* const surface = m_display.WidgetOf(window);
         if (surface != nullptr && IsShownPopUp(window) && pressed.window() != surface) {
             Send({window, WM_KEYDOWN, VK_ESCAPE, KeyWentDown, 0, {}}, true);
+            wasOpen = true;
         }
     }
+    return wasOpen;
 }
 
 void QtInput::Report(QLineEdit& line, HWND box)

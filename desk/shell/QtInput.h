@@ -36,7 +36,8 @@ private:
     bool OnRelease(QWidget& widget, HWND window, const QMouseEvent& mouse, bool native);
     bool OnWheel(HWND window, const QWheelEvent& wheel);
     bool OnKey(HWND window, const QKeyEvent& key, bool native);
-    void OnPressElsewhere(const QWidget& pressed);
+    bool OnEventElsewhere(const QWidget& target, const QEvent& event);
+    bool DismissFor(const QWidget& pressed);
     void Report(QLineEdit& line, HWND box);
     // Offers an event and dispatches it where nobody took it; true when the module has taken it.
     static bool Send(const MSG& event, bool dispatch);

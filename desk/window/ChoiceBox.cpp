@@ -99,7 +99,7 @@ void ChoiceBox::SetChoices(const QString& owner, const QString& field, const QSt
     m_presentText = present;
     m_ranking = ranking;
     m_present->setText(present.isEmpty() ? tr("nothing stands here yet") : present);
-    m_typed->clear();
+    m_typed->setText(QString());  // not to be taken back within the line
     m_rows->clear();
     m_first = nullptr;
     FillGroup(tr("In the project"), ranking, OfProject);
@@ -119,7 +119,7 @@ void ChoiceBox::Clear()
     setEnabled(false);
     m_owner->setText(tr("Click an annotation in the drawing"));
     m_present->clear();
-    m_typed->clear();
+    m_typed->setText(QString());
     m_rows->clear();
     m_first = nullptr;
 }
@@ -174,10 +174,12 @@ void ChoiceBox::AddRow(QTreeWidgetItem* group, const Candidate& candidate, bool 
     }
 }
 
-// Shows the rows that hold what was typed; those that begin with it come first to hand.
+// Shows the rows that hold what was typed. The one that is it comes to hand first, then one that begins
+// with it.
 void ChoiceBox::Narrow()
 {
     const QString typed = m_typed->text().trimmed();
+    QTreeWidgetItem* same = nullptr;
     QTreeWidgetItem* begins = nullptr;
     QTreeWidgetItem* holds = nullptr;
     for (int i = 0; i < m_rows->topLevelItemCount(); ++i) {
@@ -189,6 +191,9 @@ void ChoiceBox::Narrow()
             const bool match = text.contains(typed, Qt::CaseInsensitive);
             row->setHidden(!match);
             shown += match ? 1 : 0;
+            if (text.compare(typed, Qt::CaseInsensitive) == 0) {
+                same = row;
+            }
             if (match && holds == nullptr) {
                 holds = row;
             }
@@ -198,7 +203,10 @@ void ChoiceBox::Narrow()
         }
         group->setHidden(shown == 0);
     }
-    QTreeWidgetItem* const to = typed.isEmpty() ? m_first : begins != nullptr ? begins : holds;
+    QTreeWidgetItem* const to = typed.isEmpty()     ? m_first
+                                : same != nullptr   ? same
+                                : begins != nullptr ? begins
+                                                    : holds;
     m_rows->setCurrentItem(to);
     if (to != nullptr) {
         m_rows->scrollToItem(to);
@@ -242,8 +250,21 @@ bool ChoiceBox::MoveRow(int key)
     return true;
 }
 
+// Keys that an empty line has no use for are the window's.
+bool ChoiceBox::IsForWindow(const QKeyEvent& key) const
+{
+    const bool stepsByBeam =
+        key.modifiers() == Qt::ControlModifier && (key.key() == Qt::Key_Left || key.key() == Qt::Key_Right);
+    return m_typed->text().isEmpty() &&
+           (stepsByBeam || key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo));
+}
+
 bool ChoiceBox::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::ShortcutOverride && IsForWindow(*static_cast<QKeyEvent*>(event))) {
+        event->ignore();
+        return true;
+    }
     if (event->type() != QEvent::KeyPress) {
         return QWidget::eventFilter(watched, event);
     }

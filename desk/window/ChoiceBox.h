@@ -44,6 +44,7 @@ private:
     void Take(QTreeWidgetItem* row);
     void TakeTyped();
     bool MoveRow(int key);
+    [[nodiscard]] bool IsForWindow(const QKeyEvent& key) const;
 
     QLabel* m_owner;
     QLabel* m_present;

@@ -69,9 +69,11 @@ void MainWindow::Connect()
     connect(m_properties, &PropertyGrid::Picked, this, [this](const Place& place) { Choose(place); });
     connect(m_properties, &PropertyGrid::Edited, this, &MainWindow::Take);
     connect(m_properties, &PropertyGrid::PanelAsked, this, [this](const Place& place) {
-        Choose(place);
-        m_panels.Open(place, QString::fromStdString(TextAt(m_document.Get(), place)),
-                      m_properties->OnScreen(place), this);
+        if (CommitEdit()) {
+            Choose(place);
+            m_panels.Open(place, QString::fromStdString(TextAt(m_document.Get(), place)),
+                          m_properties->OnScreen(place), this);
+        }
     });
     connect(&m_panels, &PanelHost::Composed, this, &MainWindow::Take);
     connect(&m_display, &QtDisplay::Shown, this, [this] {
@@ -80,13 +82,10 @@ void MainWindow::Connect()
     connect(&m_display, &QtDisplay::Hidden, statusBar(), [this] { statusBar()->clearMessage(); });
     connect(&m_document, &Document::TextChanged, this, [this](const Place& place) {
         m_floor->Refresh(place);
-        if (m_chosen && m_chosen->isWall == place.isWall && m_chosen->index == place.index) {
-            ShowChosen();
-        } else {
-            Choose(place);  // undo and redo go where they change something
-        }
+        Choose(place);  // undo and redo go where they change something
     });
     connect(&m_document, &Document::Replaced, this, [this] {
+        m_panels.Close();  // it serves a place of the project before
         m_chosen.reset();
         m_floor->SetProject(&m_document.Get());
         FillSearchWords();
@@ -106,7 +105,7 @@ void MainWindow::Choose(const std::optional<Place>& place)
 
 void MainWindow::OpenPanel()
 {
-    if (!m_chosen || !PanelHost::HasPanel(*m_chosen)) {
+    if (!m_chosen || !PanelHost::HasPanel(*m_chosen) || !CommitEdit()) {
         return;
     }
     const QRect inDrawing = m_floor->OnScreen(*m_chosen);
@@ -121,7 +120,9 @@ void MainWindow::Take(const Place& place, const QString& text)
     if (!Exists(m_document.Get(), place)) {
         return;  // of a project that is gone
     }
-    if (const QString refusal = m_document.SetText(place, text); !refusal.isEmpty()) {
+    const QString refusal = m_document.SetText(place, text);
+    m_isRefused = !refusal.isEmpty();
+    if (m_isRefused) {
         Report(tr("The text was not taken"), refusal);
         ShowChosen();
         return;
@@ -130,6 +131,21 @@ void MainWindow::Take(const Place& place, const QString& text)
     statusBar()->showMessage(QStringLiteral("%1, %2: %3")
                                  .arg(OwnerName(m_document.Get(), place), FieldName(place.field),
                                       QString::fromStdString(TextAt(m_document.Get(), place))));
+}
+
+bool MainWindow::CommitEdit()
+{
+    m_isRefused = false;
+    m_properties->CommitEdit();
+    return !m_isRefused;
+}
+
+// In the dock that holds the texts, wherever it is.
+void MainWindow::TypeChoice(const QString& first)
+{
+    m_choiceDock->show();
+    m_choiceDock->raise();
+    m_choices->StartTyping(first);
 }
 
 void MainWindow::ShowChosen()
@@ -176,13 +192,15 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
     const QString text = event->text();
     const bool plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
     if (m_chosen && plain && !text.isEmpty() && text.front().isPrint() && text != QLatin1String(" ")) {
-        m_choices->StartTyping(text);
+        TypeChoice(text);
     } else if (m_chosen && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
-        m_choices->StartTyping();
+        StartTyping();
     } else if (event->key() == Qt::Key_Escape && m_search->hasFocus()) {
         m_floor->setFocus();
     } else if (event->key() == Qt::Key_Escape) {
-        Choose(std::nullopt);
+        if (!event->isAutoRepeat()) {  // the key may still be down from leaving a panel
+            Choose(std::nullopt);
+        }
     } else {
         QMainWindow::keyPressEvent(event);
     }

@@ -80,17 +80,21 @@ private:
     void FindNext() { Find(1); }
     void FindPrevious() { Find(-1); }
     void StartSearch();
-    void StartTyping() { m_choices->StartTyping(); }
+    void FindSoon();
+    void StartTyping() { TypeChoice(QString()); }
     void StartEditing();
     void ZoomIn();
     void ZoomOut();
     void Fit();
     void About();
 
+    // Takes what stands in an editor of the grid; false when it was refused.
+    bool CommitEdit();
     bool SaveTo(const QString& file);
     // Asks about unsaved changes; false when the person wants to stay.
     bool MayLeave();
     void Take(const Place& place, const QString& text);
+    void TypeChoice(const QString& first);
     void ShowChosen();
     void ShowChoices();
     void ShowTitle();
@@ -120,6 +124,8 @@ private:
     QList<std::pair<QMenu*, const char*>> m_menus;
     QMap<QByteArray, QAction*> m_actions;  // by object name
     std::optional<Place> m_chosen;
+    bool m_isRefused = false;  // the last text to be taken
+    bool m_isFindingSoon = false;
 };
 
 }  // namespace Desk

@@ -74,6 +74,9 @@ void MainWindow::OpenSample() { OpenFile(QString()); }
 
 bool MainWindow::Save()
 {
+    if (!CommitEdit()) {
+        return false;
+    }
     if (m_document.File().isEmpty()) {
         return SaveUnderNewName();
     }
@@ -99,6 +102,9 @@ bool MainWindow::Save()
 
 bool MainWindow::SaveUnderNewName()
 {
+    if (!CommitEdit()) {
+        return false;
+    }
     const QString start = m_document.File().isEmpty()
                               ? QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
                                     .filePath("project.json")
@@ -126,6 +132,9 @@ bool MainWindow::SaveTo(const QString& file)
 
 bool MainWindow::MayLeave()
 {
+    if (!CommitEdit()) {
+        return false;
+    }
     if (!m_document.IsChanged()) {
         return true;
     }
@@ -144,6 +153,7 @@ bool MainWindow::MayLeave()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    m_panels.Close();
     if (!MayLeave()) {
         event->ignore();
         return;

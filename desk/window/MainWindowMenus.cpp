@@ -91,6 +91,7 @@ void MainWindow::MakeMenus()
     QToolBar* const bar = addToolBar(QString());
     bar->setObjectName("toolBar");
     bar->setMovable(false);
+    bar->toggleViewAction()->setEnabled(false);  // the search lives in it
     bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
     for (const char* const action : {"open", "save", "undo", "redo", "panel", "fit"}) {
         bar->addAction(m_actions.value(action));
@@ -146,7 +147,7 @@ void MainWindow::MakeSearch()
     m_search->setClearButtonEnabled(true);
     m_search->setMaximumWidth(260);
     bar->addWidget(m_search);
-    connect(m_search, &QLineEdit::returnPressed, this, &MainWindow::FindNext);
+    connect(m_search, &QLineEdit::returnPressed, this, &MainWindow::FindSoon);
 }
 
 void MainWindow::SetAppearance(Appearance appearance)

@@ -66,6 +66,18 @@ void MainWindow::StartSearch()
     m_search->selectAll();
 }
 
+// Once, though Enter on a completed name tells of it twice: by the line and by the completer.
+void MainWindow::FindSoon()
+{
+    if (!m_isFindingSoon) {
+        m_isFindingSoon = true;
+        QTimer::singleShot(0, this, [this] {
+            m_isFindingSoon = false;
+            FindNext();
+        });
+    }
+}
+
 // The next text that holds what is searched for, from the chosen one around the whole project.
 void MainWindow::Find(int by)
 {
@@ -114,8 +126,7 @@ void MainWindow::FillSearchWords()
     auto* const completer = new QCompleter(sorted, m_search);
     completer->setCaseSensitivity(Qt::CaseInsensitive);
     completer->setFilterMode(Qt::MatchContains);
-    connect(completer, qOverload<const QString&>(&QCompleter::activated), this, &MainWindow::FindNext,
-            Qt::QueuedConnection);
+    connect(completer, qOverload<const QString&>(&QCompleter::activated), this, &MainWindow::FindSoon);
     delete m_search->completer();
     m_search->setCompleter(completer);
 }
@@ -123,6 +134,7 @@ void MainWindow::FillSearchWords()
 void MainWindow::StartEditing()
 {
     m_propertyDock->show();
+    m_propertyDock->raise();
     m_properties->EditMarked();
 }
 

@@ -38,15 +38,20 @@ void PanelHost::Open(const Place& place, const QString& present, const QRect& fi
     if (!HasPanel(place) || !text) {
         return;
     }
-    if (CWnd* const open = CWnd::FromHandle(m_open)) {
-        open->ShowWindow(SW_HIDE);
-    }
+    Close();
     m_place = place;
     m_item.CPropertyGridItem::SetValue(*text);
     m_item.SetListShowFlag(TRUE);
     CDialog& panel = Prepare(place, *text);
     m_open = panel.m_hWnd;
     m_display.OpenBeside(panel.m_hWnd, field, owner);
+}
+
+void PanelHost::Close()
+{
+    if (CWnd* const open = CWnd::FromHandle(m_open)) {
+        open->ShowWindow(SW_HIDE);
+    }
 }
 
 std::optional<Place> PanelHost::Serving() const

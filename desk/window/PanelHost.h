@@ -28,6 +28,8 @@ public:
     // Opens the panel for the place on its present text, beside a field on the screen. What it had not
     // confirmed for another place is given up, as by Esc.
     void Open(const Place& place, const QString& present, const QRect& field, QWidget* owner);
+    // Hides an open panel; what it had not confirmed is given up.
+    void Close();
     // The place that an open panel serves.
     [[nodiscard]] std::optional<Place> Serving() const;
     // The window of the open panel, null when none is open.

@@ -1,5 +1,7 @@
 #include "desk/window/PropertyGrid.h"
 
+#include <utility>
+
 #include "desk/window/FieldNames.h"
 
 namespace Desk {
@@ -55,9 +57,8 @@ PropertyGrid::PropertyGrid(QWidget* parent) : QTreeWidget(parent)
         const std::optional<Place> place = PlaceOf(row);
         if (place && column == ValueColumn && !m_isFilling) {
             // Later, since the answer fills the grid anew under the editor's feet.
-            const QString text = row->text(ValueColumn);
-            QMetaObject::invokeMethod(
-                this, [this, place, text] { emit Edited(*place, text); }, Qt::QueuedConnection);
+            m_edited = {*place, row->text(ValueColumn)};
+            QMetaObject::invokeMethod(this, &PropertyGrid::TellEdited, Qt::QueuedConnection);
         }
     });
 }
@@ -112,6 +113,25 @@ void PropertyGrid::EditMarked()
 {
     if (QTreeWidgetItem* const row = currentItem(); PlaceOf(row)) {
         editItem(row, ValueColumn);
+    }
+}
+
+void PropertyGrid::CommitEdit()
+{
+    for (auto* const editor :
+         viewport()->findChildren<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (!editor->isHidden()) {  // one that has ended waits for its deletion
+            commitData(editor);
+            closeEditor(editor, QAbstractItemDelegate::NoHint);
+        }
+    }
+    TellEdited();
+}
+
+void PropertyGrid::TellEdited()
+{
+    if (const auto edited = std::exchange(m_edited, std::nullopt)) {
+        emit Edited(edited->first, edited->second);
     }
 }
 

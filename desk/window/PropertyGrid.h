@@ -20,6 +20,8 @@ public:
     [[nodiscard]] QRect OnScreen(const Place& place) const;
     // Starts editing the marked row in place.
     void EditMarked();
+    // Ends editing in place and signals at once what it made.
+    void CommitEdit();
 
 signals:
     void Picked(const Desk::Place& place);
@@ -32,7 +34,10 @@ private:
     [[nodiscard]] std::optional<Place> PlaceOf(const QTreeWidgetItem* row) const;
     [[nodiscard]] QTreeWidgetItem* RowOf(const Place& place) const;
 
-    std::optional<Place> m_owner;  // its field does not count
+    void TellEdited();
+
+    std::optional<Place> m_owner;                       // its field does not count
+    std::optional<std::pair<Place, QString>> m_edited;  // not yet told
     bool m_isFilling = false;
 };
 

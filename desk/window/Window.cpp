@@ -31,6 +31,9 @@ int RunWindow(const char* project, const char* report)
     if (!HasScreen()) {
         throw Failure("there is no display to open a window on; beamdesk tour works without one");
     }
+    if (IsSet("DISPLAY") && !IsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");  // only the first lets a program place its pop-ups
+    }
     int count = 1;
     char name[] = "beamdesk";
     char* arguments[] = {name, nullptr};

@@ -86,6 +86,22 @@ TEST(FloorView, BareGroundPansOrPicksNothing)
     EXPECT_TRUE(view.picked.empty());
 }
 
+TEST(FloorView, TextsThatAreTooSmallToBeDrawnArePickedByNobody)
+{
+    const Project project = SampleProject();
+    View view;
+    view.SetProject(&project);
+    view.show();
+    view.ZoomBy(0.4);
+    for (const Place& place : AllPlaces(project)) {
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.Middle(place));
+    }
+    for (const Place& picked : view.picked) {
+        EXPECT_EQ(picked.field, Field::Name) << "a beam itself";
+    }
+    EXPECT_GT(view.nothing, 0);
+}
+
 TEST(FloorView, ArrowKeysMoveTheFloorAndOtherKeysAreTheWindows)
 {
     const Project project = SampleProject();
@@ -133,11 +149,14 @@ TEST(FloorView, RefreshMovesNoOtherText)
 
 TEST(FloorView, TakesWhateverAProjectFileMayHold)
 {
-    for (const char* const text :
-         {R"({"version": 1})", R"({"version": 1, "axes": 7, "beams": [{"name": ""}]})",
-          R"({"version": 1, "axes": {"x": [1], "y": {"A": "x", "B": 3}},
+    for (
+        const char* const text :
+        {R"({"version": 1})", R"({"version": 1, "axes": 7, "beams": [{"name": ""}]})",
+         R"({"version": 1, "axes": {"x": [1], "y": {"A": "x", "B": 3}},
               "beams": [{"name": "L1", "section": "wide", "start": [5, 5], "end": [5, 5]}],
-              "walls": [{"name": "Q1", "start": [-1e9, 0], "end": [1e9, 0]}]})"}) {
+              "walls": [{"name": "Q1", "start": [-1e9, 0], "end": [1e9, 0]}]})",
+         R"({"version": 1, "beams": [{"name": "L1", "section": "300x600", "start": [0, 0], "end": [1e9, 1e9]},
+              {"name": "L2", "section": "1x1", "start": [-1e9, 1e9], "end": [1e9, -1e9]}]})"}) {
         const Project project = ParseProject(text, "test");
         View view;
         view.SetProject(&project);

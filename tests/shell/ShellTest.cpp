@@ -129,6 +129,58 @@ TEST_F(Shell, APressElsewhereDismissesAndIsStillAPress)
     EXPECT_TRUE(stage.item.taken.empty());
 }
 
+TEST_F(Shell, AKeyElsewhereAndTheWindowManagerDismissAsWell)
+{
+    QLineEdit other;
+    other.show();
+    Stage stage(Shown::Vertical);
+    QWidget& surface = *display.WidgetOf(stage.panel->m_hWnd);
+    int hidden = 0;
+    QObject::connect(&display, &Desk::QtDisplay::Hidden, [&hidden] { ++hidden; });
+    QTest::keyClick(&other, Qt::Key_Control);
+    EXPECT_TRUE(surface.isVisible());
+    QTest::keyClick(&other, Qt::Key_7);
+    EXPECT_FALSE(surface.isVisible());
+    EXPECT_EQ(other.text(), "7");
+    stage.panel->ShowWindow(SW_SHOW);
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    EXPECT_TRUE(QCoreApplication::sendEvent(&other, &escape)) << "eaten";
+    EXPECT_EQ(stage.panel->IsWindowVisible(), FALSE);
+    stage.panel->ShowWindow(SW_SHOW);
+    EXPECT_TRUE(surface.close());
+    EXPECT_EQ(stage.panel->IsWindowVisible(), FALSE);
+    EXPECT_EQ(hidden, 3);
+    EXPECT_TRUE(stage.item.taken.empty());
+}
+
+TEST_F(Shell, AKeyThatIsHeldClicksAButtonOnce)
+{
+    Stage stage(Shown::Elevation);
+    constexpr int ElevationBox = 1320;
+    CWnd* button = nullptr;
+    for (CWnd* child = stage.panel->GetTopWindow(); child != nullptr && button == nullptr;
+         child = child->GetNextWindow()) {
+        CString caption;
+        child->GetWindowText(caption);
+        button = caption == "7" ? child : nullptr;
+    }
+    ASSERT_NE(button, nullptr);
+    button->SetFocus();
+    QWidget& widget = *display.WidgetOf(button->m_hWnd);
+    const std::string before = TextOf(*stage.panel, ElevationBox);
+    for (const bool again : {false, true, true}) {
+        if (again) {
+            QKeyEvent up(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier, " ", true);
+            QCoreApplication::sendEvent(&widget, &up);
+        }
+        QKeyEvent down(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ", again);
+        QCoreApplication::sendEvent(&widget, &down);
+    }
+    QKeyEvent up(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier, " ");
+    QCoreApplication::sendEvent(&widget, &up);
+    EXPECT_EQ(TextOf(*stage.panel, ElevationBox), before + "7");
+}
+
 TEST_F(Shell, ARightPressIsEatenWholeAndDeliversOnce)
 {
     for (const Shown kind : AllShown) {

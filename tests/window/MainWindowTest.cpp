@@ -92,7 +92,9 @@ TEST_F(MainWindowTest, AClickOnACandidateTakesItAndUndoTakesItBack)
     ClickOffer("2B25");
     EXPECT_EQ(Text(Bars), "2B25");
     EXPECT_TRUE(window.isWindowModified());
+    window.Choose(Place{false, 0, Field::Section});
     Trigger("undo");
+    EXPECT_EQ(window.Chosen(), Bars) << "undo goes where it changes something";
     EXPECT_EQ(Text(Bars), "2B20");
     EXPECT_FALSE(window.isWindowModified());
     Trigger("redo");
@@ -119,10 +121,30 @@ TEST_F(MainWindowTest, TypingNarrowsAndEnterTakes)
     QTest::keyClicks(&typed, "2B1");
     QTest::keyClick(&typed, Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(Text(Bars), "2B1");
+    // An empty line leaves undo and the steps from beam to beam to the window.
+    const auto claims = [&](Qt::Key key) {
+        QKeyEvent override(QEvent::ShortcutOverride, key, Qt::ControlModifier);
+        override.ignore();
+        QCoreApplication::sendEvent(&typed, &override);
+        return override.isAccepted();
+    };
+    EXPECT_FALSE(claims(Qt::Key_Z) || claims(Qt::Key_Left) || typed.isUndoAvailable());
     QTest::keyClicks(&typed, "9");
+    EXPECT_TRUE(claims(Qt::Key_Z));
     QTest::keyClick(&typed, Qt::Key_Escape);
     EXPECT_TRUE(typed.text().isEmpty());
     EXPECT_EQ(Text(Bars), "2B1");
+}
+
+TEST_F(MainWindowTest, ATextTypedInFullIsTakenBeforeOneThatBeginsWithIt)
+{
+    const Place section{false, 0, Field::Section};
+    window.Choose(section);
+    ASSERT_TRUE(Offer().contains("300x500") && Offer().contains("300x500/350"));
+    auto& typed = Find<QLineEdit>("typed");
+    QTest::keyClicks(&typed, "300x500");
+    QTest::keyClick(&typed, Qt::Key_Return);
+    EXPECT_EQ(Text(section), "300x500");
 }
 
 TEST_F(MainWindowTest, TableRowsComeOnRequest)
@@ -219,6 +241,70 @@ TEST_F(MainWindowTest, PropertiesAreEditedInPlace)
     QTest::keyClick(editor, Qt::Key_Return);
     ASSERT_TRUE(QTest::qWaitFor([&] { return Text({false, 2, Field::Section}) == "350x750"; }, 2000));
     EXPECT_EQ(Text({false, 2, Field::Section}), "350x750");
+}
+
+// Whatever comes next takes the text that stands in the editor: saving, leaving, the panel.
+TEST_F(MainWindowTest, WhatStandsInAnEditorCounts)
+{
+    const Place section{false, 2, Field::Section};
+    const auto type = [&](const char* text) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // of the editor before
+        window.Choose(section);
+        Trigger("edit");
+        auto* const editor = Find<QTreeWidget>("properties").findChild<QLineEdit*>();
+        ASSERT_NE(editor, nullptr);
+        editor->setText(text);
+    };
+    const QTemporaryDir folder;
+    window.TheDocument().SaveAs(folder.filePath("floor.json"));
+    type("351x751");
+    Trigger("save");
+    EXPECT_EQ(Text(section), "351x751");
+    EXPECT_FALSE(window.TheDocument().IsChanged());
+    type("352x752");
+    window.OpenPanel();
+    CString width;
+    constexpr int WidthBox = 1320;
+    CWnd::FromHandle(window.Panels().Window())->GetDlgItem(WidthBox)->GetWindowText(width);
+    EXPECT_EQ(width, "352");
+    window.Panels().Close();
+    Trigger("save");
+    type("353x753");
+    QStringList asked;
+    QTimer::singleShot(0, [&asked] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        asked << (box != nullptr ? box->text() : QString());
+        QTest::keyClick(box, Qt::Key_Escape);
+    });
+    EXPECT_FALSE(window.close());
+    EXPECT_EQ(asked.size(), 1);
+    EXPECT_EQ(Text(section), "353x753");
+}
+
+TEST_F(MainWindowTest, APanelDoesNotOutliveItsProject)
+{
+    window.Choose(Bars);
+    window.OpenPanel();
+    const HWND panel = window.Panels().Window();
+    ASSERT_TRUE(CWnd::FromHandle(panel)->IsWindowVisible());
+    window.OpenFile(QString());
+    EXPECT_FALSE(IsWindow(panel) && CWnd::FromHandle(panel)->IsWindowVisible());
+    EXPECT_FALSE(window.Panels().Serving());
+}
+
+TEST_F(MainWindowTest, ACompletedNameIsSearchedForOnce)
+{
+    auto& search = Find<QLineEdit>("search");
+    search.setText("2B");
+    emit search.completer()->activated(QStringLiteral("2B"));
+    emit search.returnPressed();
+    QCoreApplication::processEvents();
+    const Place first = *window.Chosen();
+    Trigger("findPrevious");
+    Trigger("findNext");
+    EXPECT_EQ(window.Chosen(), first);
+    EXPECT_EQ(first.index, 0U) << "the first beam holds it";
+    EXPECT_EQ(first.field, Field::TopBars);
 }
 
 TEST_F(MainWindowTest, KeysGoFromAnnotationToAnnotationAndTheSearchFinds)
