@@ -91,9 +91,10 @@ ChoiceBox::ChoiceBox(QWidget* parent)
 }
 
 void ChoiceBox::SetChoices(const QString& owner, const QString& field, const QString& present,
-                           const Ranking& ranking)
+                           const Ranking& ranking, bool areNames)
 {
     m_isEmpty = false;
+    m_areNames = areNames;
     setEnabled(true);
     m_owner->setText(owner + QStringLiteral("   ") + field);
     m_presentText = present;
@@ -102,15 +103,20 @@ void ChoiceBox::SetChoices(const QString& owner, const QString& field, const QSt
     m_typed->setText(QString());  // not to be taken back within the line
     m_rows->clear();
     m_first = nullptr;
-    FillGroup(tr("In the project"), ranking, OfProject);
+    FillGroup(areNames ? tr("Free names of the project's kinds") : tr("In the project"), ranking,
+              OfProject);
     FillGroup(tr("Guesses"), ranking, OfGuess);
     FillGroup(tr("From the table"), ranking, OfTable);
     m_rows->expandAll();
-    if (m_first == nullptr && m_rows->topLevelItemCount() > 0) {
+    if (areNames && !present.isEmpty()) {
+        m_first = nullptr;
+    } else if (m_first == nullptr && m_rows->topLevelItemCount() > 0) {
         m_first = m_rows->topLevelItem(0)->child(0);
     }
     m_rows->setCurrentItem(m_first);
-    m_rows->scrollToItem(m_first, QAbstractItemView::PositionAtCenter);
+    if (m_first != nullptr) {
+        m_rows->scrollToItem(m_first, QAbstractItemView::PositionAtCenter);
+    }
 }
 
 void ChoiceBox::Clear()
@@ -128,7 +134,7 @@ void ChoiceBox::StartTyping(const QString& first)
 {
     m_typed->setFocus(Qt::ShortcutFocusReason);
     if (!first.isEmpty()) {
-        m_typed->setText(first);
+        m_typed->setText(m_typed->text() + first);
         Narrow();
     }
 }
@@ -154,7 +160,10 @@ void ChoiceBox::FillGroup(const QString& title, const Ranking& ranking, bool (*b
 void ChoiceBox::AddRow(QTreeWidgetItem* group, const Candidate& candidate, bool focus)
 {
     const QString text = QString::fromStdString(candidate.text);
-    const QString uses = candidate.uses > 0 ? tr("%1 x").arg(candidate.uses) : QString();
+    QString uses = candidate.uses > 0 ? tr("%1 x").arg(candidate.uses) : QString();
+    if (m_areNames && candidate.uses > 0 && !candidate.writings.empty()) {
+        uses += QLatin1Char(' ') + QString::fromStdString(candidate.writings.front().text);
+    }
     auto* const row = new QTreeWidgetItem(group, {text, uses});
     row->setData(TextColumn, IsChoice, true);
     row->setTextAlignment(UsesColumn, Qt::AlignRight | Qt::AlignVCenter);
@@ -167,7 +176,8 @@ void ChoiceBox::AddRow(QTreeWidgetItem* group, const Candidate& candidate, bool 
     }
     row->setIcon(TextColumn, FocusMark(focus ? palette().color(QPalette::Highlight) : Qt::transparent));
     if (focus) {
-        row->setToolTip(TextColumn, tr("The last text that the project supports"));
+        row->setToolTip(TextColumn, m_areNames ? tr("The first free name")
+                                               : tr("The last text that the project supports"));
     }
     if (present || (focus && m_first == nullptr)) {
         m_first = row;
@@ -236,7 +246,10 @@ bool ChoiceBox::MoveRow(int key)
 {
     QTreeWidgetItem* row = m_rows->currentItem();
     if (row == nullptr) {
-        return false;
+        QTreeWidgetItem* const top = m_rows->topLevelItem(0);
+        row = top != nullptr ? NextChoice(top, true, *m_rows) : nullptr;
+        m_rows->setCurrentItem(row);
+        return row != nullptr;
     }
     constexpr int Page = 10;  // rows
     const bool below = key == Qt::Key_Down || key == Qt::Key_PageDown;

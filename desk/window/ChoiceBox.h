@@ -13,9 +13,10 @@ public:
     explicit ChoiceBox(QWidget* parent = nullptr);
 
     // What the texts are for and what stands there now. The row to begin with is that of the present
-    // text, or else the ranker's focus.
+    // text, or else the ranker's focus. Free names do not hold the present one: no row is marked then, so
+    // that Enter renames nothing by mistake.
     void SetChoices(const QString& owner, const QString& field, const QString& present,
-                    const Ranking& ranking);
+                    const Ranking& ranking, bool areNames);
     // Nothing is chosen.
     void Clear();
     // Puts the keyboard into the box; a first character may come along.
@@ -55,6 +56,7 @@ private:
     QTreeWidgetItem* m_first = nullptr;  // the row to begin with
     QString m_presentText;
     Ranking m_ranking;
+    bool m_areNames = false;
     bool m_isEmpty = true;
 };
 

@@ -58,9 +58,7 @@ void Document::OpenLost(const LostWork& lost)
 {
     Project project = ReadProject(lost.copy.toStdString());
     Replace(std::move(project), lost.file);
-    if (m_fileTime > lost.time) {
-        m_fileTime = QDateTime();  // what was saved since is not in the copy: saving asks
-    }
+    m_fileTime = lost.fileTime;  // what another program saved since is not in the copy: saving asks
     m_changes.resetClean();
     if (!m_recovery.TakeOver(lost)) {
         WriteRecoveryCopy();
@@ -110,7 +108,7 @@ void Document::WriteRecoveryCopy()
 {
     m_recoverySoon.stop();
     try {
-        m_recovery.Write(m_project, m_file);
+        m_recovery.Write(m_project, m_file, m_fileTime);
     } catch (const Failure& failure) {
         emit RecoveryFailed(QString::fromStdString(failure.what()));
     }

@@ -32,6 +32,9 @@ const ChineseTexts* ApplyLanguage(Language language)
     static bool isInstalled = false;
     const bool chinese = language == Language::Chinese ||
                          (language == Language::System && QLocale::system().language() == QLocale::Chinese);
+    QLocale::setDefault(chinese                         ? QLocale(QLocale::Chinese)
+                        : language == Language::English ? QLocale(QLocale::English)
+                                                        : QLocale::system());
     if (chinese != isInstalled) {
         isInstalled = chinese;
         if (chinese) {

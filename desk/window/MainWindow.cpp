@@ -13,6 +13,7 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
       m_sketch(new SectionSketch(this))
 {
     setObjectName("desk");
+    setMinimumSize(640, 420);  // the tool bar with its search, and something of the drawing
     m_floor->setObjectName("drawing");
     m_sketch->setObjectName("sketch");
     setCentralWidget(m_floor);
@@ -100,6 +101,7 @@ void MainWindow::Connect()
 void MainWindow::Choose(const std::optional<Place>& place)
 {
     m_chosen = place && Exists(m_document.Get(), *place) ? place : std::nullopt;
+    statusBar()->clearMessage();  // it told of something else
     ShowChosen();
 }
 
@@ -120,6 +122,7 @@ void MainWindow::Take(const Place& place, const QString& text)
     if (!Exists(m_document.Get(), place)) {
         return;  // of a project that is gone
     }
+    const QString owner = OwnerName(m_document.Get(), place);  // a new name changes it
     const QString refusal = m_document.SetText(place, text);
     m_isRefused = !refusal.isEmpty();
     if (m_isRefused) {
@@ -128,9 +131,9 @@ void MainWindow::Take(const Place& place, const QString& text)
         return;
     }
     ShowChosen();
-    statusBar()->showMessage(QStringLiteral("%1, %2: %3")
-                                 .arg(OwnerName(m_document.Get(), place), FieldName(place.field),
-                                      QString::fromStdString(TextAt(m_document.Get(), place))));
+    statusBar()->showMessage(
+        QStringLiteral("%1, %2: %3")
+            .arg(owner, FieldName(place.field), QString::fromStdString(TextAt(m_document.Get(), place))));
 }
 
 bool MainWindow::CommitEdit()
@@ -145,6 +148,7 @@ void MainWindow::TypeChoice(const QString& first)
 {
     m_choiceDock->show();
     m_choiceDock->raise();
+    m_choices->window()->activateWindow();  // it may float
     m_choices->StartTyping(first);
 }
 
@@ -172,7 +176,8 @@ void MainWindow::ShowChoices()
         statusBar()->showMessage(QString::fromStdString(failure.what()));
     }
     m_choices->SetChoices(OwnerName(project, *m_chosen), FieldName(m_chosen->field),
-                          QString::fromStdString(TextAt(project, *m_chosen)), ranking);
+                          QString::fromStdString(TextAt(project, *m_chosen)), ranking,
+                          m_chosen->field == Field::Name);
     m_choices->SetPanelEnabled(PanelHost::HasPanel(*m_chosen));
 }
 
@@ -189,14 +194,18 @@ void MainWindow::ShowTitle()
 // A character typed in the drawing begins to narrow the texts.
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
+    if (m_search->hasFocus()) {  // what it has no use for is for nobody else
+        if (event->key() == Qt::Key_Escape) {
+            m_floor->setFocus();
+        }
+        return;
+    }
     const QString text = event->text();
     const bool plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
     if (m_chosen && plain && !text.isEmpty() && text.front().isPrint() && text != QLatin1String(" ")) {
         TypeChoice(text);
     } else if (m_chosen && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
         StartTyping();
-    } else if (event->key() == Qt::Key_Escape && m_search->hasFocus()) {
-        m_floor->setFocus();
     } else if (event->key() == Qt::Key_Escape) {
         if (!event->isAutoRepeat()) {  // the key may still be down from leaving a panel
             Choose(std::nullopt);

@@ -105,9 +105,9 @@ bool MainWindow::SaveUnderNewName()
     if (!CommitEdit()) {
         return false;
     }
+    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     const QString start = m_document.File().isEmpty()
-                              ? QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
-                                    .filePath("project.json")
+                              ? (documents.exists() ? documents : QDir::home()).filePath("project.json")
                               : m_document.File();
     QFileDialog dialog(this, tr("Save the project as"), start, Filter());
     dialog.setAcceptMode(QFileDialog::AcceptSave);

@@ -6,6 +6,17 @@
 
 namespace Desk {
 
+namespace {
+
+// A menu's text without the key that Chinese menus append and without dots: "保存(&S)" is "保存".
+QString OnToolBar(QString text)
+{
+    static const QRegularExpression key(QStringLiteral("\\(&.\\)"));
+    return text.remove(key).remove(QLatin1Char('&')).remove(QStringLiteral("..."));
+}
+
+}  // namespace
+
 QAction* MainWindow::Add(const char* objectName, const char* name, const char* hint,
                          const QKeySequence& keys, void (MainWindow::*slot)())
 {
@@ -155,7 +166,8 @@ void MainWindow::SetAppearance(Appearance appearance)
     m_settings.setValue("appearance", static_cast<int>(appearance));
     const bool dark = ApplyAppearance(appearance);
     m_floor->SetDark(dark);
-    ShowChoices();  // its marks have the old colours
+    m_properties->Show(m_document.Get(), std::nullopt);  // its rows and the marks have the old colours
+    ShowChosen();
 }
 
 void MainWindow::SetLanguage(Language language)
@@ -168,7 +180,9 @@ void MainWindow::SetLanguage(Language language)
 void MainWindow::Retranslate()
 {
     for (const Command& command : m_commands) {
-        command.action->setText(tr(command.name));
+        const QString text = tr(command.name);
+        command.action->setText(text);
+        command.action->setIconText(OnToolBar(text));
         if (command.hint != nullptr) {
             const QString keys = command.action->shortcut().toString(QKeySequence::NativeText);
             const QString hint = tr(command.hint);

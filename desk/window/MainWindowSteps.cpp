@@ -135,6 +135,7 @@ void MainWindow::StartEditing()
 {
     m_propertyDock->show();
     m_propertyDock->raise();
+    m_properties->window()->activateWindow();  // it may float
     m_properties->EditMarked();
 }
 

@@ -14,7 +14,7 @@ QString Shown(const CString& text) { return QString::fromStdString(Utf8FromGbk(t
 void PanelHost::Item::SetValue(CString strValue)
 {
     CPropertyGridItem::SetValue(strValue);
-    emit m_host.Composed(m_host.m_place, Shown(strValue));
+    emit m_host.Composed(m_host.m_place, Shown(strValue) + m_host.m_tail);
 }
 
 PanelHost::PanelHost(QtDisplay& display, QObject* parent)
@@ -40,6 +40,8 @@ void PanelHost::Open(const Place& place, const QString& present, const QRect& fi
     }
     Close();
     m_place = place;
+    const qsizetype spacing = place.field == Field::VerticalBars ? present.indexOf(QLatin1Char('@')) : -1;
+    m_tail = spacing >= 0 ? present.mid(spacing) : QString();
     m_item.CPropertyGridItem::SetValue(*text);
     m_item.SetListShowFlag(TRUE);
     CDialog& panel = Prepare(place, *text);

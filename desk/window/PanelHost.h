@@ -58,6 +58,7 @@ private:
     QtDisplay& m_display;
     Item m_item;
     Place m_place;
+    QString m_tail;  // of a wall's vertical bars, behind what the picker composes: "@200"
     HWND m_open = nullptr;
     std::unique_ptr<CDialog> m_panel;  // the one that was open last
     std::unique_ptr<CHBarPropertySheet> m_horizontal;

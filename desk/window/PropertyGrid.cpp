@@ -118,8 +118,7 @@ void PropertyGrid::EditMarked()
 
 void PropertyGrid::CommitEdit()
 {
-    for (auto* const editor :
-         viewport()->findChildren<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly)) {
+    for (auto* const editor : viewport()->findChildren<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly)) {
         if (!editor->isHidden()) {  // one that has ended waits for its deletion
             commitData(editor);
             closeEditor(editor, QAbstractItemDelegate::NoHint);

@@ -36,13 +36,18 @@ QList<LostWork> FindLostWork(const QString& folder)
     const QFileInfoList copies = QDir(folder).entryInfoList(
         {QStringLiteral("*") + QLatin1String(CopySuffix)}, QDir::Files, QDir::Time);
     for (const QFileInfo& copy : copies) {
-        LostWork lost{copy.absoluteFilePath(), {}, copy.lastModified()};
+        LostWork lost{copy.absoluteFilePath(), {}, copy.lastModified(), {}};
         if (!IsFree(WithSuffix(lost, LockSuffix))) {
             continue;
         }
         QFile from(WithSuffix(lost, FromSuffix));
         if (from.open(QIODevice::ReadOnly)) {
-            lost.file = QString::fromUtf8(from.readAll());
+            const QByteArray told = from.readAll();
+            const qsizetype end = told.lastIndexOf('\n');
+            lost.file = QString::fromUtf8(told.left(end));
+            bool isTime = false;
+            const qint64 time = told.mid(end + 1).toLongLong(&isTime);
+            lost.fileTime = isTime ? QDateTime::fromMSecsSinceEpoch(time) : QDateTime();
         }
         found.push_back(lost);
     }
@@ -66,7 +71,7 @@ RecoveryCopy::RecoveryCopy(QString folder)
 
 RecoveryCopy::~RecoveryCopy() = default;
 
-void RecoveryCopy::Write(const Project& project, const QString& file)
+void RecoveryCopy::Write(const Project& project, const QString& file, const QDateTime& fileTime)
 {
     if (m_folder.isEmpty()) {
         return;
@@ -75,8 +80,9 @@ void RecoveryCopy::Write(const Project& project, const QString& file)
         throw Failure("the folder of recovery copies cannot be made: " + m_folder.toStdString());
     }
     Lock();
+    const QByteArray time = fileTime.isValid() ? QByteArray::number(fileTime.toMSecsSinceEpoch()) : "";
     QSaveFile from(Path(FromSuffix));
-    if (!from.open(QIODevice::WriteOnly) || from.write(file.toUtf8()) < 0 || !from.commit()) {
+    if (!from.open(QIODevice::WriteOnly) || from.write(file.toUtf8() + '\n' + time) < 0 || !from.commit()) {
         throw Failure("the recovery copy cannot be written: " + from.errorString().toStdString());
     }
     SaveProject(project, Path(CopySuffix).toStdString());

