@@ -186,7 +186,7 @@ void PrintTour(const std::string& projectFile, const std::string& beamName, std:
     out << "  12x used 12 times in the project, for a name: others like it   - not yet used\n"
         << "  >   the focus: the last one the project supports               * what the beam has\n";
     const std::string option = projectFile.empty() ? "" : " --project " + Quoted(projectFile);
-    out << "\nMore:  beamdesk rank bars --kind 5.1";
+    out << "\nMore:  beamdesk window" << option << "\n       beamdesk rank bars --kind 5.1";
     if (beam != nullptr && !beam->name.empty()) {
         out << " --table --beam " << Quoted(beam->name.substr(0, beam->name.find('(')));
     }

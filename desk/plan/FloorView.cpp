@@ -122,9 +122,12 @@ void FloorView::Fit()
 
 void FloorView::ZoomBy(double factor)
 {
-    const QPointF middle = mapToScene(viewport()->rect().center());
-    ZoomTo(transform().m11() * factor);
-    centerOn(middle);
+    QPoint at = viewport()->rect().center();
+    if (m_chosen) {
+        const QPoint chosen = viewport()->mapFromGlobal(OnScreen(*m_chosen).center());
+        at = viewport()->rect().contains(chosen) ? chosen : at;
+    }
+    ZoomAbout(at, factor);
 }
 
 void FloorView::SetDark(bool dark)
@@ -184,6 +187,14 @@ void FloorView::ZoomTo(double scale)
     const double factor = std::clamp(scale, LeastScale, MostScale) / now;
     this->scale(factor, factor);
     m_isFitted = false;
+}
+
+// What lies at a place of the view stays there.
+void FloorView::ZoomAbout(const QPoint& inView, double factor)
+{
+    const QPointF before = mapToScene(inView);
+    ZoomTo(transform().m11() * factor);
+    PanBy(inView - mapFromScene(before));
 }
 
 void FloorView::PanBy(const QPoint& pixels)
@@ -253,11 +264,8 @@ void FloorView::mouseDoubleClickEvent(QMouseEvent* event)
 // About the pointer.
 void FloorView::wheelEvent(QWheelEvent* event)
 {
-    const QPoint at = event->position().toPoint();
-    const QPointF before = mapToScene(at);
     constexpr double Notch = 120.0;
-    ZoomTo(transform().m11() * std::pow(WheelStep, event->angleDelta().y() / Notch));
-    PanBy(at - mapFromScene(before));
+    ZoomAbout(event->position().toPoint(), std::pow(WheelStep, event->angleDelta().y() / Notch));
     event->accept();
 }
 

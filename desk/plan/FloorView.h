@@ -30,7 +30,7 @@ public:
     [[nodiscard]] int CoveringBlocks() const { return m_covering; }
 
     void Fit();
-    void ZoomBy(double factor);  // about the middle of the view
+    void ZoomBy(double factor);  // about the chosen annotation where it is in view, or else the middle
     void SetDark(bool dark);
 
 signals:
@@ -59,6 +59,7 @@ private:
     [[nodiscard]] OwnerItem* ItemOf(const Place& place) const;
     void AddAxes();
     void ZoomTo(double scale);
+    void ZoomAbout(const QPoint& inView, double factor);
     void PanBy(const QPoint& pixels);
     void Hover(const Hit& hit);
 

@@ -44,6 +44,7 @@ ChoiceBox::ChoiceBox(QWidget* parent)
     : QWidget(parent), m_owner(new QLabel), m_present(new QLabel), m_typed(new QLineEdit),
       m_rows(new QTreeWidget), m_table(new QCheckBox), m_panel(new QPushButton)
 {
+    m_noMark = FocusMark(Qt::transparent);
     m_typed->setObjectName("typed");
     m_rows->setObjectName("choices");
     m_table->setObjectName("table");
@@ -174,7 +175,7 @@ void ChoiceBox::AddRow(QTreeWidgetItem* group, const Candidate& candidate, bool 
         bold.setBold(true);
         row->setFont(TextColumn, bold);
     }
-    row->setIcon(TextColumn, FocusMark(focus ? palette().color(QPalette::Highlight) : Qt::transparent));
+    row->setIcon(TextColumn, focus ? FocusMark(palette().color(QPalette::Highlight)) : m_noMark);
     if (focus) {
         row->setToolTip(TextColumn, m_areNames ? tr("The first free name")
                                                : tr("The last text that the project supports"));

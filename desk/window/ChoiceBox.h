@@ -56,6 +56,7 @@ private:
     QTreeWidgetItem* m_first = nullptr;  // the row to begin with
     QString m_presentText;
     Ranking m_ranking;
+    QIcon m_noMark;
     bool m_areNames = false;
     bool m_isEmpty = true;
 };

@@ -124,6 +124,19 @@ TEST(FloorView, ArrowKeysMoveTheFloorAndOtherKeysAreTheWindows)
     EXPECT_FALSE(letter.isAccepted());
 }
 
+TEST(FloorView, ZoomsAboutTheChosenAnnotation)
+{
+    const Project project = SampleProject();
+    View view;
+    view.SetProject(&project);
+    view.show();
+    const Place chosen{false, 20, Field::Name};
+    view.SetChosen(chosen);
+    const QPoint before = view.Middle(chosen);
+    view.ZoomBy(3.0);
+    EXPECT_LE((view.Middle(chosen) - before).manhattanLength(), 4);
+}
+
 TEST(FloorView, RefreshMovesNoOtherText)
 {
     Project project = SampleProject();
