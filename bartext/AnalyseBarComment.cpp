@@ -92,24 +92,36 @@ std::size_t GradeBefore(std::string_view text, std::size_t place)
                : std::string_view::npos;
 }
 
+// Where grade letter and diameter stand; npos for what the text lacks.
+struct Start {
+    std::size_t grade;
+    std::size_t diameter;
+};
+
+Start FindStart(std::string_view text)
+{
+    const std::size_t grade = FindGrade(text);
+    if (grade == std::string_view::npos) {
+        return {grade, text.find_first_of(Digits)};
+    }
+    const std::size_t diameter = FindDiameter(text);
+    if (diameter == std::string_view::npos) {
+        return {grade, grade + 1};
+    }
+    const std::size_t before = GradeBefore(text, diameter);
+    return {before != std::string_view::npos ? before : grade, diameter};
+}
+
 }  // namespace
 
 bool AnalyseBarComment(CString strText, int& nGrade, int& nDiameter, int& nTight, int& nNormal,
                        int* pnTenths)
 {
     std::string_view text = strText.View();
-    const std::size_t first = FindGrade(text);
-    std::size_t diameter = text.find_first_of(Digits);
-    nGrade = 0;
-    if (first != std::string_view::npos) {
-        diameter = FindDiameter(text);
-        const bool found = diameter != std::string_view::npos;
-        const std::size_t before = found ? GradeBefore(text, diameter) : first;
-        const std::size_t grade = before != std::string_view::npos ? before : first;
-        nGrade = static_cast<int>(Grades.find(text[grade])) + 1;
-        diameter = found ? diameter : grade + 1;
-    }
-    text.remove_prefix(std::min(diameter, text.size()));
+    const Start start = FindStart(text);
+    nGrade =
+        start.grade != std::string_view::npos ? static_cast<int>(Grades.find(text[start.grade])) + 1 : 0;
+    text.remove_prefix(std::min(start.diameter, text.size()));
     nDiameter = TakeNumber(text);
     const int tenths = TakeTenths(text);
     if (pnTenths != nullptr) {

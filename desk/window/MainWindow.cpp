@@ -123,6 +123,7 @@ void MainWindow::Take(const Place& place, const QString& text)
         return;  // of a project that is gone
     }
     const QString owner = OwnerName(m_document.Get(), place);  // a new name changes it
+    const std::string before = TextAt(m_document.Get(), place);
     const QString refusal = m_document.SetText(place, text);
     m_isRefused = !refusal.isEmpty();
     if (m_isRefused) {
@@ -130,10 +131,12 @@ void MainWindow::Take(const Place& place, const QString& text)
         ShowChosen();
         return;
     }
-    ShowChosen();
+    const std::string& now = TextAt(m_document.Get(), place);
+    if (now == before) {
+        ShowChosen();  // a change has shown itself
+    }
     statusBar()->showMessage(
-        QStringLiteral("%1, %2: %3")
-            .arg(owner, FieldName(place.field), QString::fromStdString(TextAt(m_document.Get(), place))));
+        QStringLiteral("%1, %2: %3").arg(owner, FieldName(place.field), QString::fromStdString(now)));
 }
 
 bool MainWindow::CommitEdit()

@@ -80,7 +80,6 @@ private:
     void FindNext() { Find(1); }
     void FindPrevious() { Find(-1); }
     void StartSearch();
-    void FindSoon();
     void StartTyping() { TypeChoice(QString()); }
     void StartEditing();
     void ZoomIn();
@@ -125,7 +124,7 @@ private:
     QMap<QByteArray, QAction*> m_actions;  // by object name
     std::optional<Place> m_chosen;
     bool m_isRefused = false;  // the last text to be taken
-    bool m_isFindingSoon = false;
+    QTimer m_findSoon;
 };
 
 }  // namespace Desk

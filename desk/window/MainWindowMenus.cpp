@@ -158,7 +158,10 @@ void MainWindow::MakeSearch()
     m_search->setClearButtonEnabled(true);
     m_search->setMaximumWidth(260);
     bar->addWidget(m_search);
-    connect(m_search, &QLineEdit::returnPressed, this, &MainWindow::FindSoon);
+    // Once, though Enter on a completed name tells of it twice: by the line and by the completer.
+    m_findSoon.setSingleShot(true);
+    connect(&m_findSoon, &QTimer::timeout, this, &MainWindow::FindNext);
+    connect(m_search, &QLineEdit::returnPressed, &m_findSoon, qOverload<>(&QTimer::start));
 }
 
 void MainWindow::SetAppearance(Appearance appearance)

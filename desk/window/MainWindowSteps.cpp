@@ -66,18 +66,6 @@ void MainWindow::StartSearch()
     m_search->selectAll();
 }
 
-// Once, though Enter on a completed name tells of it twice: by the line and by the completer.
-void MainWindow::FindSoon()
-{
-    if (!m_isFindingSoon) {
-        m_isFindingSoon = true;
-        QTimer::singleShot(0, this, [this] {
-            m_isFindingSoon = false;
-            FindNext();
-        });
-    }
-}
-
 // The next text that holds what is searched for, from the chosen one around the whole project.
 void MainWindow::Find(int by)
 {
@@ -126,7 +114,8 @@ void MainWindow::FillSearchWords()
     auto* const completer = new QCompleter(sorted, m_search);
     completer->setCaseSensitivity(Qt::CaseInsensitive);
     completer->setFilterMode(Qt::MatchContains);
-    connect(completer, qOverload<const QString&>(&QCompleter::activated), this, &MainWindow::FindSoon);
+    connect(completer, qOverload<const QString&>(&QCompleter::activated), &m_findSoon,
+            qOverload<>(&QTimer::start));
     delete m_search->completer();
     m_search->setCompleter(completer);
 }

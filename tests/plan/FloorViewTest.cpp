@@ -26,9 +26,11 @@ std::vector<Place> AllPlaces(const Project& project)
 }
 
 struct View : FloorView {
-    View()
+    explicit View(const Project& project)
     {
         resize(1200, 800);
+        SetProject(&project);
+        show();
         connect(this, &FloorView::Picked, [this](const Place& place) { picked.push_back(place); });
         connect(this, &FloorView::NothingPicked, [this] { ++nothing; });
         connect(this, &FloorView::PanelAsked, [this](const Place& place) { panel = place; });
@@ -45,9 +47,7 @@ struct View : FloorView {
 TEST(FloorView, APressOnEachAnnotationOfTheSamplePicksIt)
 {
     const Project project = SampleProject();
-    View view;
-    view.SetProject(&project);
-    view.show();
+    View view(project);
     EXPECT_LE(view.CoveringBlocks(), static_cast<int>(project.beams.size() + project.walls.size()) / 6);
     int others = 0;
     for (const double zoom : {1.0, 3.0}) {
@@ -71,9 +71,7 @@ TEST(FloorView, APressOnEachAnnotationOfTheSamplePicksIt)
 TEST(FloorView, BareGroundPansOrPicksNothing)
 {
     const Project project = SampleProject();
-    View view;
-    view.SetProject(&project);
-    view.show();
+    View view(project);
     const Place place{false, 0, Field::Name};
     const QPoint before = view.Middle(place);
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, QPoint(5, 5));
@@ -89,9 +87,7 @@ TEST(FloorView, BareGroundPansOrPicksNothing)
 TEST(FloorView, TextsThatAreTooSmallToBeDrawnArePickedByNobody)
 {
     const Project project = SampleProject();
-    View view;
-    view.SetProject(&project);
-    view.show();
+    View view(project);
     view.ZoomBy(0.4);
     for (const Place& place : AllPlaces(project)) {
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.Middle(place));
@@ -105,9 +101,7 @@ TEST(FloorView, TextsThatAreTooSmallToBeDrawnArePickedByNobody)
 TEST(FloorView, ArrowKeysMoveTheFloorAndOtherKeysAreTheWindows)
 {
     const Project project = SampleProject();
-    View view;
-    view.SetProject(&project);
-    view.show();
+    View view(project);
     view.ZoomBy(4.0);
     const Place place{false, 0, Field::Name};
     const QPoint before = view.Middle(place);
@@ -127,9 +121,7 @@ TEST(FloorView, ArrowKeysMoveTheFloorAndOtherKeysAreTheWindows)
 TEST(FloorView, ZoomsAboutTheChosenAnnotation)
 {
     const Project project = SampleProject();
-    View view;
-    view.SetProject(&project);
-    view.show();
+    View view(project);
     const Place chosen{false, 20, Field::Name};
     view.SetChosen(chosen);
     const QPoint before = view.Middle(chosen);
@@ -140,9 +132,7 @@ TEST(FloorView, ZoomsAboutTheChosenAnnotation)
 TEST(FloorView, RefreshMovesNoOtherText)
 {
     Project project = SampleProject();
-    View view;
-    view.SetProject(&project);
-    view.show();
+    View view(project);
     const auto boxes = [&](std::size_t except) {
         std::vector<QRect> rects;
         for (const Place& place : AllPlaces(project)) {
@@ -171,9 +161,7 @@ TEST(FloorView, TakesWhateverAProjectFileMayHold)
          R"({"version": 1, "beams": [{"name": "L1", "section": "300x600", "start": [0, 0], "end": [1e9, 1e9]},
               {"name": "L2", "section": "1x1", "start": [-1e9, 1e9], "end": [1e9, -1e9]}]})"}) {
         const Project project = ParseProject(text, "test");
-        View view;
-        view.SetProject(&project);
-        view.show();
+        View view(project);
         view.SetDark(true);
         view.ZoomBy(4);
         EXPECT_FALSE(view.grab().isNull());

@@ -223,6 +223,23 @@ TEST_F(MainWindowTest, EachPanelReadsItsAnnotation)
             EXPECT_EQ(Text(place), text);
         }
     }
+    for (std::size_t i = 0; i < project.walls.size(); ++i) {
+        for (const Field field : {Field::HorizontalBars, Field::VerticalBars}) {
+            const Place place{true, i, field};
+            const std::string text = Text(place);
+            window.Choose(place);
+            window.OpenPanel();
+            QTest::mouseClick(display.WidgetOf(window.Panels().Window()), Qt::RightButton, {},
+                              QPoint(1, 1));
+            EXPECT_EQ(Text(place), text);
+        }
+    }
+    for (const char* const layers : {"6B25/4B25", "2B22+3B25/2B22", "6B25 4/2", "2B25+3B22 2/3"}) {
+        window.TheDocument().SetText(Bars, layers);
+        window.OpenPanel();
+        QTest::mouseClick(display.WidgetOf(window.Panels().Window()), Qt::RightButton, {}, QPoint(1, 1));
+        EXPECT_EQ(Text(Bars), layers);
+    }
 }
 
 TEST_F(MainWindowTest, AWallsBarsAreSetByThePickers)
