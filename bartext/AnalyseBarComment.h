@@ -2,7 +2,7 @@
 #pragma once
 
 #include "bartext/Export.h"
-#include "platform/CString.h"
+#include "platform/text/CString.h"
 
 // Reads [count]grade diameter[.tenths][@tight[/normal]], blanks between them and row counts in brackets
 // behind a number allowed, whatever stands in front of it or behind: "A10@100/200", "B6.5@150",

@@ -3,8 +3,8 @@
 #include <iostream>
 #include <string>
 
-#include "desk/Generate.h"
-#include "desk/ProjectFile.h"
+#include "desk/project/Generate.h"
+#include "desk/project/ProjectFile.h"
 #include "desk/window/MainWindow.h"
 
 namespace {
@@ -41,8 +41,8 @@ void Measure(const char* name, const Project& project, const QString& file)
         QElapsedTimer click;
         click.start();
         const auto& fields = BeamFields();
-        window.Choose(Place{false, static_cast<std::size_t>(i) % project.beams.size(),
-                            fields[static_cast<std::size_t>(i) % fields.size()]});
+        window.Choose(FieldRef{false, static_cast<std::size_t>(i) % project.beams.size(),
+                               fields[static_cast<std::size_t>(i) % fields.size()]});
         worst = std::max(worst, static_cast<double>(click.nsecsElapsed()) / 1e6);
     }
     std::cout << ", click to ranked list " << static_cast<double>(timer.nsecsElapsed()) / 1e6 / Clicks

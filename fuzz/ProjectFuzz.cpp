@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <tuple>
 
-#include "desk/Failure.h"
-#include "desk/ProjectFile.h"
+#include "desk/project/Failure.h"
+#include "desk/project/ProjectFile.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "griditem/Export.h"
-#include "platform/StringList.h"
+#include "platform/text/StringList.h"
 
 class GRIDITEM_API CItemConstraints : public CStringList {
 public:

@@ -1,7 +1,7 @@
 // CListItems: the child items of a property item.
 #pragma once
 
-#include "platform/StringList.h"
+#include "platform/text/StringList.h"
 
 class CPropertyGridItem;
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "griditem/Export.h"
-#include "platform/CEdit.h"
+#include "platform/windows/CEdit.h"
 
 class CPropertyGridItem;
 

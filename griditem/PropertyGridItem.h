@@ -4,7 +4,7 @@
 #include "griditem/Export.h"
 #include "griditem/ItemConstraints.h"
 #include "griditem/ListItems.h"
-#include "platform/CRect.h"
+#include "platform/windows/CRect.h"
 
 class CDC;  // a device context; only its address passes through here
 class CWnd;

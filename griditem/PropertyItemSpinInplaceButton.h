@@ -2,7 +2,7 @@
 #pragma once
 
 #include "griditem/Export.h"
-#include "platform/CSpinButtonCtrl.h"
+#include "platform/windows/CSpinButtonCtrl.h"
 
 class GRIDITEM_API CPropertyItemSpinInplaceButton : public CSpinButtonCtrl {
     DECLARE_MESSAGE_MAP()

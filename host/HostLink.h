@@ -3,8 +3,8 @@
 #pragma once
 
 #include "host/Export.h"
-#include "platform/Arrays.h"
-#include "platform/CString.h"
+#include "platform/text/Arrays.h"
+#include "platform/text/CString.h"
 
 // Callbacks return nothing and answer by filling the arrays they are given, which belong to the
 // module. All run synchronously on the host's user-interface thread.

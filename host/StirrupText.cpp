@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 
 namespace StirrupText {
 namespace {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "host/Export.h"
-#include "platform/CString.h"
+#include "platform/text/CString.h"
 
 namespace StirrupText {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "panels/BarPiece.h"
-#include "platform/DialogTemplate.h"
+#include "platform/windows/DialogTemplate.h"
 
 namespace BarGroups {
 namespace {

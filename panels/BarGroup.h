@@ -5,8 +5,8 @@
 #include <span>
 
 #include "host/Export.h"
-#include "platform/Arrays.h"
-#include "platform/CString.h"
+#include "platform/text/Arrays.h"
+#include "platform/text/CString.h"
 
 // One bar field of the beam. While the panel composes, the text is the join of the pieces.
 struct BarGroup {

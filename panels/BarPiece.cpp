@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 
 namespace BarPiece {
 namespace {

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "host/Export.h"
-#include "platform/CString.h"
+#include "platform/text/CString.h"
 
 // A bare piece is count, grade, diameter, a row split where there is one, and the terminator:
 // "2B25;", "6B25 2/4 ". What stands around it, "+", "*", "N", "G", "+(" and ")", follows from its

@@ -4,7 +4,7 @@
 #include "host/StirrupText.h"
 #include "panels/BeamGujinTemplate.h"
 #include "panels/ListRows.h"
-#include "platform/DataExchange.h"
+#include "platform/windows/DataExchange.h"
 
 using namespace BeamGujinTemplate;
 using ListRows::FieldOf;

@@ -3,8 +3,8 @@
 
 #include "host/Export.h"
 #include "panels/PanelFrame.h"
-#include "platform/CDialog.h"
-#include "platform/CListBox.h"
+#include "platform/windows/CDialog.h"
+#include "platform/windows/CListBox.h"
 
 // The six fields of the annotation stand side by side, each as an edit box over a list. A click in a
 // list composes from the lists and rewrites the boxes; a keystroke moves the lists and composes from the

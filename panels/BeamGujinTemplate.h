@@ -2,7 +2,7 @@
 // order of the text, each a heading, an edit box and a list.
 #pragma once
 
-#include "platform/DialogTemplate.h"
+#include "platform/windows/DialogTemplate.h"
 
 namespace BeamGujinTemplate {
 

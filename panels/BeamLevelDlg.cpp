@@ -3,7 +3,7 @@
 
 #include "panels/BeamLevelTemplate.h"
 #include "panels/LevelText.h"
-#include "platform/DataExchange.h"
+#include "platform/windows/DataExchange.h"
 
 using namespace BeamLevelTemplate;
 

@@ -3,8 +3,8 @@
 
 #include "host/Export.h"
 #include "panels/PanelFrame.h"
-#include "platform/CDialog.h"
-#include "platform/CEdit.h"
+#include "platform/windows/CDialog.h"
+#include "platform/windows/CEdit.h"
 
 // The keys work on m_strResult and write it over the box; the box counts at the confirmation, so that a
 // text typed last is delivered. A right press confirms, Esc dismisses, and the panel hides in both cases.

@@ -1,7 +1,7 @@
 // The elevation panel's window: an edit box over a calculator keypad.
 #pragma once
 
-#include "platform/DialogTemplate.h"
+#include "platform/windows/DialogTemplate.h"
 
 namespace BeamLevelTemplate {
 

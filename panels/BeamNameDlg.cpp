@@ -4,8 +4,8 @@
 #include "panels/BeamNameTemplate.h"
 #include "panels/ListRows.h"
 #include "panels/NameText.h"
-#include "platform/DataExchange.h"
-#include "platform/MessageBox.h"
+#include "platform/windows/DataExchange.h"
+#include "platform/windows/MessageBox.h"
 
 using namespace BeamNameTemplate;
 using ListRows::FieldOf;

@@ -3,8 +3,8 @@
 
 #include "host/Export.h"
 #include "panels/PanelFrame.h"
-#include "platform/CDialog.h"
-#include "platform/CListBox.h"
+#include "platform/windows/CDialog.h"
+#include "platform/windows/CListBox.h"
 
 // What counts are the four edit boxes. Type and cantilever are also picked from lists; serial and span
 // count have lists of digits, where a click adds a digit and a double click replaces the number. A right

@@ -2,7 +2,7 @@
 // side by side, each a heading, an edit box and a list.
 #pragma once
 
-#include "platform/DialogTemplate.h"
+#include "platform/windows/DialogTemplate.h"
 
 namespace BeamNameTemplate {
 

@@ -4,8 +4,8 @@
 #include "panels/BeamSecTemplate.h"
 #include "panels/ListRows.h"
 #include "panels/SectionText.h"
-#include "platform/DataExchange.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
+#include "platform/windows/DataExchange.h"
 
 using namespace BeamSecTemplate;
 using ListRows::HasSelection;

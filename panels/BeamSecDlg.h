@@ -3,8 +3,8 @@
 
 #include "host/Export.h"
 #include "panels/PanelFrame.h"
-#include "platform/CDialog.h"
-#include "platform/CListBox.h"
+#include "platform/windows/CDialog.h"
+#include "platform/windows/CListBox.h"
 
 // Width and height are picked from lists or typed; the two ways keep each other in step. A right press
 // or a double click confirms, Esc dismisses, and the panel hides in both cases.

@@ -2,7 +2,7 @@
 // a list, and between them the separator, which only shows.
 #pragma once
 
-#include "platform/DialogTemplate.h"
+#include "platform/windows/DialogTemplate.h"
 
 namespace BeamSecTemplate {
 

@@ -5,7 +5,7 @@
 #include "panels/BarPiece.h"
 #include "panels/BeamSteelTemplate.h"
 #include "panels/ListRows.h"
-#include "platform/DataExchange.h"
+#include "platform/windows/DataExchange.h"
 
 using namespace BeamSteelTemplate;
 

@@ -6,8 +6,8 @@
 #include "host/Export.h"
 #include "panels/BarGroup.h"
 #include "panels/PanelFrame.h"
-#include "platform/CDialog.h"
-#include "platform/CListBox.h"
+#include "platform/windows/CDialog.h"
+#include "platform/windows/CListBox.h"
 
 // An annotation has up to five groups, each a text cut into pieces ("2B22", "+2B25;"). One list along
 // the foot (the Pos list) shows the pieces of all groups, each on a row of its own; the column lists

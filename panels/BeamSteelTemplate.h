@@ -3,7 +3,7 @@
 #pragma once
 
 #include "panels/BarPiece.h"
-#include "platform/DialogTemplate.h"
+#include "platform/windows/DialogTemplate.h"
 
 namespace BeamSteelTemplate {
 

@@ -1,7 +1,7 @@
 // The keys of the elevation keypad.
 #include "panels/LevelText.h"
 
-#include "platform/GbkWalk.h"
+#include "platform/text/GbkWalk.h"
 
 namespace LevelText {
 namespace {

@@ -1,8 +1,8 @@
 // Filling lists and finding rows.
 #include "panels/ListRows.h"
 
-#include "platform/Gbk.h"
-#include "platform/Numbers.h"
+#include "platform/text/Gbk.h"
+#include "platform/text/Numbers.h"
 
 namespace ListRows {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <span>
 
-#include "platform/CListBox.h"
-#include "platform/CString.h"
+#include "platform/text/CString.h"
+#include "platform/windows/CListBox.h"
 
 namespace ListRows {
 

@@ -3,7 +3,7 @@
 
 #include "griditem/PropertyGridItem.h"
 #include "host/HostLink.h"
-#include "platform/CStatic.h"
+#include "platform/windows/CStatic.h"
 
 namespace PanelFrame {
 

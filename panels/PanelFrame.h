@@ -2,8 +2,8 @@
 // functions and a small value, since the panels have no common base class of their own.
 #pragma once
 
-#include "platform/CString.h"
-#include "platform/CWnd.h"
+#include "platform/text/CString.h"
+#include "platform/windows/CWnd.h"
 
 class CPropertyGridItem;
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/Export.h"
-#include "platform/CString.h"
+#include "platform/text/CString.h"
 
 namespace SectionText {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "host/Export.h"
-#include "platform/CEdit.h"
-#include "platform/CListBox.h"
+#include "platform/windows/CEdit.h"
+#include "platform/windows/CListBox.h"
 
 // A right press goes to the parent with both parameters 0, then on to the box's default handling.
 class RANKER_API CColSpecEdit : public CEdit {

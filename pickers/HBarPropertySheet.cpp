@@ -2,7 +2,7 @@
 
 #include "bartext/AnalyseBarComment.h"
 #include "pickers/HBarTemplate.h"
-#include "platform/DataExchange.h"
+#include "platform/windows/DataExchange.h"
 
 using namespace HBarTemplate;
 using namespace ItemBinding;

@@ -3,7 +3,7 @@
 
 #include "pickers/ColSpecControls.h"
 #include "pickers/ItemBinding.h"
-#include "platform/CDialog.h"
+#include "platform/windows/CDialog.h"
 
 // Four edit boxes above four lists: grade, diameter, tight spacing and, if there is one, normal spacing.
 // The boxes count, with rows picked and digits typed alike. A right press hands the text to the property

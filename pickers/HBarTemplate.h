@@ -1,7 +1,7 @@
 // The horizontal picker's window and rows: grade, diameter, tight and normal spacing.
 #pragma once
 
-#include "platform/DialogTemplate.h"
+#include "platform/windows/DialogTemplate.h"
 
 namespace HBarTemplate {
 

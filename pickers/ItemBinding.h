@@ -5,8 +5,8 @@
 #include <span>
 
 #include "griditem/PropertyGridItem.h"
-#include "platform/Arrays.h"
-#include "platform/CListBox.h"
+#include "platform/text/Arrays.h"
+#include "platform/windows/CListBox.h"
 
 namespace ItemBinding {
 

@@ -2,7 +2,7 @@
 
 #include "bartext/AnalyseBarComment.h"
 #include "pickers/VBarTemplate.h"
-#include "platform/DataExchange.h"
+#include "platform/windows/DataExchange.h"
 
 using namespace VBarTemplate;
 using namespace ItemBinding;

@@ -3,7 +3,7 @@
 
 #include "pickers/ColSpecControls.h"
 #include "pickers/ItemBinding.h"
-#include "platform/CDialog.h"
+#include "platform/windows/CDialog.h"
 
 // The twin of the horizontal picker for grade and diameter alone. A click on a grade puts the diameters
 // of that grade on offer; a new picker offers rows of its own until then.

@@ -1,7 +1,7 @@
 // The vertical picker's window and rows: grade and diameter.
 #pragma once
 
-#include "platform/DialogTemplate.h"
+#include "platform/windows/DialogTemplate.h"
 
 namespace VBarTemplate {
 

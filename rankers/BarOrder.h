@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "platform/Arrays.h"
+#include "platform/text/Arrays.h"
 
 namespace BarOrder {
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "host/HostLink.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "rankers/Order.h"
 
 void BEAMLEVEL_HITNESS_RANKER::ProcessController(CStringArray& arResult)

@@ -10,7 +10,7 @@
 #include <string_view>
 
 #include "host/HostLink.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 
 namespace {
 

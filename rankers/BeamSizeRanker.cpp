@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "host/HostLink.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "rankers/Order.h"
 
 namespace {

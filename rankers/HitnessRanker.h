@@ -2,8 +2,8 @@
 #pragma once
 
 #include "host/Export.h"
-#include "platform/Arrays.h"
-#include "platform/CString.h"
+#include "platform/text/Arrays.h"
+#include "platform/text/CString.h"
 
 // A ranker fills the caller's list with the texts that the user most likely wants, best first. The
 // base class only names the steps; its own bodies do nothing. No step reports an error: a list may

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/Arrays.h"
+#include "platform/text/Arrays.h"
 
 namespace Order {
 

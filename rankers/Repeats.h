@@ -1,7 +1,7 @@
 // Removal of repeated texts from a candidate list.
 #pragma once
 
-#include "platform/Arrays.h"
+#include "platform/text/Arrays.h"
 
 namespace Repeats {
 

@@ -11,7 +11,8 @@ struct Row {
     const char* gujin;  // stirrup annotation with one spacing
 };
 
-// clang-format off: one row a line
+// One row a line.
+// clang-format off
 inline constexpr Row Rows[] = {
     {20, 200, 0.27, "A6@200(2)"},
     {20, 200, 0.36, "A6@150(2)"},

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "host/Export.h"
-#include "platform/Arrays.h"
-#include "platform/CString.h"
+#include "platform/text/Arrays.h"
+#include "platform/text/CString.h"
 
 // One row of the table.
 class RANKER_API SteelBiaoItem {

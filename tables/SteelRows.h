@@ -11,6 +11,7 @@ struct Row {
     const char* totalJin;  // complete top bars that these through bars belong to
 };
 
+// clang-format off
 inline constexpr Row Rows[] = {
     {250, 380, "2B12", "2B12+1B14"},
     {250, 427, "2B12", "2B12+1B16"},
@@ -357,5 +358,6 @@ inline constexpr Row Rows[] = {
     {600, 7365, "4B25", "9B25/6B25"},
     {600, 7854, "4B25", "9B25/7B25"},
 };
+// clang-format on
 
 }  // namespace SteelRows

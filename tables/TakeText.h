@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "platform/Arrays.h"
-#include "platform/CString.h"
+#include "platform/text/Arrays.h"
+#include "platform/text/CString.h"
 
 // Appends the text if no entry equals it; true when it was appended.
 inline bool TakeText(const CString& text, CStringArray& arResult)

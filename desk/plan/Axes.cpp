@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "desk/JsonText.h"
+#include "desk/project/JsonText.h"
 
 namespace Desk {
 

@@ -73,14 +73,14 @@ void FloorView::AddAxes()
     }
 }
 
-void FloorView::Refresh(const Place& place)
+void FloorView::Refresh(const FieldRef& place)
 {
     if (OwnerItem* const item = ItemOf(place)) {
         item->TakeTexts(*m_project);
     }
 }
 
-void FloorView::SetChosen(std::optional<Place> place)
+void FloorView::SetChosen(std::optional<FieldRef> place)
 {
     if (OwnerItem* const before = m_chosen ? ItemOf(*m_chosen) : nullptr) {
         before->SetLit(std::nullopt);
@@ -100,7 +100,7 @@ void FloorView::SetChosen(std::optional<Place> place)
     }
 }
 
-QRect FloorView::OnScreen(const Place& place) const
+QRect FloorView::OnScreen(const FieldRef& place) const
 {
     const OwnerItem* const item = ItemOf(place);
     if (item == nullptr) {
@@ -148,7 +148,7 @@ void FloorView::SetDark(bool dark)
     viewport()->update();
 }
 
-OwnerItem* FloorView::ItemOf(const Place& place) const
+OwnerItem* FloorView::ItemOf(const FieldRef& place) const
 {
     if (m_project == nullptr || !Exists(*m_project, place)) {
         return nullptr;

@@ -18,14 +18,14 @@ public:
     // Draws the project anew and fits it; borrowed, null for nothing.
     void SetProject(const Project* project);
     // A text of this beam or wall is not as it was.
-    void Refresh(const Place& place);
+    void Refresh(const FieldRef& place);
 
     // Lights up an annotation and brings it into view; nothing for none. Does not signal.
-    void SetChosen(std::optional<Place> place);
-    [[nodiscard]] std::optional<Place> Chosen() const { return m_chosen; }
+    void SetChosen(std::optional<FieldRef> place);
+    [[nodiscard]] std::optional<FieldRef> Chosen() const { return m_chosen; }
 
     // Where an annotation's text shows, in pixels of the screen; where it would stand when it is empty.
-    [[nodiscard]] QRect OnScreen(const Place& place) const;
+    [[nodiscard]] QRect OnScreen(const FieldRef& place) const;
     // Blocks of texts that lie on another text for want of room.
     [[nodiscard]] int CoveringBlocks() const { return m_covering; }
 
@@ -34,9 +34,10 @@ public:
     void SetDark(bool dark);
 
 signals:
-    void Picked(const Desk::Place& place);  // a press on an annotation; on a beam or wall itself: its name
-    void PanelAsked(const Desk::Place& place);  // a double click
-    void NothingPicked();                       // a press on bare ground without a drag
+    // A press on an annotation; on a beam or wall itself: its name.
+    void Picked(const Desk::FieldRef& place);
+    void PanelAsked(const Desk::FieldRef& place);  // a double click
+    void NothingPicked();                          // a press on bare ground without a drag
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -56,7 +57,7 @@ private:
     };
 
     [[nodiscard]] Hit HitAt(const QPoint& inView) const;
-    [[nodiscard]] OwnerItem* ItemOf(const Place& place) const;
+    [[nodiscard]] OwnerItem* ItemOf(const FieldRef& place) const;
     void AddAxes();
     void ZoomTo(double scale);
     void ZoomAbout(const QPoint& inView, double factor);
@@ -66,7 +67,7 @@ private:
     const Project* m_project = nullptr;
     std::vector<OwnerItem*> m_items;  // beams, then walls; the scene owns them
     int m_covering = 0;
-    std::optional<Place> m_chosen;
+    std::optional<FieldRef> m_chosen;
     OwnerItem* m_hovered = nullptr;
     bool m_isDark = false;
     bool m_isFitted = true;  // until the person zooms or pans

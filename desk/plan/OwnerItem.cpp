@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "desk/plan/ReadSection.h"
+#include "desk/reading/ReadSection.h"
 
 namespace Desk {
 

@@ -50,7 +50,7 @@ public:
     // Rectangles of the texts at the ends.
     [[nodiscard]] std::vector<QRectF> EndBoxes() const;
 
-    [[nodiscard]] Place PlaceOf(Field field) const { return {m_isWall, m_index, field}; }
+    [[nodiscard]] FieldRef PlaceOf(Field field) const { return {m_isWall, m_index, field}; }
     void SetColors(const PlanColors* colors) { m_colors = colors; }
     void SetLit(std::optional<Field> field);
     void SetHovered(std::optional<Field> field);

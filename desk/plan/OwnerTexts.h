@@ -3,8 +3,8 @@
 
 #include <vector>
 
-#include "desk/Place.h"
-#include "desk/shell/Toolkit.h"
+#include "desk/Toolkit.h"
+#include "desk/project/FieldRef.h"
 
 namespace Desk {
 

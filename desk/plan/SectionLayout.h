@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "desk/Place.h"
-#include "desk/plan/ReadSection.h"
+#include "desk/project/FieldRef.h"
+#include "desk/reading/ReadSection.h"
 
 namespace Desk {
 

@@ -1,8 +1,8 @@
 // SectionSketch: the cross section of one beam, drawn from its texts.
 #pragma once
 
+#include "desk/Toolkit.h"
 #include "desk/plan/SectionLayout.h"
-#include "desk/shell/Toolkit.h"
 
 namespace Desk {
 

@@ -1,8 +1,8 @@
 // Key codes of the toolkit as the window layer numbers them.
 #pragma once
 
-#include "desk/shell/Toolkit.h"
-#include "platform/Messages.h"
+#include "desk/Toolkit.h"
+#include "platform/windows/Messages.h"
 
 namespace Desk {
 

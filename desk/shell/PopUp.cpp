@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "desk/Encoding.h"
-#include "platform/Events.h"
+#include "desk/project/Encoding.h"
+#include "platform/windows/Events.h"
 
 namespace Desk {
 

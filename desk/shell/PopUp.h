@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desk/shell/Scale.h"
-#include "platform/Display.h"
+#include "platform/windows/Display.h"
 
 namespace Desk {
 

@@ -1,7 +1,7 @@
 // Records to widgets. What comes back from the widgets is in QtInput.cpp.
 #include "desk/shell/QtDisplay.h"
 
-#include "desk/Encoding.h"
+#include "desk/project/Encoding.h"
 #include "desk/shell/PopUp.h"
 #include "desk/shell/QtInput.h"
 

@@ -3,8 +3,8 @@
 
 #include <memory>
 
-#include "desk/shell/Toolkit.h"
-#include "platform/Display.h"
+#include "desk/Toolkit.h"
+#include "platform/windows/Display.h"
 
 Q_DECLARE_OPAQUE_POINTER(HWND)  // so that signals carry handles
 

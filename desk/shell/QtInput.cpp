@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "desk/Encoding.h"
+#include "desk/project/Encoding.h"
 #include "desk/shell/Keys.h"
 #include "desk/shell/PopUp.h"
 #include "desk/shell/QtDisplay.h"
-#include "platform/GbkWalk.h"
-#include "platform/WindowRecord.h"
+#include "platform/text/GbkWalk.h"
+#include "platform/windows/WindowRecord.h"
 
 namespace Desk {
 

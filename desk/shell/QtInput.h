@@ -1,9 +1,9 @@
 // What the user does to the widgets of pop-ups, as events of the window layer.
 #pragma once
 
-#include "desk/shell/Toolkit.h"
-#include "platform/Events.h"
-#include "platform/UserInput.h"
+#include "desk/Toolkit.h"
+#include "platform/windows/Events.h"
+#include "platform/windows/UserInput.h"
 
 namespace Desk {
 

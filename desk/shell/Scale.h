@@ -3,8 +3,8 @@
 
 #include <cmath>
 
-#include "desk/shell/Toolkit.h"
-#include "platform/CRect.h"
+#include "desk/Toolkit.h"
+#include "platform/windows/CRect.h"
 
 namespace Desk {
 

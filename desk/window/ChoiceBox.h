@@ -1,8 +1,8 @@
 // ChoiceBox: the ranked texts for the chosen annotation, narrowed by typing, taken by a click or Enter.
 #pragma once
 
-#include "desk/Ranking.h"
-#include "desk/shell/Toolkit.h"
+#include "desk/Toolkit.h"
+#include "desk/ranking/Ranking.h"
 
 namespace Desk {
 

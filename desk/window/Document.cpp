@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "desk/Encoding.h"
-#include "desk/Failure.h"
-#include "desk/ProjectFile.h"
+#include "desk/project/Encoding.h"
+#include "desk/project/Failure.h"
+#include "desk/project/ProjectFile.h"
 #include "desk/window/FieldNames.h"
 
 namespace Desk {
@@ -19,7 +19,7 @@ constexpr int RecoveryDelay = 2000;  // ms from a change to its recovery copy
 
 class TextChange : public QUndoCommand {
 public:
-    TextChange(Document& document, const Place& place, std::string text)
+    TextChange(Document& document, const FieldRef& place, std::string text)
         : m_document(document), m_place(place), m_before(TextAt(document.Get(), place)),
           m_after(std::move(text))
     {
@@ -31,7 +31,7 @@ public:
 
 private:
     Document& m_document;
-    Place m_place;
+    FieldRef m_place;
     std::string m_before;
     std::string m_after;
 };
@@ -81,7 +81,7 @@ bool Document::IsFileNewer() const
     return !m_file.isEmpty() && QFileInfo::exists(m_file) && QFileInfo(m_file).lastModified() != m_fileTime;
 }
 
-QString Document::SetText(const Place& place, const QString& text)
+QString Document::SetText(const FieldRef& place, const QString& text)
 {
     const std::string wanted = text.trimmed().toStdString();
     if (wanted == TextAt(m_project, place)) {
@@ -114,7 +114,7 @@ void Document::WriteRecoveryCopy()
     }
 }
 
-void Document::PutText(const Place& place, const std::string& text)
+void Document::PutText(const FieldRef& place, const std::string& text)
 {
     TextAt(m_project, place) = text;
     if (!m_recoverySoon.isActive()) {

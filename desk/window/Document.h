@@ -3,8 +3,8 @@
 
 #include <QtCore>
 
-#include "desk/Place.h"
-#include "desk/shell/Toolkit.h"
+#include "desk/Toolkit.h"
+#include "desk/project/FieldRef.h"
 #include "desk/window/RecoveryCopy.h"
 
 namespace Desk {
@@ -37,7 +37,7 @@ public:
 
     // Sets an annotation, which can be taken back. Answers why the text is refused, empty when it is
     // taken; blanks around it go, and the text that stands there already is no change.
-    QString SetText(const Place& place, const QString& text);
+    QString SetText(const FieldRef& place, const QString& text);
 
     // The recovery copy is of no use any more: all is saved, or the person gave the changes up.
     void DropRecoveryCopy();
@@ -45,14 +45,14 @@ public:
     void WriteRecoveryCopy();
 
 signals:
-    void TextChanged(const Desk::Place& place);
+    void TextChanged(const Desk::FieldRef& place);
     void Replaced();     // another project
     void FileChanged();  // its name
     void RecoveryFailed(const QString& why);
 
 private:
     friend class TextChange;
-    void PutText(const Place& place, const std::string& text);
+    void PutText(const FieldRef& place, const std::string& text);
     void Replace(Project project, const QString& file);
     void NoteFileTime();
 

@@ -25,7 +25,7 @@ QString FieldName(Field field)
     return QCoreApplication::translate("Desk", Names.at(static_cast<std::size_t>(field)));
 }
 
-QString OwnerName(const Project& project, const Place& place)
+QString OwnerName(const Project& project, const FieldRef& place)
 {
     const QString name = QString::fromStdString(TextAt(project, {place.isWall, place.index, Field::Name}));
     const QString number = name.isEmpty() ? QString::number(place.index + 1) : name;

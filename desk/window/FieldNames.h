@@ -3,7 +3,7 @@
 
 #include <QtCore>
 
-#include "desk/Place.h"
+#include "desk/project/FieldRef.h"
 
 namespace Desk {
 
@@ -11,6 +11,6 @@ namespace Desk {
 [[nodiscard]] QString FieldName(Field field);
 
 // "KL1(7)", "Wall Q1", or "Beam 12" counted from 1 when it has no name. The place must exist.
-[[nodiscard]] QString OwnerName(const Project& project, const Place& place);
+[[nodiscard]] QString OwnerName(const Project& project, const FieldRef& place);
 
 }  // namespace Desk

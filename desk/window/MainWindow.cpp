@@ -1,7 +1,7 @@
 // The parts of the window and how they hang together.
 #include "desk/window/MainWindow.h"
 
-#include "desk/Failure.h"
+#include "desk/project/Failure.h"
 #include "desk/window/FieldNames.h"
 #include "desk/window/Folders.h"
 
@@ -53,9 +53,9 @@ void MainWindow::MakeDocks()
 
 void MainWindow::Connect()
 {
-    connect(m_floor, &FloorView::Picked, this, [this](const Place& place) { Choose(place); });
+    connect(m_floor, &FloorView::Picked, this, [this](const FieldRef& place) { Choose(place); });
     connect(m_floor, &FloorView::NothingPicked, this, [this] { Choose(std::nullopt); });
-    connect(m_floor, &FloorView::PanelAsked, this, [this](const Place& place) {
+    connect(m_floor, &FloorView::PanelAsked, this, [this](const FieldRef& place) {
         Choose(place);
         OpenPanel();
     });
@@ -67,9 +67,9 @@ void MainWindow::Connect()
     connect(m_choices, &ChoiceBox::PanelAsked, this, &MainWindow::OpenPanel);
     connect(m_choices, &ChoiceBox::TableToggled, this, &MainWindow::ShowChoices);
     connect(m_choices, &ChoiceBox::Left, m_floor, [this] { m_floor->setFocus(); });
-    connect(m_properties, &PropertyGrid::Picked, this, [this](const Place& place) { Choose(place); });
+    connect(m_properties, &PropertyGrid::Picked, this, [this](const FieldRef& place) { Choose(place); });
     connect(m_properties, &PropertyGrid::Edited, this, &MainWindow::Take);
-    connect(m_properties, &PropertyGrid::PanelAsked, this, [this](const Place& place) {
+    connect(m_properties, &PropertyGrid::PanelAsked, this, [this](const FieldRef& place) {
         if (CommitEdit()) {
             Choose(place);
             m_panels.Open(place, QString::fromStdString(TextAt(m_document.Get(), place)),
@@ -81,7 +81,7 @@ void MainWindow::Connect()
         statusBar()->showMessage(tr("Panel: left button picks, right button takes the text, Esc leaves"));
     });
     connect(&m_display, &QtDisplay::Hidden, statusBar(), [this] { statusBar()->clearMessage(); });
-    connect(&m_document, &Document::TextChanged, this, [this](const Place& place) {
+    connect(&m_document, &Document::TextChanged, this, [this](const FieldRef& place) {
         m_floor->Refresh(place);
         Choose(place);  // undo and redo go where they change something
     });
@@ -98,7 +98,7 @@ void MainWindow::Connect()
     connect(&m_document.Changes(), &QUndoStack::cleanChanged, this, &MainWindow::ShowTitle);
 }
 
-void MainWindow::Choose(const std::optional<Place>& place)
+void MainWindow::Choose(const std::optional<FieldRef>& place)
 {
     m_chosen = place && Exists(m_document.Get(), *place) ? place : std::nullopt;
     statusBar()->clearMessage();  // it told of something else
@@ -117,7 +117,7 @@ void MainWindow::OpenPanel()
                   visible ? inDrawing : m_properties->OnScreen(*m_chosen), this);
 }
 
-void MainWindow::Take(const Place& place, const QString& text)
+void MainWindow::Take(const FieldRef& place, const QString& text)
 {
     if (!Exists(m_document.Get(), place)) {
         return;  // of a project that is gone

@@ -4,12 +4,12 @@
 
 #include <optional>
 
+#include "desk/Toolkit.h"
 #include "desk/plan/FloorView.h"
 #include "desk/plan/SectionSketch.h"
+#include "desk/ranking/Choices.h"
 #include "desk/shell/QtDisplay.h"
-#include "desk/shell/Toolkit.h"
 #include "desk/window/ChoiceBox.h"
-#include "desk/window/Choices.h"
 #include "desk/window/Document.h"
 #include "desk/window/Languages.h"
 #include "desk/window/PanelHost.h"
@@ -31,8 +31,8 @@ public:
     bool OfferLostWork();
 
     // Chooses an annotation, as a click on it does; nothing for none.
-    void Choose(const std::optional<Place>& place);
-    [[nodiscard]] const std::optional<Place>& Chosen() const { return m_chosen; }
+    void Choose(const std::optional<FieldRef>& place);
+    [[nodiscard]] const std::optional<FieldRef>& Chosen() const { return m_chosen; }
     void OpenPanel();
 
     void SetAppearance(Appearance appearance);
@@ -92,7 +92,7 @@ private:
     bool SaveTo(const QString& file);
     // Asks about unsaved changes; false when the person wants to stay.
     bool MayLeave();
-    void Take(const Place& place, const QString& text);
+    void Take(const FieldRef& place, const QString& text);
     void TypeChoice(const QString& first);
     void ShowChosen();
     void ShowChoices();
@@ -122,7 +122,7 @@ private:
     QList<Command> m_commands;
     QList<std::pair<QMenu*, const char*>> m_menus;
     QMap<QByteArray, QAction*> m_actions;  // by object name
-    std::optional<Place> m_chosen;
+    std::optional<FieldRef> m_chosen;
     bool m_isRefused = false;  // the last text to be taken
     QTimer m_findSoon;
 };

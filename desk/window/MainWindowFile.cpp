@@ -1,5 +1,5 @@
 // Opening, saving, leaving: nothing unsaved goes without a question.
-#include "desk/Failure.h"
+#include "desk/project/Failure.h"
 #include "desk/window/Folders.h"
 #include "desk/window/MainWindow.h"
 

@@ -11,18 +11,21 @@ namespace {
 // All places of a project in reading order, for stepping and for the search: beams first, then walls.
 std::size_t OwnerCount(const Project& project) { return project.beams.size() + project.walls.size(); }
 
-Place OwnerAt(const Project& project, std::size_t number)
+FieldRef OwnerAt(const Project& project, std::size_t number)
 {
     const bool wall = number >= project.beams.size();
     return {wall, wall ? number - project.beams.size() : number, Field::Name};
 }
 
-std::size_t NumberOf(const Project& project, const Place& place)
+std::size_t NumberOf(const Project& project, const FieldRef& place)
 {
     return place.index + (place.isWall ? project.beams.size() : 0);
 }
 
-std::span<const Field> FieldsOf(const Place& place) { return place.isWall ? WallFields() : BeamFields(); }
+std::span<const Field> FieldsOf(const FieldRef& place)
+{
+    return place.isWall ? WallFields() : BeamFields();
+}
 
 // A place's number by steps around a circle.
 std::size_t Around(std::size_t from, int by, std::size_t count)
@@ -41,7 +44,7 @@ void MainWindow::StepField(int by)
     const std::span<const Field> fields = FieldsOf(*m_chosen);
     const auto now = std::find(fields.begin(), fields.end(), m_chosen->field);
     const std::size_t next = Around(static_cast<std::size_t>(now - fields.begin()), by, fields.size());
-    Choose(Place{m_chosen->isWall, m_chosen->index, fields[next]});
+    Choose(FieldRef{m_chosen->isWall, m_chosen->index, fields[next]});
 }
 
 // The same field of the next beam or wall, where it has one.
@@ -53,7 +56,7 @@ void MainWindow::StepOwner(int by)
         return;
     }
     const std::size_t from = m_chosen ? NumberOf(project, *m_chosen) : by > 0 ? count - 1 : 0;
-    Place next = OwnerAt(project, Around(from, by, count));
+    FieldRef next = OwnerAt(project, Around(from, by, count));
     if (m_chosen && m_chosen->isWall == next.isWall) {
         next.field = m_chosen->field;
     }
@@ -75,11 +78,11 @@ void MainWindow::Find(int by)
     if (wanted.isEmpty() || count == 0) {
         return;
     }
-    Place place = m_chosen.value_or(OwnerAt(project, by > 0 ? count - 1 : 0));
+    FieldRef place = m_chosen.value_or(OwnerAt(project, by > 0 ? count - 1 : 0));
     if (!m_chosen) {
         place.field = by > 0 ? FieldsOf(place).back() : FieldsOf(place).front();
     }
-    const Place start = place;
+    const FieldRef start = place;
     do {
         const std::span<const Field> fields = FieldsOf(place);
         const auto at = std::find(fields.begin(), fields.end(), place.field) - fields.begin() + by;

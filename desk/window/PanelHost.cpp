@@ -1,6 +1,6 @@
 #include "desk/window/PanelHost.h"
 
-#include "desk/Encoding.h"
+#include "desk/project/Encoding.h"
 #include "desk/window/PresentBars.h"
 
 namespace Desk {
@@ -30,9 +30,9 @@ PanelHost::PanelHost(QtDisplay& display, QObject* parent)
 
 PanelHost::~PanelHost() = default;
 
-bool PanelHost::HasPanel(const Place& place) { return !place.isWall || place.field != Field::Name; }
+bool PanelHost::HasPanel(const FieldRef& place) { return !place.isWall || place.field != Field::Name; }
 
-void PanelHost::Open(const Place& place, const QString& present, const QRect& field, QWidget* owner)
+void PanelHost::Open(const FieldRef& place, const QString& present, const QRect& field, QWidget* owner)
 {
     const std::optional<CString> text = GbkFromUtf8(present.toStdString());
     if (!HasPanel(place) || !text) {
@@ -56,7 +56,7 @@ void PanelHost::Close()
     }
 }
 
-std::optional<Place> PanelHost::Serving() const
+std::optional<FieldRef> PanelHost::Serving() const
 {
     return m_open != nullptr ? std::optional(m_place) : std::nullopt;
 }
@@ -76,7 +76,7 @@ Dialog& PanelHost::Make()
     return dialog;
 }
 
-CDialog& PanelHost::Prepare(const Place& place, const CString& present)
+CDialog& PanelHost::Prepare(const FieldRef& place, const CString& present)
 {
     if (place.isWall) {
         return place.field == Field::HorizontalBars ? Bound(m_horizontal) : Bound(m_vertical);

@@ -7,7 +7,7 @@
 #include <QtCore>
 
 #include "RankerModule.h"
-#include "desk/Place.h"
+#include "desk/project/FieldRef.h"
 #include "desk/shell/QtDisplay.h"
 
 class CHBarPropertySheet;
@@ -23,20 +23,20 @@ public:
     ~PanelHost() override;
 
     // A wall's name has none.
-    [[nodiscard]] static bool HasPanel(const Place& place);
+    [[nodiscard]] static bool HasPanel(const FieldRef& place);
 
     // Opens the panel for the place on its present text, beside a field on the screen. What it had not
     // confirmed for another place is given up, as by Esc.
-    void Open(const Place& place, const QString& present, const QRect& field, QWidget* owner);
+    void Open(const FieldRef& place, const QString& present, const QRect& field, QWidget* owner);
     // Hides an open panel; what it had not confirmed is given up.
     void Close();
     // The place that an open panel serves.
-    [[nodiscard]] std::optional<Place> Serving() const;
+    [[nodiscard]] std::optional<FieldRef> Serving() const;
     // The window of the open panel, null when none is open.
     [[nodiscard]] HWND Window() const;
 
 signals:
-    void Composed(const Desk::Place& place, const QString& text);
+    void Composed(const Desk::FieldRef& place, const QString& text);
 
 private:
     // The property item that panels and pickers hand their text to.
@@ -49,7 +49,7 @@ private:
         PanelHost& m_host;
     };
 
-    CDialog& Prepare(const Place& place, const CString& present);
+    CDialog& Prepare(const FieldRef& place, const CString& present);
     template <class Dialog>
     Dialog& Make();
     template <class Picker>
@@ -57,7 +57,7 @@ private:
 
     QtDisplay& m_display;
     Item m_item;
-    Place m_place;
+    FieldRef m_place;
     QString m_tail;  // of a wall's vertical bars, behind what the picker composes: "@200"
     HWND m_open = nullptr;
     std::unique_ptr<CDialog> m_panel;  // the one that was open last

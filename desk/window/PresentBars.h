@@ -2,7 +2,7 @@
 #pragma once
 
 #include "RankerModule.h"
-#include "desk/Place.h"
+#include "desk/project/FieldRef.h"
 
 namespace Desk {
 

@@ -44,17 +44,17 @@ PropertyGrid::PropertyGrid(QWidget* parent) : QTreeWidget(parent)
     header()->setSectionResizeMode(ButtonColumn, QHeaderView::ResizeToContents);
     header()->setMinimumSectionSize(20);
     connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) {
-        if (const std::optional<Place> place = PlaceOf(row); place && !m_isFilling) {
+        if (const std::optional<FieldRef> place = PlaceOf(row); place && !m_isFilling) {
             emit Picked(*place);
         }
     });
     connect(this, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* row) {
-        if (const std::optional<Place> place = PlaceOf(row)) {
+        if (const std::optional<FieldRef> place = PlaceOf(row)) {
             emit PanelAsked(*place);
         }
     });
     connect(this, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* row, int column) {
-        const std::optional<Place> place = PlaceOf(row);
+        const std::optional<FieldRef> place = PlaceOf(row);
         if (place && column == ValueColumn && !m_isFilling) {
             // Later, since the answer fills the grid anew under the editor's feet.
             m_edited = {*place, row->text(ValueColumn)};
@@ -63,7 +63,7 @@ PropertyGrid::PropertyGrid(QWidget* parent) : QTreeWidget(parent)
     });
 }
 
-void PropertyGrid::Show(const Project& project, const std::optional<Place>& place)
+void PropertyGrid::Show(const Project& project, const std::optional<FieldRef>& place)
 {
     const QScopedValueRollback filling(m_isFilling, true);
     const bool same = place && m_owner && place->isWall == m_owner->isWall &&
@@ -92,14 +92,14 @@ void PropertyGrid::Show(const Project& project, const std::optional<Place>& plac
         }
     } else {
         for (const Field field : place->isWall ? WallFields() : BeamFields()) {
-            const Place each{place->isWall, place->index, field};
+            const FieldRef each{place->isWall, place->index, field};
             RowOf(each)->setText(ValueColumn, QString::fromStdString(TextAt(project, each)));
         }
     }
     setCurrentItem(RowOf(*place), ValueColumn);
 }
 
-QRect PropertyGrid::OnScreen(const Place& place) const
+QRect PropertyGrid::OnScreen(const FieldRef& place) const
 {
     const QTreeWidgetItem* const row = RowOf(place);
     if (row == nullptr) {
@@ -134,7 +134,7 @@ void PropertyGrid::TellEdited()
     }
 }
 
-void PropertyGrid::AddText(const Project& project, const Place& place)
+void PropertyGrid::AddText(const Project& project, const FieldRef& place)
 {
     auto* const row =
         new QTreeWidgetItem(this, {FieldName(place.field), QString::fromStdString(TextAt(project, place))});
@@ -151,7 +151,7 @@ void PropertyGrid::AddText(const Project& project, const Place& place)
     open->setToolTip(tr("Opens the panel that composes the text by mouse"));
     connect(open, &QToolButton::clicked, this, [this, row] {
         setCurrentItem(row, ValueColumn);
-        if (const std::optional<Place> asked = PlaceOf(row)) {
+        if (const std::optional<FieldRef> asked = PlaceOf(row)) {
             emit PanelAsked(*asked);
         }
     });
@@ -167,22 +167,22 @@ void PropertyGrid::AddFixed(const QString& caption, const QString& value)
     }
 }
 
-std::optional<Place> PropertyGrid::PlaceOf(const QTreeWidgetItem* row) const
+std::optional<FieldRef> PropertyGrid::PlaceOf(const QTreeWidgetItem* row) const
 {
     if (row == nullptr || !m_owner || !row->data(CaptionColumn, FieldRole).isValid()) {
         return std::nullopt;
     }
-    return Place{m_owner->isWall, m_owner->index,
-                 static_cast<Field>(row->data(CaptionColumn, FieldRole).toInt())};
+    return FieldRef{m_owner->isWall, m_owner->index,
+                    static_cast<Field>(row->data(CaptionColumn, FieldRole).toInt())};
 }
 
-QTreeWidgetItem* PropertyGrid::RowOf(const Place& place) const
+QTreeWidgetItem* PropertyGrid::RowOf(const FieldRef& place) const
 {
     if (!m_owner || place.isWall != m_owner->isWall || place.index != m_owner->index) {
         return nullptr;
     }
     for (int i = 0; i < topLevelItemCount(); ++i) {
-        const std::optional<Place> each = PlaceOf(topLevelItem(i));
+        const std::optional<FieldRef> each = PlaceOf(topLevelItem(i));
         if (each && each->field == place.field) {
             return topLevelItem(i);
         }

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "desk/Failure.h"
-#include "desk/ProjectFile.h"
+#include "desk/project/Failure.h"
+#include "desk/project/ProjectFile.h"
 
 namespace Desk {
 

@@ -5,7 +5,7 @@
 
 #include <QtCore>
 
-#include "desk/Project.h"
+#include "desk/project/Project.h"
 
 namespace Desk {
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "desk/Encoding.h"
+#include "desk/project/Encoding.h"
 #include "desk/window/MainWindow.h"
 
 namespace Desk {
@@ -74,7 +74,7 @@ QJsonArray Annotations(MainWindow& window)
     FloorView& drawing = window.Drawing();
     const Project& project = window.TheDocument().Get();
     const QRect view = OnScreen(*drawing.viewport());
-    const auto tell = [&](const Place& place) {
+    const auto tell = [&](const FieldRef& place) {
         const QRect rect = drawing.OnScreen(place);
         const std::string& text = TextAt(project, place);
         if (!text.empty() && view.contains(rect.center())) {
@@ -143,7 +143,7 @@ QJsonObject ScreenReport(MainWindow& window)
                      {"annotations", Annotations(window)},
                      {"panel", PanelControls(window.Display(), window.Panels().Window())},
                      {"panelZoom", window.Display().Zoom()}};
-    if (const std::optional<Place>& place = window.Chosen()) {
+    if (const std::optional<FieldRef>& place = window.Chosen()) {
         told["chosen"] = QJsonObject{{"wall", place->isWall},
                                      {"index", static_cast<qint64>(place->index)},
                                      {"field", static_cast<int>(place->field)}};

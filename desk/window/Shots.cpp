@@ -2,8 +2,7 @@
 
 #include <iostream>
 
-#include "desk/Failure.h"
-#include "desk/Options.h"
+#include "desk/project/Failure.h"
 #include "desk/window/MainWindow.h"
 
 namespace Desk {
@@ -45,11 +44,11 @@ QPixmap WithPanel(QWidget& window, QWidget& panel)
 }
 
 // The first place of that field with a text, or else the first one.
-Place PlaceFor(const Project& project, const PanelShot& shot)
+FieldRef PlaceFor(const Project& project, const PanelShot& shot)
 {
     const std::size_t count = shot.wall ? project.walls.size() : project.beams.size();
     for (std::size_t i = 0; i < count; ++i) {
-        if (const Place place{shot.wall, i, shot.field}; !TextAt(project, place).empty()) {
+        if (const FieldRef place{shot.wall, i, shot.field}; !TextAt(project, place).empty()) {
             return place;
         }
     }
@@ -60,7 +59,7 @@ void ShootPanels(MainWindow& window, const QDir& folder)
 {
     const Project& project = window.TheDocument().Get();
     for (const PanelShot& shot : PanelShots) {
-        const Place place = PlaceFor(project, shot);
+        const FieldRef place = PlaceFor(project, shot);
         if (!Exists(project, place)) {
             continue;
         }

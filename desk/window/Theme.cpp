@@ -1,5 +1,5 @@
 #include "desk/window/Theme.h"
-#include "desk/shell/Toolkit.h"
+#include "desk/Toolkit.h"
 
 namespace Desk {
 

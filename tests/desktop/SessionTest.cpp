@@ -14,8 +14,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "desk/Place.h"
-#include "desk/ProjectFile.h"
+#include "desk/project/FieldRef.h"
+#include "desk/project/ProjectFile.h"
 
 namespace {
 
@@ -137,7 +137,7 @@ protected:
     void Keys(const std::string& keys) { Shell("xdotool key --delay 60 " + keys); }
 
     // Presses an annotation in the drawing.
-    void Choose(const Place& place)
+    void Choose(const FieldRef& place)
     {
         const auto isWanted = [&](const json& each) {
             return each["wall"] == place.isWall && each["index"] == place.index &&
@@ -204,7 +204,7 @@ protected:
         }
         FAIL() << "no button " << button;
     }
-    [[nodiscard]] std::string Saved(const Place& place) const { return TextAt(ReadProject(m_file), place); }
+    [[nodiscard]] std::string Saved(const FieldRef& place) const { return TextAt(ReadProject(m_file), place); }
 
     std::string m_folder;
     std::string m_file;
@@ -213,8 +213,8 @@ protected:
     double m_scale = 1.0;
 };
 
-constexpr Place Top{false, 0, Field::TopBars};
-constexpr Place End{false, 0, Field::LeftEnd};
+constexpr FieldRef Top{false, 0, Field::TopBars};
+constexpr FieldRef End{false, 0, Field::LeftEnd};
 
 TEST_F(Session, ChoosesComposesSetsAWallSavesAndReloads)
 {
@@ -228,7 +228,7 @@ TEST_F(Session, ChoosesComposesSetsAWallSavesAndReloads)
     PanelRow("1340", "22");
     ConfirmPanel("1340");
     // The wall whose bars show nearest to the sheet's edge.
-    Place wall{true, 0, Field::HorizontalBars};
+    FieldRef wall{true, 0, Field::HorizontalBars};
     const json shown = Settled();
     for (const json& each : shown["annotations"]) {
         if (each["wall"] == true && each["field"] == static_cast<int>(Field::HorizontalBars)) {

@@ -9,7 +9,7 @@
 #include "host/StirrupText.h"
 #include "panels/NameText.h"
 #include "panels/SectionText.h"
-#include "platform/WindowRecord.h"
+#include "platform/windows/WindowRecord.h"
 #include "tests/panels/Panels.h"
 
 namespace {

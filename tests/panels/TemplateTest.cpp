@@ -3,7 +3,7 @@
 
 #include <set>
 
-#include "platform/WindowRecord.h"
+#include "platform/windows/WindowRecord.h"
 #include "tests/panels/Panels.h"
 
 namespace {

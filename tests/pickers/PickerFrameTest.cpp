@@ -1,5 +1,5 @@
 // What both pickers share: binding, one delivery, Esc, and a host that pulls the rug away.
-#include "platform/WindowRecord.h"
+#include "platform/windows/WindowRecord.h"
 #include "tests/pickers/Pickers.h"
 
 namespace {

@@ -3,16 +3,16 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/ProjectFile.h"
 #include "desk/plan/FloorView.h"
+#include "desk/project/ProjectFile.h"
 
 namespace {
 
 using namespace Desk;
 
-std::vector<Place> AllPlaces(const Project& project)
+std::vector<FieldRef> AllPlaces(const Project& project)
 {
-    std::vector<Place> places;
+    std::vector<FieldRef> places;
     for (const bool wall : {false, true}) {
         for (std::size_t i = 0; i < (wall ? project.walls.size() : project.beams.size()); ++i) {
             for (const Field field : wall ? WallFields() : BeamFields()) {
@@ -31,17 +31,17 @@ struct View : FloorView {
         resize(1200, 800);
         SetProject(&project);
         show();
-        connect(this, &FloorView::Picked, [this](const Place& place) { picked.push_back(place); });
+        connect(this, &FloorView::Picked, [this](const FieldRef& place) { picked.push_back(place); });
         connect(this, &FloorView::NothingPicked, [this] { ++nothing; });
-        connect(this, &FloorView::PanelAsked, [this](const Place& place) { panel = place; });
+        connect(this, &FloorView::PanelAsked, [this](const FieldRef& place) { panel = place; });
     }
-    [[nodiscard]] QPoint Middle(const Place& place) const
+    [[nodiscard]] QPoint Middle(const FieldRef& place) const
     {
         return viewport()->mapFromGlobal(OnScreen(place).center());
     }
-    std::vector<Place> picked;
+    std::vector<FieldRef> picked;
     int nothing = 0;
-    std::optional<Place> panel;
+    std::optional<FieldRef> panel;
 };
 
 TEST(FloorView, APressOnEachAnnotationOfTheSamplePicksIt)
@@ -53,7 +53,7 @@ TEST(FloorView, APressOnEachAnnotationOfTheSamplePicksIt)
     for (const double zoom : {1.0, 3.0}) {
         view.Fit();
         view.ZoomBy(zoom);
-        for (const Place& place : AllPlaces(project)) {
+        for (const FieldRef& place : AllPlaces(project)) {
             view.SetChosen(place);
             view.picked.clear();
             QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.Middle(place));
@@ -62,7 +62,7 @@ TEST(FloorView, APressOnEachAnnotationOfTheSamplePicksIt)
         }
     }
     EXPECT_LE(others, 2 * static_cast<int>(AllPlaces(project).size()) / 50) << "covered by another text";
-    const Place place{false, 3, Field::Section};
+    const FieldRef place{false, 3, Field::Section};
     view.SetChosen(place);
     QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, view.Middle(place));
     EXPECT_EQ(view.panel, place);
@@ -72,7 +72,7 @@ TEST(FloorView, BareGroundPansOrPicksNothing)
 {
     const Project project = SampleProject();
     View view(project);
-    const Place place{false, 0, Field::Name};
+    const FieldRef place{false, 0, Field::Name};
     const QPoint before = view.Middle(place);
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, QPoint(5, 5));
     EXPECT_EQ(view.nothing, 1);
@@ -89,10 +89,10 @@ TEST(FloorView, TextsThatAreTooSmallToBeDrawnArePickedByNobody)
     const Project project = SampleProject();
     View view(project);
     view.ZoomBy(0.4);
-    for (const Place& place : AllPlaces(project)) {
+    for (const FieldRef& place : AllPlaces(project)) {
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.Middle(place));
     }
-    for (const Place& picked : view.picked) {
+    for (const FieldRef& picked : view.picked) {
         EXPECT_EQ(picked.field, Field::Name) << "a beam itself";
     }
     EXPECT_GT(view.nothing, 0);
@@ -103,7 +103,7 @@ TEST(FloorView, ArrowKeysMoveTheFloorAndOtherKeysAreTheWindows)
     const Project project = SampleProject();
     View view(project);
     view.ZoomBy(4.0);
-    const Place place{false, 0, Field::Name};
+    const FieldRef place{false, 0, Field::Name};
     const QPoint before = view.Middle(place);
     QTest::keyClick(&view, Qt::Key_Right);
     QTest::keyClick(&view, Qt::Key_Down);
@@ -122,7 +122,7 @@ TEST(FloorView, ZoomsAboutTheChosenAnnotation)
 {
     const Project project = SampleProject();
     View view(project);
-    const Place chosen{false, 20, Field::Name};
+    const FieldRef chosen{false, 20, Field::Name};
     view.SetChosen(chosen);
     const QPoint before = view.Middle(chosen);
     view.ZoomBy(3.0);
@@ -135,7 +135,7 @@ TEST(FloorView, RefreshMovesNoOtherText)
     View view(project);
     const auto boxes = [&](std::size_t except) {
         std::vector<QRect> rects;
-        for (const Place& place : AllPlaces(project)) {
+        for (const FieldRef& place : AllPlaces(project)) {
             if (place.isWall || place.index != except) {
                 rects.push_back(view.OnScreen(place));
             }

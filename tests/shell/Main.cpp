@@ -1,7 +1,7 @@
 // The application that all tests of a program share.
 #include <gtest/gtest.h>
 
-#include "desk/shell/Toolkit.h"
+#include "desk/Toolkit.h"
 
 int main(int argc, char** argv)
 {

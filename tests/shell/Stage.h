@@ -10,7 +10,7 @@
 
 #include <QtTest/QtTest>
 
-#include "desk/Encoding.h"
+#include "desk/project/Encoding.h"
 #include "desk/shell/PopUp.h"
 #include "desk/shell/QtDisplay.h"
 #include "tests/support/Hands.h"

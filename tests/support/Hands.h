@@ -1,8 +1,8 @@
 // Hands: a user's mouse and keyboard, which reach the windows through the host loop's events alone.
 #pragma once
 
-#include "platform/CListBox.h"
-#include "platform/Events.h"
+#include "platform/windows/CListBox.h"
+#include "platform/windows/Events.h"
 
 // Positions are screen pixels. A mouse event goes to the window that shows there; a release goes to
 // the window that got the press, as toolkits do, so that a drag may end anywhere. A key goes to the

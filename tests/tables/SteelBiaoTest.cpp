@@ -6,7 +6,7 @@
 #include <set>
 #include <utility>
 
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "tests/support/Texts.h"
 
 namespace {

@@ -1,15 +1,15 @@
 // The document: changes taken back, files, and what a broken-off session leaves.
 #include <gtest/gtest.h>
 
-#include "desk/Failure.h"
-#include "desk/ProjectFile.h"
+#include "desk/project/Failure.h"
+#include "desk/project/ProjectFile.h"
 #include "desk/window/Document.h"
 
 namespace {
 
 using namespace Desk;
 
-constexpr Place Section{false, 0, Field::Section};
+constexpr FieldRef Section{false, 0, Field::Section};
 
 class DocumentTest : public testing::Test {
 protected:
@@ -24,8 +24,9 @@ TEST_F(DocumentTest, EveryChangeGoesBackAndForth)
     Document document{QString()};
     document.OpenSample();
     const std::string first = document.Get().beams[0].section;
-    std::vector<Place> told;
-    QObject::connect(&document, &Document::TextChanged, [&](const Place& place) { told.push_back(place); });
+    std::vector<FieldRef> told;
+    QObject::connect(&document, &Document::TextChanged,
+                     [&](const FieldRef& place) { told.push_back(place); });
     for (int i = 0; i < 500; ++i) {
         EXPECT_TRUE(document.SetText(Section, QString::number(i) + "x600").isEmpty());
     }

@@ -29,10 +29,10 @@ protected:
     {
         return *window.findChild<Widget*>(name);
     }
-    std::string Text(const Place& place) { return TextAt(window.TheDocument().Get(), place); }
+    std::string Text(const FieldRef& place) { return TextAt(window.TheDocument().Get(), place); }
     void Trigger(const char* action) { Find<QAction>(action).trigger(); }
     // Presses an annotation in the drawing.
-    void Press(const Place& place)
+    void Press(const FieldRef& place)
     {
         FloorView& drawing = window.Drawing();
         drawing.SetChosen(place);  // brings it into view
@@ -82,7 +82,7 @@ protected:
     MainWindow window{display};
 };
 
-constexpr Place Bars{false, 0, Field::TopBars};
+constexpr FieldRef Bars{false, 0, Field::TopBars};
 
 TEST_F(MainWindowTest, AClickOnACandidateTakesItAndUndoTakesItBack)
 {
@@ -92,7 +92,7 @@ TEST_F(MainWindowTest, AClickOnACandidateTakesItAndUndoTakesItBack)
     ClickOffer("2B25");
     EXPECT_EQ(Text(Bars), "2B25");
     EXPECT_TRUE(window.isWindowModified());
-    window.Choose(Place{false, 0, Field::Section});
+    window.Choose(FieldRef{false, 0, Field::Section});
     Trigger("undo");
     EXPECT_EQ(window.Chosen(), Bars) << "undo goes where it changes something";
     EXPECT_EQ(Text(Bars), "2B20");
@@ -138,7 +138,7 @@ TEST_F(MainWindowTest, TypingNarrowsAndEnterTakes)
 
 TEST_F(MainWindowTest, ATextTypedInFullIsTakenBeforeOneThatBeginsWithIt)
 {
-    const Place section{false, 0, Field::Section};
+    const FieldRef section{false, 0, Field::Section};
     window.Choose(section);
     ASSERT_TRUE(Offer().contains("300x500") && Offer().contains("300x500/350"));
     auto& typed = Find<QLineEdit>("typed");
@@ -149,7 +149,7 @@ TEST_F(MainWindowTest, ATextTypedInFullIsTakenBeforeOneThatBeginsWithIt)
 
 TEST_F(MainWindowTest, FreeNamesAreToldApartAndEnterAloneRenamesNothing)
 {
-    const Place name{false, 0, Field::Name};
+    const FieldRef name{false, 0, Field::Name};
     window.Choose(name);
     EXPECT_EQ(Offer().first(), "[Free names of the project's kinds]");
     auto& typed = Find<QLineEdit>("typed");
@@ -169,16 +169,16 @@ TEST_F(MainWindowTest, TableRowsComeOnRequest)
     QTest::mouseClick(&Find<QCheckBox>("table"), Qt::LeftButton, {}, QPoint(8, 8));
     EXPECT_TRUE(Find<QCheckBox>("table").isChecked());
     EXPECT_GE(Offer().size(), without);
-    window.Choose(Place{false, 0, Field::Side});
+    window.Choose(FieldRef{false, 0, Field::Side});
     EXPECT_TRUE(Offer().contains("G4B12"));
-    window.Choose(Place{false, 0, Field::Torsion});
+    window.Choose(FieldRef{false, 0, Field::Torsion});
     EXPECT_TRUE(Offer().contains("N4B14"));
 }
 
 TEST_F(MainWindowTest, ThePanelOpensOnThePresentTextAndTheRightButtonTakes)
 {
     constexpr int Count = 1338, Diameter = 1340, Separate = 1345, Pieces = 1346;
-    const Place end{false, 1, Field::LeftEnd};  // 2B25+2B22
+    const FieldRef end{false, 1, Field::LeftEnd};  // 2B25+2B22
     Press(end);
     QTest::keyClick(&window, Qt::Key_F4);
     ASSERT_EQ(window.Panels().Serving(), end);
@@ -209,7 +209,7 @@ TEST_F(MainWindowTest, EachPanelReadsItsAnnotation)
     const Project& project = window.TheDocument().Get();
     for (const Field field : BeamFields()) {
         for (std::size_t i = 0; i < project.beams.size(); i += 7) {
-            const Place place{false, i, field};
+            const FieldRef place{false, i, field};
             const std::string text = Text(place);
             const bool tapers = field == Field::Section && text.find('/') != std::string::npos;
             if (text.empty() || tapers) {  // the section panel knows no taper
@@ -225,7 +225,7 @@ TEST_F(MainWindowTest, EachPanelReadsItsAnnotation)
     }
     for (std::size_t i = 0; i < project.walls.size(); ++i) {
         for (const Field field : {Field::HorizontalBars, Field::VerticalBars}) {
-            const Place place{true, i, field};
+            const FieldRef place{true, i, field};
             const std::string text = Text(place);
             window.Choose(place);
             window.OpenPanel();
@@ -244,7 +244,7 @@ TEST_F(MainWindowTest, EachPanelReadsItsAnnotation)
 
 TEST_F(MainWindowTest, AWallsBarsAreSetByThePickers)
 {
-    const Place wall{true, 0, Field::HorizontalBars};
+    const FieldRef wall{true, 0, Field::HorizontalBars};
     Press(wall);
     window.OpenPanel();
     ClickRow(1308, "A");
@@ -255,7 +255,7 @@ TEST_F(MainWindowTest, AWallsBarsAreSetByThePickers)
     EXPECT_EQ(Text(wall), "A10@100/200");
     auto& grid = Find<QTreeWidget>("properties");
     QTest::mouseClick(grid.findChild<QToolButton*>("open-12"), Qt::LeftButton);
-    ASSERT_EQ(window.Panels().Serving(), (Place{true, 0, Field::VerticalBars}));
+    ASSERT_EQ(window.Panels().Serving(), (FieldRef{true, 0, Field::VerticalBars}));
     ClickRow(1306, "C");
     ClickRow(1307, "16");
     QTest::mouseClick(&Control(1377), Qt::RightButton);
@@ -277,7 +277,7 @@ TEST_F(MainWindowTest, PropertiesAreEditedInPlace)
 // Whatever comes next takes the text that stands in the editor: saving, leaving, the panel.
 TEST_F(MainWindowTest, WhatStandsInAnEditorCounts)
 {
-    const Place section{false, 2, Field::Section};
+    const FieldRef section{false, 2, Field::Section};
     const auto type = [&](const char* text) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // of the editor before
         window.Choose(section);
@@ -330,7 +330,7 @@ TEST_F(MainWindowTest, ACompletedNameIsSearchedForOnce)
     emit search.completer()->activated(QStringLiteral("2B"));
     emit search.returnPressed();
     QCoreApplication::processEvents();
-    const Place first = *window.Chosen();
+    const FieldRef first = *window.Chosen();
     Trigger("findPrevious");
     Trigger("findNext");
     EXPECT_EQ(window.Chosen(), first);
@@ -342,9 +342,9 @@ TEST_F(MainWindowTest, KeysGoFromAnnotationToAnnotationAndTheSearchFinds)
 {
     window.Choose(Bars);
     Trigger("nextField");
-    EXPECT_EQ(window.Chosen(), (Place{false, 0, Field::BottomBars}));
+    EXPECT_EQ(window.Chosen(), (FieldRef{false, 0, Field::BottomBars}));
     Trigger("nextOwner");
-    EXPECT_EQ(window.Chosen(), (Place{false, 1, Field::BottomBars}));
+    EXPECT_EQ(window.Chosen(), (FieldRef{false, 1, Field::BottomBars}));
     Trigger("previousOwner");
     Trigger("previousOwner");
     EXPECT_TRUE(window.Chosen()->isWall) << "around the circle";
@@ -361,7 +361,7 @@ TEST_F(MainWindowTest, KeysGoFromAnnotationToAnnotationAndTheSearchFinds)
         wanted += beam.name.find("WKL") != std::string::npos ? 1U : 0U;
     }
     EXPECT_EQ(found.size(), wanted);
-    const Place last = *window.Chosen();
+    const FieldRef last = *window.Chosen();
     Trigger("findNext");
     Trigger("findPrevious");
     EXPECT_EQ(window.Chosen(), last);
@@ -402,9 +402,9 @@ TEST_F(MainWindowTest, EveryTextOfTheWindowIsThereInChinese)
     window.SetLanguage(Language::Chinese);
     const ChineseTexts& texts = *ApplyLanguage(Language::Chinese);
     for (const Field field : BeamFields()) {
-        window.Choose(Place{false, 1, field});
+        window.Choose(FieldRef{false, 1, field});
     }
-    window.Choose(Place{true, 0, Field::VerticalBars});
+    window.Choose(FieldRef{true, 0, Field::VerticalBars});
     Beam beam;
     SectionSketch sketch;
     for (const char* const section : {"", "x", "300x600"}) {

@@ -1,0 +1,23 @@
+// The commands of beamdesk. Each function adds one command to the program; what the command prints goes
+// to out, and a failure is thrown as Desk::Failure.
+#pragma once
+
+#include <iosfwd>
+
+namespace CLI {
+class App;
+}
+
+namespace Desk {
+
+void AddRankCommand(CLI::App& program, std::ostream& out);
+void AddTableCommand(CLI::App& program, std::ostream& out);
+void AddImportCommand(CLI::App& program, std::ostream& out);
+void AddHitrateCommand(CLI::App& program, std::ostream& out);
+void AddPanelCommand(CLI::App& program, std::ostream& out);
+void AddEventsCommand(CLI::App& program, std::ostream& out);
+void AddGenerateCommand(CLI::App& program, std::ostream& out);
+void AddWindowCommand(CLI::App& program);
+void AddShotCommand(CLI::App& program);
+
+}  // namespace Desk

@@ -1,0 +1,119 @@
+// beamdesk import: its options, and the order in which faults are found.
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "desk/console/Commands.h"
+#include "desk/console/ImportReport.h"
+#include "desk/console/Options.h"
+#include "desk/project/Encoding.h"
+#include "desk/project/Failure.h"
+#include "desk/project/ProjectFile.h"
+#include "desk/reading/ImportTexts.h"
+
+namespace Desk {
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace Import;
+
+struct Options {
+    std::string texts;
+    std::string project;
+    std::string encoding = "utf-8";
+    std::string grade;
+    int legs = Choices().legs;
+    bool force = false;
+    bool all = false;
+};
+
+// Faults of the target that can be found before any work is done.
+void CheckTarget(const Options& options)
+{
+    const fs::path target = options.project;
+    std::error_code error;
+    if (fs::equivalent(options.texts, target, error)) {
+        throw Failure(options.project + ": the project would take the place of the texts");
+    }
+    if (fs::is_directory(target, error)) {
+        throw Failure(options.project + ": a folder; -o takes the project's file");
+    }
+    if (fs::exists(target, error) && !options.force) {
+        throw Failure(options.project + ": stands there already; --force writes over it");
+    }
+}
+
+// The name of the texts' file, where a project can hold it.
+std::string TitleFor(const fs::path& texts)
+{
+    const std::string title = texts.stem().string();
+    const auto isControl = [](char ch) { return static_cast<unsigned char>(ch) < 0x20 || ch == 0x7F; };
+    const bool isShowable = GbkFromUtf8(title) && std::none_of(title.begin(), title.end(), isControl);
+    return isShowable ? title : "import";
+}
+
+void Run(const Options& options, std::ostream& out)
+{
+    Choices choices;
+    if (!options.grade.empty()) {
+        choices.barGrade = options.grade.front();
+        choices.stirrupGrade = options.grade.front();
+    }
+    choices.legs = options.legs;
+    CheckTarget(options);
+    const TextsFile file =
+        ReadTextsFile(options.texts, options.encoding == "gbk" ? Encoding::Gbk : Encoding::Utf8);
+    const std::vector<ImportedText> texts = ReadTexts(file, choices);
+    PrintReport(out, options.texts, file, texts, choices, options.all);
+    const Project project = ProjectOf(texts, TitleFor(options.texts));
+    if (project.beams.empty() && project.walls.empty()) {
+        out.flush();
+        throw Failure(options.texts + ": holds no annotation that could be read; no project is written");
+    }
+    SaveProject(project, options.project);
+    out << "\nwritten to " << options.project << ": " << Plural(project.beams.size(), "beam") << ", "
+        << Plural(project.walls.size(), "wall") << "\n";
+}
+
+}  // namespace
+
+void AddImportCommand(CLI::App& program, std::ostream& out)
+{
+    CLI::App* const command = program.add_subcommand(
+        "import", "Make a project out of annotation texts as drawings hold them, one a line");
+    const auto options = std::make_shared<Options>();
+    command->add_option("TEXTS", options->texts, "The file of texts")->required()->option_text("FILE");
+    command->add_option("-o,--output", options->project, "Project file to write; needed")
+        ->required()
+        ->type_name("FILE");
+    command->add_option("--encoding", options->encoding, "Encoding of the texts; utf-8 without it")
+        ->type_name("NAME")
+        ->check(CLI::IsMember({"utf-8", "gbk"}));
+    command
+        ->add_option("--grade", options->grade,
+                     "Grade, A to D, for signs that do not say it; without it B for bars and A for\n"
+                     "stirrups and wall bars, as in the module's own tables")
+        ->type_name("LETTER")
+        ->check(CLI::IsMember({"A", "B", "C", "D"}));
+    command
+        ->add_option("--legs", options->legs,
+                     "Legs of stirrups that are written without; 0 leaves those unread. 2 without it")
+        ->type_name("N")
+        ->check(Whole(0, 9));
+    command->add_flag("--force", options->force, "Write over a project that stands there already");
+    command->add_flag("--all", options->all, "List every text with what became of it");
+    command->footer(
+        "The file holds one text a line: plain lines, or lines of kind, tab and text under the\n"
+        "heading \"kind<TAB>text\". Every text that is not read is listed with its line.\n\n"
+        "Examples:\n  beamdesk import drawing.txt -o drawing.json\n"
+        "  beamdesk import drawing.txt -o drawing.json --encoding gbk --grade C --force");
+    command->callback([options, &out] { Run(*options, out); });
+}
+
+}  // namespace Desk

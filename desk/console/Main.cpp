@@ -1,0 +1,151 @@
+// beamdesk: a small drafting host on the command line.
+#include <algorithm>
+#include <exception>
+#include <iostream>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+#include "desk/console/Commands.h"
+#include "desk/console/Options.h"
+#include "desk/console/Tour.h"
+#include "desk/project/Failure.h"
+#include "desk/window/Window.h"
+
+namespace {
+
+constexpr int WrongUse = 2;  // wrong usage, and every failure that a person is told about
+
+// The command that was in work when the command line went wrong.
+const CLI::App& Deepest(const CLI::App& program)
+{
+    const CLI::App* command = &program;
+    while (!command->get_subcommands().empty()) {
+        command = command->get_subcommands().front();
+    }
+    return *command;
+}
+
+std::string FullName(const CLI::App& command)
+{
+    const CLI::App* const parent = command.get_parent();
+    return parent == nullptr ? command.get_name() : FullName(*parent) + " " + command.get_name();
+}
+
+// The commands that a command can go on with, empty for none.
+std::string Forms(const CLI::App& command)
+{
+    std::string forms;
+    for (const CLI::App* const form : command.get_subcommands([](const CLI::App*) { return true; })) {
+        forms += (forms.empty() ? "" : ", ") + form->get_name();
+    }
+    return forms;
+}
+
+// The parser's message in plain words, where it has better ones than its own.
+std::string PlainMessage(const CLI::App& program, const CLI::App& command, const CLI::ParseError& error)
+{
+    const auto code = static_cast<CLI::ExitCodes>(error.get_exit_code());
+    const std::vector<std::string> rest = program.remaining(true);
+    const bool needsForm = code == CLI::ExitCodes::RequiredError && !Forms(command).empty();
+    if (!rest.empty() && (needsForm || code == CLI::ExitCodes::ExtrasError)) {
+        const auto option = std::find_if(rest.begin(), rest.end(),
+                                         [](const std::string& word) { return word.starts_with('-'); });
+        return option != rest.end() ? "there is no option " + *option
+                                    : "nothing is known of \"" + rest.front() + "\"";
+    }
+    if (needsForm) {
+        return "one word more is needed";
+    }
+    const std::string what = error.what();
+    if (code == CLI::ExitCodes::ArgumentMismatch) {
+        return what.substr(0, what.find(':')) +
+               (what.ends_with("missing") ? " needs a value" : " is given more than once");
+    }
+    return what;
+}
+
+// What is wrong, and how it is right: the commands there are, and an example.
+void ExplainWrongUse(const CLI::App& program, const CLI::ParseError& error, std::ostream& err)
+{
+    const CLI::App& command = Deepest(program);
+    const std::string name = FullName(command);
+    err << name << ": " << PlainMessage(program, command, error) << '\n';
+    const std::string forms = Forms(command);
+    if (!forms.empty()) {
+        err << "  it goes on with one of: " << forms << '\n';
+    }
+    const std::string footer = command.get_footer();
+    if (const std::size_t example = footer.find("  beamdesk "); example != std::string::npos) {
+        err << "  for example: " << footer.substr(example + 2, footer.find('\n', example) - example - 2)
+            << '\n';
+    }
+    err << "  more: " << name << " --help\n";
+}
+
+int RunDesk(int argc, char** argv)
+{
+    CLI::App program(
+        "The annotations of reinforced-concrete beams and walls, picked instead of typed: in a window, or "
+        "ranked on the command line by what a project already holds.",
+        "beamdesk");
+    std::string project;
+    std::string beam;
+    program.set_version_flag("--version", "beamdesk " BEAMDESK_VERSION);
+    program.set_help_all_flag("--help-all", "Print the help of all commands and exit");
+    program.require_subcommand(0, 1);
+    program.footer("Without a command: the tour.\n\nExamples:\n"
+                   "  beamdesk\n"
+                   "  beamdesk window\n"
+                   "  beamdesk rank bars --kind 1 --width 300 --area 1000 --table\n"
+                   "  beamdesk rank name --project tower.json\n"
+                   "  beamdesk table bars --width 300 --area 1000\n\n"
+                   "Exit status: 0 when it is done, 2 for wrong usage and every failure.");
+
+    CLI::App& tour = *program.add_subcommand("tour", "One beam and the candidates for its annotations");
+    Desk::AddProjectOption(tour, project);
+    tour.add_option("--beam", beam, "The beam; without it the one with the most annotations")
+        ->type_name("NAME");
+    tour.footer("Examples:\n  beamdesk tour\n  beamdesk tour --beam KL6");
+    Desk::AddRankCommand(program, std::cout);
+    Desk::AddTableCommand(program, std::cout);
+    Desk::AddImportCommand(program, std::cout);
+    Desk::AddHitrateCommand(program, std::cout);
+    Desk::AddPanelCommand(program, std::cout);
+    Desk::AddEventsCommand(program, std::cout);
+    Desk::AddGenerateCommand(program, std::cout);
+    Desk::AddWindowCommand(program);
+    Desk::AddShotCommand(program);
+
+    try {
+        program.parse(argc, argv);
+        if (program.get_subcommands().empty() || tour.parsed()) {
+            Desk::PrintTour(project, beam, std::cout);
+        }
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
+            program.exit(error);  // help or version
+        } else {
+            ExplainWrongUse(program, error, std::cerr);
+            return WrongUse;
+        }
+    }
+    if (!std::cout.flush()) {
+        throw Desk::Failure("the output could not be written");
+    }
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        return RunDesk(argc, argv);
+    } catch (const Desk::Failure& failure) {
+        std::cerr << failure.what() << '\n';
+    } catch (const std::exception& failure) {
+        std::cerr << "beamdesk: " << failure.what() << '\n';
+    }
+    return WrongUse;
+}

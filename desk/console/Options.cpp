@@ -1,0 +1,30 @@
+// Shared options.
+#include "desk/console/Options.h"
+
+#include <charconv>
+
+#include <CLI/CLI.hpp>
+
+namespace Desk {
+
+void AddProjectOption(CLI::App& command, std::string& file)
+{
+    command.add_option("--project", file, "Project file to work on; without it the embedded sample")
+        ->type_name("FILE")
+        ->check([](const std::string& name) { return std::string(name.empty() ? "no file name" : ""); });
+}
+
+CLI::Validator Whole(int least, int most)
+{
+    const std::string range = std::to_string(least) + " to " + std::to_string(most);
+    const auto check = [least, most, range](const std::string& text) {
+        int number = 0;
+        const char* const end = text.data() + text.size();
+        const auto [stop, error] = std::from_chars(text.data(), end, number);
+        const bool good = error == std::errc() && stop == end && number >= least && number <= most;
+        return good ? std::string() : "a whole number from " + range + " is wanted, not \"" + text + "\"";
+    };
+    return CLI::Validator(check, "");
+}
+
+}  // namespace Desk

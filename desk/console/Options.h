@@ -1,0 +1,18 @@
+// What several commands of beamdesk share: the project option, checked numbers.
+#pragma once
+
+#include <string>
+
+namespace CLI {
+class App;
+class Validator;
+}  // namespace CLI
+
+namespace Desk {
+
+void AddProjectOption(CLI::App& command, std::string& file);
+
+// Lets only a whole number inside the range through and says so otherwise.
+[[nodiscard]] CLI::Validator Whole(int least, int most);
+
+}  // namespace Desk

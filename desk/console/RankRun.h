@@ -1,0 +1,61 @@
+// One run of a ranker as the rank command was asked for it.
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+#include "desk/console/RankingPrint.h"
+#include "desk/project/Project.h"
+#include "desk/ranking/Tables.h"
+
+namespace Desk {
+
+// What the five forms of the command take, each a part of it.
+struct RankOptions {
+    std::string project;
+    std::string beam;
+    bool json = false;
+    bool table = false;
+    std::optional<int> limit;
+    int projectKind = 2;
+    std::optional<std::string> kind;
+    std::optional<std::string> top;  // through bars, in place of a kind
+    std::optional<int> width;
+    std::optional<int> area;
+    std::optional<int> grade;
+    std::optional<int> seismicClass;
+};
+
+// Loads the project, finds the beam in work if one was named, and prints one answer. Wrong combinations of
+// options are thrown as CLI::ValidationError, everything else that fails as Failure.
+class RankRun {
+public:
+    RankRun(const RankOptions& options, std::ostream& out);
+
+    void Names();
+    void Sections();
+    void Elevations();
+    void Bars();
+    void Stirrups();
+
+private:
+    // The number that was typed, else the beam's; nothing where there is neither and no table wants it.
+    [[nodiscard]] std::optional<int> Number(const std::optional<int>& typed, const char* option,
+                                            const std::optional<int>& ofBeam) const;
+    [[nodiscard]] std::optional<int> OfBeam(int Beam::*member) const;
+    [[nodiscard]] std::string KindOfBars() const;
+    void Head(const char* what, const std::string& heading);
+    void Say(const char* key, const std::optional<int>& number, const char* before, const char* behind);
+    void RemarkOnTable(const Ranking& ranking, const TableAnswer& rows);
+    void Print(const Ranking& ranking, std::string Beam::*member);
+    void Print(const Ranking& ranking);
+
+    const RankOptions& m_options;
+    std::ostream& m_out;
+    Project m_project;
+    const Beam* m_beam;  // of the project, null without one
+    RankingView m_view;
+};
+
+}  // namespace Desk

@@ -1,0 +1,92 @@
+// GBK and UTF-8 by way of the C library's iconv; plain ASCII passes without it.
+#include "desk/project/Encoding.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+
+#include <iconv.h>
+
+#include "desk/project/Failure.h"
+
+namespace Desk {
+
+namespace {
+
+constexpr std::string_view ReplacementMark = "\xEF\xBF\xBD";  // U+FFFD
+
+bool IsAscii(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](char ch) { return static_cast<unsigned char>(ch) < 0x80; });
+}
+
+class Converter {
+public:
+    Converter(const char* to, const char* from) : m_handle(iconv_open(to, from))
+    {
+        if (m_handle == Invalid()) {
+            throw Failure(std::string("this system cannot turn ") + from + " into " + to);
+        }
+    }
+    Converter(const Converter&) = delete;
+    Converter& operator=(const Converter&) = delete;
+    ~Converter() { iconv_close(m_handle); }
+
+    // Converts as far as the text is good, appends to out and returns what is left of the text.
+    std::string_view Convert(std::string_view text, std::string& out)
+    {
+        iconv(m_handle, nullptr, nullptr, nullptr, nullptr);
+        char* in = const_cast<char*>(text.data());  // iconv only moves the pointer
+        std::size_t inLeft = text.size();
+        while (inLeft > 0) {
+            std::array<char, 512> buffer{};
+            char* to = buffer.data();
+            std::size_t room = buffer.size();
+            const std::size_t result = iconv(m_handle, &in, &inLeft, &to, &room);
+            const int error = errno;
+            out.append(buffer.data(), buffer.size() - room);
+            if (result == static_cast<std::size_t>(-1) && error != E2BIG) {
+                break;
+            }
+        }
+        return text.substr(text.size() - inLeft);
+    }
+
+private:
+    static iconv_t Invalid() { return reinterpret_cast<iconv_t>(-1); }
+
+    iconv_t m_handle;
+};
+
+}  // namespace
+
+std::optional<CString> GbkFromUtf8(std::string_view text)
+{
+    if (IsAscii(text)) {
+        return CString(text);
+    }
+    thread_local Converter converter("GBK", "UTF-8");
+    std::string bytes;
+    if (!converter.Convert(text, bytes).empty()) {
+        return std::nullopt;
+    }
+    return CString(std::string_view(bytes));
+}
+
+std::string Utf8FromGbk(const CString& text)
+{
+    if (IsAscii(text.View())) {
+        return std::string(text.View());
+    }
+    thread_local Converter converter("UTF-8", "GBK");
+    std::string utf8;
+    std::string_view rest = converter.Convert(text.View(), utf8);
+    while (!rest.empty()) {
+        utf8 += ReplacementMark;
+        rest = converter.Convert(rest.substr(1), utf8);
+    }
+    return utf8;
+}
+
+}  // namespace Desk

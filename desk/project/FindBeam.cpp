@@ -1,0 +1,51 @@
+// Beams found by the names that people type.
+#include "desk/project/FindBeam.h"
+
+#include <algorithm>
+
+#include "desk/project/Failure.h"
+
+namespace Desk {
+
+namespace {
+
+std::string WithoutSuffix(const std::string& name) { return name.substr(0, name.find('(')); }
+
+// Names of the same type, or the first ones of the project; a few are enough to see what is meant.
+std::string NamesLike(const Project& project, const std::string& name)
+{
+    constexpr int Enough = 8;
+    const std::string type = name.substr(0, name.find_first_of("0123456789("));
+    std::string names;
+    for (const bool sameType : {true, false}) {
+        int count = 0;
+        for (const Beam& beam : project.beams) {
+            if (!beam.name.empty() && (!sameType || beam.name.starts_with(type)) && count < Enough) {
+                names += (count++ == 0 ? "" : ", ") + beam.name;
+            }
+        }
+        if (count > 0) {
+            return names + (count == Enough ? ", ..." : "");
+        }
+    }
+    return names;
+}
+
+}  // namespace
+
+const Beam& FindBeam(const Project& project, const std::string& name)
+{
+    for (const auto& nameOf : {+[](const std::string& full) { return full; }, +&WithoutSuffix}) {
+        const auto found = std::find_if(project.beams.begin(), project.beams.end(), [&](const Beam& beam) {
+            return !beam.name.empty() && nameOf(beam.name) == name;
+        });
+        if (found != project.beams.end()) {
+            return *found;
+        }
+    }
+    const std::string names = NamesLike(project, name);
+    throw Failure("no beam " + name + " in the project; " +
+                  (names.empty() ? "it has no beams with a name" : "it has " + names));
+}
+
+}  // namespace Desk

@@ -1,0 +1,252 @@
+// Builds the value from the parser's events, since only the events know where in the text they happen.
+#include "desk/project/JsonText.h"
+
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <unordered_set>
+#include <vector>
+
+namespace Desk {
+
+namespace {
+
+constexpr std::size_t MaxDepth = 64;
+constexpr std::size_t FewKeys = 16;  // up to here a walk over the keys is cheaper than a hash
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
+// Length of the UTF-8 character at the head of a text, 0 when there is no valid one.
+std::size_t CharacterLength(std::string_view text)
+{
+    const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    const unsigned char lead = byte(0);
+    if (lead < 0x80) {
+        return 1;
+    }
+    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4 || text.size() < length) {
+        return 0;
+    }
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byte(i) & 0xC0U) != 0x80U) {
+            return 0;
+        }
+    }
+    const bool overlong = (lead == 0xE0 && byte(1) < 0xA0) || (lead == 0xF0 && byte(1) < 0x90);
+    const bool surrogate = lead == 0xED && byte(1) > 0x9F;
+    const bool tooHigh = lead == 0xF4 && byte(1) > 0x8F;
+    return overlong || surrogate || tooHigh ? 0 : length;
+}
+
+void CheckCharacters(std::string_view text)
+{
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t length = CharacterLength(text.substr(at));
+        if (length == 0) {
+            throw JsonFault(at, "not UTF-8");
+        }
+        if (text[at] == '\0') {
+            throw JsonFault(at, "a zero byte in the text");
+        }
+        at += length;
+    }
+}
+
+// Walks the text for the parser and tells the builder how far it has come.
+class Walker {
+public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = char;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const char*;
+    using reference = const char&;
+
+    Walker(const char* at, const char** seen) : m_at(at), m_seen(seen) {}
+    reference operator*() const { return *m_at; }
+    Walker& operator++()
+    {
+        *m_seen = ++m_at;
+        return *this;
+    }
+    bool operator==(const Walker& other) const { return m_at == other.m_at; }
+
+private:
+    const char* m_at;
+    const char** m_seen;
+};
+
+class Builder : public nlohmann::json_sax<Json> {
+public:
+    explicit Builder(std::string_view text) : m_text(text), m_seen(text.data()) {}
+
+    Json Build()
+    {
+        const char* const end = m_text.data() + m_text.size();
+        Json::sax_parse(Walker(m_seen, &m_seen), Walker(end, &m_seen), this);
+        return std::move(m_root);
+    }
+
+    bool null() override { return Add(nullptr); }
+    bool boolean(bool value) override { return Add(value); }
+    bool number_integer(std::int64_t value) override { return Add(value); }
+    bool number_unsigned(std::uint64_t value) override { return Add(value); }
+    bool number_float(double value, const std::string& written) override
+    {
+        if (Json(value).dump() == written) {
+            return Add(value);
+        }
+        return Add(Json::binary({written.begin(), written.end()}));
+    }
+    bool string(std::string& value) override { return Add(std::move(value)); }
+    bool binary(Json::binary_t& /*value*/) override { return false; }
+
+    bool start_object(std::size_t /*size*/) override { return Open(Json::object()); }
+    bool start_array(std::size_t /*size*/) override { return Open(Json::array()); }
+    bool end_object() override { return Close(); }
+    bool end_array() override { return Close(); }
+
+    bool key(std::string& key) override
+    {
+        Level& level = m_open.back();
+        auto& members = level.value->get_ref<Json::object_t&>();
+        if (Knows(level, key)) {
+            throw JsonFault(StartOfString(), "the key \"" + key + "\" stands twice in one object");
+        }
+        members.emplace_back(key, nullptr);
+        return true;
+    }
+
+    bool parse_error(std::size_t position, const std::string& token,
+                     const nlohmann::detail::exception& fault) override
+    {
+        std::string what = fault.what();
+        const std::size_t reason = what.find(" - ", what.find("while parsing"));
+        const bool syntax = reason != std::string::npos;
+        what = what.substr(syntax ? reason + 3 : what.find("] ") + 2);
+        what = what.substr(0, what.find("; last read"));
+        // The parser stands behind an unexpected literal, and right behind the character that is wrong
+        // in all other cases.
+        const bool wholeToken =
+            !syntax || (what.starts_with("unexpected") && what.find(" literal;") != std::string::npos);
+        const std::size_t back = wholeToken ? token.size() : 1;
+        throw JsonFault(std::min(position - std::min(position, back), m_text.size()),
+                        "no valid JSON: " + what);
+    }
+
+private:
+    struct Level {
+        Json* value;
+        std::unordered_set<std::string> keys;  // filled from FewKeys on
+    };
+
+    Json* Place(Json&& value)
+    {
+        if (m_open.empty()) {
+            m_root = std::move(value);
+            return &m_root;
+        }
+        Json& parent = *m_open.back().value;
+        if (parent.is_array()) {
+            parent.push_back(std::move(value));
+            return &parent.back();
+        }
+        Json& member = parent.get_ref<Json::object_t&>().back().second;
+        member = std::move(value);
+        return &member;
+    }
+
+    bool Add(Json&& value)
+    {
+        Place(std::move(value));
+        return true;
+    }
+
+    bool Open(Json&& value)
+    {
+        if (m_open.size() == MaxDepth) {
+            throw JsonFault(Seen() - 1, "nested deeper than " + std::to_string(MaxDepth) + " levels");
+        }
+        m_open.push_back({Place(std::move(value)), {}});
+        return true;
+    }
+
+    bool Close()
+    {
+        m_open.pop_back();
+        return true;
+    }
+
+    static bool Knows(Level& level, const std::string& key)
+    {
+        const auto& members = level.value->get_ref<Json::object_t&>();
+        if (members.size() < FewKeys) {
+            return std::any_of(members.begin(), members.end(),
+                               [&key](const auto& member) { return member.first == key; });
+        }
+        if (level.keys.empty()) {
+            for (const auto& member : members) {
+                level.keys.insert(member.first);
+            }
+        }
+        return !level.keys.insert(key).second;
+    }
+
+    [[nodiscard]] std::size_t Seen() const { return static_cast<std::size_t>(m_seen - m_text.data()); }
+
+    // Where the string begins that was read last: its own quotes stand behind a backslash.
+    [[nodiscard]] std::size_t StartOfString() const
+    {
+        std::size_t start = Seen() - 1;
+        do {
+            start = m_text.rfind('"', start - 1);
+        } while (start > 0 && m_text[start - 1] == '\\');
+        return start;
+    }
+
+    std::string_view m_text;
+    const char* m_seen;
+    Json m_root;
+    std::vector<Level> m_open;
+};
+
+}  // namespace
+
+std::string LineAndColumn(std::string_view text, std::size_t byte)
+{
+    const std::string_view before = text.substr(0, byte);
+    const auto line = std::count(before.begin(), before.end(), '\n') + 1;
+    std::string_view row = before.substr(before.rfind('\n') + 1);  // npos + 1 is 0
+    if (line == 1 && row.starts_with(ByteOrderMark)) {
+        row.remove_prefix(ByteOrderMark.size());
+    }
+    const auto column =
+        std::count_if(row.begin(), row.end(), [](char ch) { return (ch & 0xC0) != 0x80; }) + 1;
+    return std::to_string(line) + ":" + std::to_string(column);
+}
+
+Json ReadJson(std::string_view text)
+{
+    if (text.empty()) {
+        throw JsonFault(0, "the file is empty");
+    }
+    CheckCharacters(text);
+    return Builder(text).Build();
+}
+
+bool JsonNumber(const Json& value, double& number)
+{
+    if (value.is_binary()) {
+        const auto& written = value.get_binary();
+        const std::string text(written.begin(), written.end());
+        number = 0.0;  // what a number too small for a double stays at
+        std::from_chars(text.data(), text.data() + text.size(), number);
+        return true;
+    }
+    if (value.is_number()) {
+        number = value.get<double>();
+        return true;
+    }
+    return false;
+}
+
+}  // namespace Desk

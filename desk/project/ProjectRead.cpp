@@ -1,0 +1,231 @@
+// Reads a project and tells the place of the first thing that is not as the fields say.
+#include "desk/project/ProjectFile.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "desk/project/Encoding.h"
+#include "desk/project/Failure.h"
+#include "desk/project/ProjectFields.h"
+#include "desk/project/SafeFile.h"
+
+namespace Desk {
+
+namespace {
+
+using Path = Json::json_pointer;
+
+std::string Kind(const Json& value)
+{
+    double number = 0.0;
+    return JsonNumber(value, number) ? "a number"
+           : value.is_string()       ? "a text"
+           : value.is_array()        ? "a list"
+           : value.is_object()       ? "an object"
+           : value.is_null()         ? "null"
+                                     : value.dump();
+}
+
+class Reader {
+public:
+    Reader(std::string_view text, const std::string& name) : m_text(text), m_name(name) {}
+
+    Project Read()
+    {
+        Project project;
+        try {
+            project.source = ReadJson(m_text);
+        } catch (const JsonFault& fault) {
+            Fail(fault.Byte(), fault.what());
+        }
+        const Path root;
+        RequireObject(project.source, root, "a project");
+        ReadVersion(project.source);
+        ReadTexts(project.source, root, ProjectTexts, project);
+        ReadList(project.source, "beams", project.beams);
+        ReadList(project.source, "walls", project.walls);
+        return project;
+    }
+
+private:
+    [[noreturn]] void Fail(std::size_t byte, const std::string& what) const
+    {
+        throw Failure(m_name + ":" + LineAndColumn(m_text, byte) + ": " + what);
+    }
+    [[noreturn]] void FailAt(const Path& path, const std::string& what) const
+    {
+        Fail(PlaceInJson(m_text, path), what);
+    }
+    [[noreturn]] void FailType(const Path& path, const char* wanted, const Json& found) const
+    {
+        FailAt(path, "\"" + path.back() + "\" must be " + wanted + ", here stands " + Kind(found));
+    }
+
+    void RequireObject(const Json& value, const Path& path, const char* what) const
+    {
+        if (!value.is_object()) {
+            FailAt(path, std::string(what) + " must be an object, here stands " + Kind(value));
+        }
+    }
+
+    void ReadVersion(const Json& source) const
+    {
+        const Json* const version = Member(source, "version");
+        if (version == nullptr) {
+            FailAt(Path(), "no \"version\" of the file format; this program reads version 1");
+        }
+        const std::optional<int> number = WholeNumber(*version);
+        if (number != FormatVersion) {
+            FailAt(Path() / "version", "this program reads \"version\" 1 of the file format, not " +
+                                           (number ? std::to_string(*number) : Kind(*version)));
+        }
+    }
+
+    template <class Item>
+    void ReadList(Json& source, const char* key, std::vector<Item>& items) const
+    {
+        const auto list = source.find(key);
+        if (list == source.end()) {
+            return;
+        }
+        const Path path = Path() / key;
+        if (!list->is_array()) {
+            FailType(path, "a list", *list);
+        }
+        items.reserve(list->size());
+        for (std::size_t i = 0; i < list->size(); ++i) {
+            items.push_back(ReadItem<Item>(std::move((*list)[i]), path / i));
+        }
+        *list = Json::array();  // the items carry their own source
+    }
+
+    template <class Item>
+    Item ReadItem(Json&& source, const Path& path) const;
+
+    template <class Owner, std::size_t Count>
+    void ReadTexts(const Json& source, const Path& path, const TextField<Owner> (&fields)[Count],
+                   Owner& owner) const
+    {
+        for (const TextField<Owner>& field : fields) {
+            if (const Json* const value = Member(source, field.key)) {
+                owner.*field.member = ReadText(*value, path / field.key, field.isAnnotation);
+            }
+        }
+    }
+
+    std::string ReadText(const Json& value, const Path& path, bool isAnnotation) const
+    {
+        if (!value.is_string()) {
+            FailType(path, "a text", value);
+        }
+        const auto& text = value.get_ref<const std::string&>();
+        const auto isControl = [](char ch) { return static_cast<unsigned char>(ch) < 0x20 || ch == 0x7F; };
+        if (std::any_of(text.begin(), text.end(), isControl)) {
+            FailAt(path, "\"" + path.back() + "\" holds a control character");
+        }
+        if (isAnnotation && !GbkFromUtf8(text)) {
+            FailAt(path, "\"" + path.back() + "\" holds a character that GBK does not have");
+        }
+        return text;
+    }
+
+    template <class Owner, std::size_t Count>
+    void ReadNumbers(const Json& source, const Path& path, const NumberField<Owner> (&fields)[Count],
+                     Owner& owner) const
+    {
+        for (const NumberField<Owner>& field : fields) {
+            const Json* const value = Member(source, field.key);
+            if (value == nullptr) {
+                continue;
+            }
+            double number = 0.0;
+            if (!JsonNumber(*value, number)) {
+                FailType(path / field.key, "a whole number", *value);
+            }
+            const std::optional<int> whole = WholeNumber(*value);
+            if (!whole || *whole < field.least || *whole > field.most) {
+                FailAt(path / field.key, std::string("\"") + field.key + "\" must be a whole number from " +
+                                             std::to_string(field.least) + " to " +
+                                             std::to_string(field.most));
+            }
+            owner.*field.member = *whole;
+        }
+    }
+
+    template <class Owner, std::size_t Count>
+    void ReadPoints(const Json& source, const Path& path, const PointField<Owner> (&fields)[Count],
+                    Owner& owner) const
+    {
+        for (const PointField<Owner>& field : fields) {
+            const Json* const value = Member(source, field.key);
+            if (value == nullptr) {
+                continue;
+            }
+            const std::optional<PlanPoint> point = Point(*value);
+            if (!point) {
+                FailAt(path / field.key, std::string("\"") + field.key +
+                                             "\" must be two coordinates in mm up to 1000000000, as in "
+                                             "[0, 8400]");
+            }
+            owner.*field.member = *point;
+        }
+    }
+
+    void RequireName(const Json& source, const Path& path, const char* what) const
+    {
+        RequireObject(source, path, what);
+        if (Member(source, "name") == nullptr) {
+            FailAt(path, std::string(what) + " without a \"name\"");
+        }
+    }
+
+    std::string_view m_text;
+    const std::string& m_name;
+};
+
+template <>
+Beam Reader::ReadItem(Json&& source, const Path& path) const
+{
+    Beam beam;
+    RequireName(source, path, "a beam");
+    ReadTexts(source, path, BeamTexts, beam);
+    ReadNumbers(source, path, BeamNumbers, beam);
+    if (const Json* const area = Member(source, "area")) {
+        RequireObject(*area, path / "area", "\"area\"");
+        ReadNumbers(*area, path / "area", AreaNumbers, beam.area);
+    }
+    ReadPoints(source, path, BeamPoints, beam);
+    beam.source = std::move(source);
+    return beam;
+}
+
+template <>
+Wall Reader::ReadItem(Json&& source, const Path& path) const
+{
+    Wall wall;
+    RequireName(source, path, "a wall");
+    ReadTexts(source, path, WallTexts, wall);
+    ReadNumbers(source, path, WallNumbers, wall);
+    ReadPoints(source, path, WallPoints, wall);
+    wall.source = std::move(source);
+    return wall;
+}
+
+}  // namespace
+
+Project ParseProject(std::string_view text, const std::string& name) { return Reader(text, name).Read(); }
+
+Project ReadProject(const std::filesystem::path& file)
+{
+    return ParseProject(ReadWholeFile(file), file.string());
+}
+
+Project LoadProject(const std::string& file) { return file.empty() ? SampleProject() : ReadProject(file); }
+
+std::string TitleOf(const Project& project, const std::string& file)
+{
+    const std::string origin = file.empty() ? "embedded sample" : file;
+    return project.title.empty() ? origin : project.title + " (" + origin + ")";
+}
+
+}  // namespace Desk

@@ -1,0 +1,143 @@
+// The callbacks read the project anew at each question, so that an edit shows in the next run.
+#include "desk/ranking/ProjectHost.h"
+
+#include <stdexcept>
+#include <string>
+
+#include "RankerModule.h"
+#include "desk/project/Encoding.h"
+
+namespace Desk {
+
+namespace {
+
+const Project* g_project = nullptr;  // the project of the one living host
+
+// Empty texts are annotations that a beam does not have.
+void Deliver(CStringArray& to, const std::string& text)
+{
+    if (text.empty()) {
+        return;
+    }
+    if (std::optional<CString> gbk = GbkFromUtf8(text)) {
+        to.Add(*std::move(gbk));
+    }
+}
+
+void DeliverAll(CStringArray& to, std::string Beam::*member)
+{
+    for (const Beam& beam : g_project->beams) {
+        Deliver(to, beam.*member);
+    }
+}
+
+struct NameParts {
+    CString type;
+    int serial = 0;
+    CString suffix;
+};
+
+// Nothing for a name that has no type or no serial of its own.
+std::optional<NameParts> PartsOf(const std::string& name)
+{
+    const std::optional<CString> gbk = GbkFromUtf8(name);
+    if (!gbk) {
+        return std::nullopt;
+    }
+    NameParts parts;
+    BEAMNAME_HITNESS_RANKER::GetBeamType(*gbk, parts.type);
+    BEAMNAME_HITNESS_RANKER::GetBeamXu(*gbk, parts.serial);
+    BEAMNAME_HITNESS_RANKER::GetBeamKuaAndXuantiao(*gbk, parts.suffix);
+    if (parts.type.IsEmpty() || parts.serial < 1) {
+        return std::nullopt;
+    }
+    return parts;
+}
+
+void BeamTypes(CStringArray& arType)
+{
+    for (const Beam& beam : g_project->beams) {
+        if (const std::optional<NameParts> parts = PartsOf(beam.name)) {
+            arType.Add(parts->type);
+        }
+    }
+}
+
+void BeamNumbers(CUIntArray& arXu, CStringArray& arSuffix, CString strType)
+{
+    for (const Beam& beam : g_project->beams) {
+        const std::optional<NameParts> parts = PartsOf(beam.name);
+        if (parts && parts->type == strType) {
+            arXu.Add(static_cast<unsigned int>(parts->serial));
+            arSuffix.Add(parts->suffix);
+        }
+    }
+}
+
+void Sections(CStringArray& arResult) { DeliverAll(arResult, &Beam::section); }
+void Elevations(CStringArray& arResult) { DeliverAll(arResult, &Beam::elevation); }
+void Stirrups(CStringArray& arResult) { DeliverAll(arResult, &Beam::stirrup); }
+
+void Bars(CStringArray& arResult, CString strKind)
+{
+    for (const Beam& beam : g_project->beams) {
+        for (const std::string* text : BarTexts(beam, strKind)) {
+            Deliver(arResult, *text);
+        }
+    }
+}
+
+}  // namespace
+
+std::vector<const std::string*> BarTexts(const Beam& beam, const CString& kind)
+{
+    if (kind == "1") {
+        return {&beam.topBars};
+    }
+    if (kind == "2") {
+        return {&beam.leftEnd};
+    }
+    if (kind == "3") {
+        return {&beam.rightEnd};
+    }
+    if (kind == "4") {
+        return {&beam.erection};
+    }
+    if (kind == "5.1") {
+        return {&beam.bottomBars};
+    }
+    if (kind == "5.2") {
+        return {&beam.torsion, &beam.side};
+    }
+    if (GbkFromUtf8(beam.topBars) == kind) {
+        return {&beam.leftEnd, &beam.rightEnd};
+    }
+    return {};
+}
+
+ProjectHost::ProjectHost(const Project& project)
+{
+    if (g_project != nullptr) {
+        throw std::logic_error("a second host while the first one lives");
+    }
+    g_project = &project;
+    SetBeamTypeFunc(&BeamTypes);
+    SetBeamNumberFunc(&BeamNumbers);
+    SetBeamSectionFunc(&Sections);
+    SetBeamEleFunc(&Elevations);
+    SetBeamGujinFunc(&Stirrups);
+    SetBeamSteelFunc(&Bars);
+}
+
+ProjectHost::~ProjectHost()
+{
+    SetBeamTypeFunc(nullptr);
+    SetBeamNumberFunc(nullptr);
+    SetBeamSectionFunc(nullptr);
+    SetBeamEleFunc(nullptr);
+    SetBeamGujinFunc(nullptr);
+    SetBeamSteelFunc(nullptr);
+    g_project = nullptr;
+}
+
+}  // namespace Desk

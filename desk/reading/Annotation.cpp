@@ -1,0 +1,75 @@
+// The words for fields, kinds and what was filled in.
+#include "desk/reading/Annotation.h"
+
+#include "desk/reading/ReadText.h"
+
+namespace Desk::Import {
+
+std::string_view FieldName(Field field)
+{
+    switch (field) {
+    case Field::Name: return "name";
+    case Field::Section: return "section";
+    case Field::Elevation: return "elevation";
+    case Field::Stirrup: return "stirrup";
+    case Field::TopBars: return "top bars";
+    case Field::BottomBars: return "bottom bars";
+    case Field::Erection: return "erection bars";
+    case Field::Torsion: return "torsion bars";
+    case Field::Side: return "side bars";
+    case Field::WallBars: return "wall bars";
+    }
+    return {};
+}
+
+std::string FilledWords(Filled filled, const Choices& choices)
+{
+    switch (filled) {
+    case Filled::Grade:
+        return std::string("a grade sign without its grade: ") + choices.barGrade + " for bars, " +
+               choices.stirrupGrade + " for stirrups and wall bars (--grade)";
+    case Filled::LostGrade:
+        return std::string("no grade sign where one belongs: ") + choices.barGrade + " for bars, " +
+               choices.stirrupGrade + " for stirrups (--grade)";
+    case Filled::Legs: return "a stirrup without legs: (" + std::to_string(choices.legs) + ") (--legs)";
+    case Filled::LostMark: return "no \"@\" in front of the spacing: put back";
+    case Filled::LostBlank: return "no blank in front of a row part: put back";
+    case Filled::Bracket: return "legs without their closing bracket: closed";
+    case Filled::NameHyphen: return "a hyphen in front of the serial: taken out";
+    case Filled::NameCase:
+        return "lower case in a name: kept, though the module's name rules do not know it";
+    case Filled::RowSum: return "rows that do not add up to the bars: kept as they stand";
+    }
+    return {};
+}
+
+std::string_view KindWord(Kind kind)
+{
+    switch (kind) {
+    case Kind::Name: return "name";
+    case Kind::Section: return "section";
+    case Kind::Elevation: return "elevation";
+    case Kind::Bars: return "bars";
+    case Kind::Stirrup: return "stirrup";
+    case Kind::Combined: return "combined";
+    case Kind::Distributed: return "distributed";
+    case Kind::GlyphCode: return "glyph_code";
+    case Kind::NameTrap: return "name_trap";
+    case Kind::SectionColumn: return "section_column";
+    case Kind::Other: return "another kind";
+    case Kind::None: break;
+    }
+    return "no kind";
+}
+
+Kind KindOf(std::string_view word)
+{
+    for (const Kind kind : AllKinds) {
+        if (word == KindWord(kind) && kind != Kind::None && kind != Kind::Other) {
+            return kind;
+        }
+    }
+    return word.empty() ? Kind::None : Kind::Other;
+}
+
+}  // namespace Desk::Import

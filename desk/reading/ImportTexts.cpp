@@ -1,0 +1,82 @@
+// From readings to beams and walls.
+#include "desk/reading/ImportTexts.h"
+
+namespace Desk::Import {
+
+namespace {
+
+std::string& MemberOf(Beam& beam, Field field)
+{
+    switch (field) {
+    case Field::Section: return beam.section;
+    case Field::Elevation: return beam.elevation;
+    case Field::Stirrup: return beam.stirrup;
+    case Field::TopBars: return beam.topBars;
+    case Field::BottomBars: return beam.bottomBars;
+    case Field::Erection: return beam.erection;
+    case Field::Torsion: return beam.torsion;
+    case Field::Side: return beam.side;
+    case Field::Name:
+    case Field::WallBars: break;
+    }
+    return beam.name;
+}
+
+template <class Item>
+Item ItemOf(const DrawnText& drawn)
+{
+    Item item;
+    item.source["name"] = "";
+    item.source["drawn"] = drawn.text;
+    item.source["line"] = drawn.line;
+    return item;
+}
+
+}  // namespace
+
+std::vector<ImportedText> ReadTexts(const TextsFile& file, const Choices& choices)
+{
+    std::vector<ImportedText> texts;
+    texts.reserve(file.texts.size());
+    for (const DrawnText& drawn : file.texts) {
+        ImportedText text{drawn, KindOf(drawn.kind), {}};
+        if (drawn.fault.empty()) {
+            text.reading = ReadText(drawn.text, text.kind, choices);
+        } else {
+            text.reading.why = drawn.fault;
+        }
+        if (text.kind == Kind::Other) {
+            text.reading.contradiction =
+                "the kind \"" + drawn.kind + "\" is not known; the text alone decided";
+        }
+        texts.push_back(std::move(text));
+    }
+    return texts;
+}
+
+Project ProjectOf(const std::vector<ImportedText>& texts, const std::string& title)
+{
+    Project project;
+    project.title = title;
+    for (const ImportedText& text : texts) {
+        const std::vector<Annotation>& annotations = text.reading.annotations;
+        if (annotations.empty()) {
+            continue;
+        }
+        // Wall bars always stand alone.
+        if (annotations.front().field == Field::WallBars) {
+            Wall wall = ItemOf<Wall>(text.drawn);
+            wall.horizontalBars = annotations.front().text;
+            project.walls.push_back(std::move(wall));
+            continue;
+        }
+        Beam beam = ItemOf<Beam>(text.drawn);
+        for (const Annotation& annotation : annotations) {
+            MemberOf(beam, annotation.field) = annotation.text;
+        }
+        project.beams.push_back(std::move(beam));
+    }
+    return project;
+}
+
+}  // namespace Desk::Import

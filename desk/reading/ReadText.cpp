@@ -1,0 +1,218 @@
+// Decides what a text's annotations are for, and says in words what is wrong with the others.
+#include "desk/reading/ReadText.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "desk/reading/DrawingText.h"
+#include "desk/reading/LineReader.h"
+#include "desk/reading/Unread.h"
+
+namespace Desk::Import {
+
+namespace {
+
+std::string Quoted(std::string_view text) { return std::string("\"").append(ShowPlain(text)).append("\""); }
+
+// Gathers the annotations of a line and what found no place.
+class Gatherer {
+public:
+    Gatherer(const Choices& choices, Reading& reading) : m_choices(choices), m_reading(reading) {}
+
+    void Take(const Line& line, Kind kind)
+    {
+        TakeField(Field::Name, line.name);
+        TakeField(Field::Section, line.section);
+        if (line.spaced) {
+            TakeSpaced(line, kind);
+        }
+        TakeGroups(line.groups);
+        TakeField(Field::Elevation, line.elevation);
+        if (!line.spans.empty()) {
+            LeaveOut(line.spans, "span lengths");
+        }
+        for (const std::string& text : line.repeated) {
+            LeaveOut(text, "a second one of its kind");
+        }
+        for (const std::string& text : line.notUnderstood) {
+            LeaveOut(text, "not understood");
+        }
+    }
+
+    [[nodiscard]] const std::string& LeftOut() const { return m_leftOut; }
+
+private:
+    void LeaveOut(std::string_view text, std::string_view why)
+    {
+        m_leftOut.append(m_leftOut.empty() ? "" : ", ").append(Quoted(text));
+        m_leftOut.append(" (").append(why).append(")");
+    }
+
+    bool Holds(Field field) const
+    {
+        return std::any_of(m_reading.annotations.begin(), m_reading.annotations.end(),
+                           [field](const Annotation& a) { return a.field == field; });
+    }
+
+    void Add(Field field, std::string text)
+    {
+        if (Holds(field)) {
+            LeaveOut(text, std::string("more than one for ").append(FieldName(field)));
+        } else {
+            m_reading.annotations.push_back({field, std::move(text)});
+        }
+    }
+
+    void TakeField(Field field, const std::optional<ReadField>& found)
+    {
+        if (found) {
+            Add(field, found->text);
+            m_reading.filled.insert(found->filled.begin(), found->filled.end());
+        }
+    }
+
+    // Spaced bars without legs are a wall's unless something says that they are stirrups.
+    void TakeSpaced(const Line& line, Kind kind)
+    {
+        const SpacedBars& bars = *line.spaced;
+        const bool isAlone = !line.name && !line.section && !line.elevation && line.groups.empty();
+        const bool isPlain = !bars.HasLegs() && !bars.hasSecond && !bars.isCutOff && bars.grade != '\0';
+        const bool isBeams = kind == Kind::Stirrup || kind == Kind::Combined;
+        if (isAlone && !bars.HasLegs() && !bars.isCutOff &&
+            (kind == Kind::Distributed || (isPlain && !isBeams))) {
+            TakeField(Field::WallBars, WallBarText(bars, m_choices));
+        } else if (bars.isCutOff) {
+            LeaveOut(WallBarText(bars, m_choices).text,
+                     "the text ends in an open bracket: the legs are cut off");
+        } else if (!bars.HasLegs() && m_choices.legs == 0) {
+            LeaveOut(WallBarText(bars, m_choices).text, "a stirrup without legs");
+        } else {
+            TakeField(Field::Stirrup, StirrupText(bars, m_choices));
+        }
+    }
+
+    void TakeGroups(const std::vector<BarGroup>& groups)
+    {
+        const auto isOpen = [](const BarGroup& group) {
+            return group.place == BarPlace::Open && !group.text.empty();
+        };
+        const auto openGroups = std::count_if(groups.begin(), groups.end(), isOpen);
+        for (const BarGroup& group : groups) {
+            m_reading.filled.insert(group.filled.begin(), group.filled.end());
+            if (isOpen(group)) {
+                const bool isBottom = Holds(Field::TopBars) || (openGroups == 1 && group.endsShort);
+                Add(isBottom ? Field::BottomBars : Field::TopBars, group.text);
+            } else if (!group.text.empty()) {
+                Add(FieldOf(group.place), group.text);
+            }
+            if (!group.erection.empty()) {
+                Add(Field::Erection, group.erection);
+            }
+            if (!group.leftOut.empty()) {
+                LeaveOut(group.leftOut, group.endsShort ? "bars that stop before the supports"
+                                                        : "brackets that the grammar has no meaning for");
+            }
+        }
+    }
+
+    static Field FieldOf(BarPlace place)
+    {
+        switch (place) {
+        case BarPlace::Bottom: return Field::BottomBars;
+        case BarPlace::Side: return Field::Side;
+        case BarPlace::Torsion: return Field::Torsion;
+        case BarPlace::Open:
+        case BarPlace::Top: break;
+        }
+        return Field::TopBars;
+    }
+
+    const Choices& m_choices;
+    Reading& m_reading;
+    std::string m_leftOut;
+};
+
+// True when a text of the kind may hold an annotation for the field.
+bool Fits(Kind kind, Field field)
+{
+    const bool isBars = field == Field::TopBars || field == Field::BottomBars || field == Field::Erection ||
+                        field == Field::Torsion || field == Field::Side;
+    switch (kind) {
+    case Kind::Name: return field == Field::Name;
+    case Kind::Section:
+    case Kind::SectionColumn: return field == Field::Section;
+    case Kind::Elevation: return field == Field::Elevation;
+    case Kind::Bars: return isBars;
+    case Kind::Stirrup: return field == Field::Stirrup;
+    case Kind::Distributed: return field == Field::WallBars;
+    case Kind::GlyphCode: return false;
+    case Kind::Combined: return field != Field::WallBars;
+    case Kind::NameTrap: return field != Field::Name;
+    case Kind::Other:
+    case Kind::None: break;
+    }
+    return true;
+}
+
+void FindContradiction(Reading& reading, Kind kind)
+{
+    const auto fits = [kind](const Annotation& a) { return Fits(kind, a.field); };
+    const std::vector<Annotation>& all = reading.annotations;
+    const auto misfit = std::find_if_not(all.begin(), all.end(), fits);
+    if (misfit != all.end()) {
+        reading.contradiction = std::string("given as ").append(KindWord(kind)).append(", reads as ");
+        reading.contradiction.append(FieldName(misfit->field)).append(" ").append(misfit->text);
+    }
+}
+
+void Refuse(Reading& reading, Outcome outcome, std::string why)
+{
+    reading = Reading{};
+    reading.outcome = outcome;
+    reading.why = std::move(why);
+}
+
+}  // namespace
+
+Reading ReadText(std::string_view drawn, Kind kind, const Choices& choices)
+{
+    Reading reading;
+    std::string plain = PlainText(drawn);
+    if (std::string what = WhatElse(drawn, plain); !what.empty()) {
+        Refuse(reading, Outcome::NoBeam, std::move(what));
+        return reading;
+    }
+    Line line = ReadLine(plain, choices);
+    const bool mayBeBars = kind == Kind::Bars || plain.find('+') != std::string::npos;
+    if (line.IsEmpty() && mayBeBars) {
+        if (const std::optional<std::string> signs = WithLostGrades(plain)) {
+            line = ReadLine(*signs, choices);
+            for (BarGroup& group : line.groups) {
+                group.filled.erase(Filled::Grade);
+                group.filled.insert(Filled::LostGrade);
+            }
+        }
+    }
+    Gatherer gatherer(choices, reading);
+    gatherer.Take(line, kind);
+    if (reading.annotations.empty() || line.notUnderstood.size() > reading.annotations.size()) {
+        std::string why = line.IsEmpty() ? WhyUnread(plain, kind) : gatherer.LeftOut();
+        Refuse(reading, kind == Kind::NameTrap ? Outcome::NoBeam : Outcome::Unread, std::move(why));
+        return reading;
+    }
+    if (kind == Kind::SectionColumn && line.section && reading.annotations.size() == 1) {
+        Refuse(reading, Outcome::NoBeam, "a column's section, as the file says");
+        return reading;
+    }
+    if (kind == Kind::NameTrap && line.name && reading.annotations.size() == 1) {
+        Refuse(reading, Outcome::NoBeam, "looks like a beam name and is none, as the file says");
+        return reading;
+    }
+    reading.outcome = gatherer.LeftOut().empty() ? Outcome::Read : Outcome::InPart;
+    reading.why = gatherer.LeftOut().empty() ? "" : "left out: " + gatherer.LeftOut();
+    FindContradiction(reading, kind);
+    return reading;
+}
+
+}  // namespace Desk::Import

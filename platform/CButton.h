@@ -1,8 +1,0 @@
-// CButton: a button with a caption.
-#pragma once
-
-#include "platform/CWnd.h"
-
-class PLATFORM_API CButton : public CWnd {
-    DECLARE_MESSAGE_MAP()
-};

@@ -1,8 +1,0 @@
-// CEdit: one line of text that the user can type into.
-#pragma once
-
-#include "platform/CWnd.h"
-
-class PLATFORM_API CEdit : public CWnd {
-    DECLARE_MESSAGE_MAP()
-};

@@ -1,8 +1,0 @@
-// CSpinButtonCtrl: the pair of arrows beside an edit box.
-#pragma once
-
-#include "platform/CWnd.h"
-
-class PLATFORM_API CSpinButtonCtrl : public CWnd {
-    DECLARE_MESSAGE_MAP()
-};

@@ -1,8 +1,0 @@
-// CStatic: a label, which takes no input.
-#pragma once
-
-#include "platform/CWnd.h"
-
-class PLATFORM_API CStatic : public CWnd {
-    DECLARE_MESSAGE_MAP()
-};

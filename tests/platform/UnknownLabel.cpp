@@ -1,6 +1,0 @@
-// Must not compile: the label's last character has no row in the GBK table.
-#include "platform/Gbk.h"
-
-static constexpr auto Label = Gbk(u8"梁柱");
-
-const char* UnknownLabel() { return Label; }
