@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "desk/project/FieldRef.h"
+#include "desk/project/Fields.h"
 #include "desk/reading/ReadSection.h"
 
 namespace Desk {

@@ -1,7 +1,7 @@
 // The texts that an annotation is likely to be, as the module ranks them for the chosen place.
 #pragma once
 
-#include "desk/project/FieldRef.h"
+#include "desk/project/Fields.h"
 #include "desk/ranking/Ranking.h"
 
 namespace Desk {

@@ -4,7 +4,7 @@
 #include <QtCore>
 
 #include "desk/Toolkit.h"
-#include "desk/project/FieldRef.h"
+#include "desk/project/Fields.h"
 #include "desk/window/RecoveryCopy.h"
 
 namespace Desk {

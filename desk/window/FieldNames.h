@@ -3,7 +3,7 @@
 
 #include <QtCore>
 
-#include "desk/project/FieldRef.h"
+#include "desk/project/Fields.h"
 
 namespace Desk {
 

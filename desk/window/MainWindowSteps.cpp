@@ -22,11 +22,6 @@ std::size_t NumberOf(const Project& project, const FieldRef& place)
     return place.index + (place.isWall ? project.beams.size() : 0);
 }
 
-std::span<const Field> FieldsOf(const FieldRef& place)
-{
-    return place.isWall ? WallFields() : BeamFields();
-}
-
 // A place's number by steps around a circle.
 std::size_t Around(std::size_t from, int by, std::size_t count)
 {

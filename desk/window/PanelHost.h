@@ -7,7 +7,7 @@
 #include <QtCore>
 
 #include "RankerModule.h"
-#include "desk/project/FieldRef.h"
+#include "desk/project/Fields.h"
 #include "desk/shell/QtDisplay.h"
 
 class CHBarPropertySheet;

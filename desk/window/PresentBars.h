@@ -2,7 +2,7 @@
 #pragma once
 
 #include "RankerModule.h"
-#include "desk/project/FieldRef.h"
+#include "desk/project/Fields.h"
 
 namespace Desk {
 

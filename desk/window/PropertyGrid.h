@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "desk/Toolkit.h"
-#include "desk/project/FieldRef.h"
+#include "desk/project/Fields.h"
 
 namespace Desk {
 

@@ -14,7 +14,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "desk/project/FieldRef.h"
+#include "desk/project/Fields.h"
 #include "desk/project/ProjectFile.h"
 
 namespace {
@@ -204,7 +204,10 @@ protected:
         }
         FAIL() << "no button " << button;
     }
-    [[nodiscard]] std::string Saved(const FieldRef& place) const { return TextAt(ReadProject(m_file), place); }
+    [[nodiscard]] std::string Saved(const FieldRef& place) const
+    {
+        return TextAt(ReadProject(m_file), place);
+    }
 
     std::string m_folder;
     std::string m_file;

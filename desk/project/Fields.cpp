@@ -1,0 +1,90 @@
+#include "desk/project/Fields.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace Desk {
+
+namespace {
+
+// One row a field, in the order of Field; its second line is what the panel and people know of it.
+// clang-format off
+constexpr FieldRow Rows[] = {
+    {Field::Name, "name", &Beam::name, &Wall::name, Ranker::Names, "", false, nullptr, false, "",
+     PanelKind::Name, -1, -1, "Name", "编号"},
+    {Field::Section, "section", &Beam::section, nullptr, Ranker::Sections, "", false, nullptr, false, "",
+     PanelKind::Section, -1, -1, "Section", "截面"},
+    {Field::Elevation, "elevation", &Beam::elevation, nullptr, Ranker::Elevations, "", false, nullptr, false, "",
+     PanelKind::Elevation, -1, -1, "Elevation", "标高"},
+    {Field::Stirrup, "stirrup", &Beam::stirrup, nullptr, Ranker::Stirrups, "", false, nullptr, true, "",
+     PanelKind::Stirrup, -1, -1, "Stirrups", "箍筋"},
+    {Field::TopBars, "topBars", &Beam::topBars, nullptr, Ranker::Bars, "1", false, &SteelArea::top, true, "",
+     PanelKind::Bars, 0, 0, "Top through bars", "上部通长筋"},
+    {Field::BottomBars, "bottomBars", &Beam::bottomBars, nullptr, Ranker::Bars, "5.1", false, &SteelArea::bottom, true, "",
+     PanelKind::Bars, 1, 1, "Bottom bars", "下部纵筋"},
+    {Field::LeftEnd, "leftEnd", &Beam::leftEnd, nullptr, Ranker::Bars, "2", true, &SteelArea::leftEnd, true, "",
+     PanelKind::Bars, 5, 0, "Bars at the left end", "左支座上部筋"},
+    {Field::RightEnd, "rightEnd", &Beam::rightEnd, nullptr, Ranker::Bars, "3", true, &SteelArea::rightEnd, true, "",
+     PanelKind::Bars, 6, 0, "Bars at the right end", "右支座上部筋"},
+    {Field::Erection, "erection", &Beam::erection, nullptr, Ranker::Bars, "4", false, nullptr, false, "",
+     PanelKind::Bars, 2, 2, "Erection bars", "架立筋"},
+    {Field::Torsion, "torsion", &Beam::torsion, nullptr, Ranker::Bars, "5.2", false, nullptr, false, "N*",
+     PanelKind::Bars, 3, 4, "Torsion bars", "受扭纵筋"},
+    {Field::Side, "side", &Beam::side, nullptr, Ranker::Bars, "5.2", false, nullptr, false, "G",
+     PanelKind::Bars, 4, 5, "Side bars", "侧面构造筋"},
+    {Field::HorizontalBars, "horizontalBars", nullptr, &Wall::horizontalBars, Ranker::OtherWalls, "", false, nullptr, false, "",
+     PanelKind::HorizontalBars, -1, -1, "Horizontal bars", "水平分布筋"},
+    {Field::VerticalBars, "verticalBars", nullptr, &Wall::verticalBars, Ranker::OtherWalls, "", false, nullptr, false, "",
+     PanelKind::VerticalBars, -1, -1, "Vertical bars", "竖向分布筋"},
+};
+// clang-format on
+
+constexpr Field FieldsOfBeam[] = {
+    Field::Name,    Field::Section,  Field::Elevation, Field::Stirrup, Field::TopBars, Field::BottomBars,
+    Field::LeftEnd, Field::RightEnd, Field::Erection,  Field::Torsion, Field::Side,
+};
+constexpr Field FieldsOfWall[] = {Field::Name, Field::HorizontalBars, Field::VerticalBars};
+
+// The project's own text or a constant one, as the project is.
+template <class AnyProject>
+auto& Text(AnyProject& project, const FieldRef& ref)
+{
+    const FieldRow& row = RowOf(ref.field);
+    if (ref.isWall ? row.ofWall == nullptr : row.ofBeam == nullptr) {
+        throw std::out_of_range("a field that its owner does not have");
+    }
+    return ref.isWall ? project.walls.at(ref.index).*row.ofWall : project.beams.at(ref.index).*row.ofBeam;
+}
+
+}  // namespace
+
+const FieldRow& RowOf(Field field) { return Rows[static_cast<std::size_t>(field)]; }
+std::span<const Field> BeamFields() { return FieldsOfBeam; }
+std::span<const Field> WallFields() { return FieldsOfWall; }
+std::span<const Field> FieldsOf(const FieldRef& owner)
+{
+    return owner.isWall ? WallFields() : BeamFields();
+}
+
+std::string_view HeadOf(std::string_view text, std::string_view heads)
+{
+    const bool hasHead = !text.empty() && heads.find(text.front()) != std::string_view::npos;
+    return text.substr(0, hasHead ? 1 : 0);
+}
+
+PanelKind PanelOf(const FieldRef& ref)
+{
+    return ref.isWall && ref.field == Field::Name ? PanelKind::None : RowOf(ref.field).panel;
+}
+
+bool Exists(const Project& project, const FieldRef& ref)
+{
+    const std::span<const Field> fields = FieldsOf(ref);
+    const std::size_t count = ref.isWall ? project.walls.size() : project.beams.size();
+    return ref.index < count && std::find(fields.begin(), fields.end(), ref.field) != fields.end();
+}
+
+const std::string& TextAt(const Project& project, const FieldRef& ref) { return Text(project, ref); }
+std::string& TextAt(Project& project, const FieldRef& ref) { return Text(project, ref); }
+
+}  // namespace Desk

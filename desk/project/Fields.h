@@ -1,0 +1,81 @@
+// The annotations of beams and walls: what each is called, where it is kept, and what serves it. The one
+// table that the file, the rankings, the panels and the window read.
+#pragma once
+
+#include <compare>
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "desk/project/Project.h"
+
+namespace Desk {
+
+// In the order in which a person reads them; the last two and Name are a wall's.
+enum class Field {
+    Name,
+    Section,
+    Elevation,
+    Stirrup,
+    TopBars,
+    BottomBars,
+    LeftEnd,
+    RightEnd,
+    Erection,
+    Torsion,
+    Side,
+    HorizontalBars,
+    VerticalBars,
+};
+
+// What ranks the texts of a field. The module ranks no wall bars: those are the other walls' texts.
+enum class Ranker { Names, Sections, Elevations, Stirrups, Bars, OtherWalls, None };
+
+enum class PanelKind { Name, Section, Elevation, Stirrup, Bars, HorizontalBars, VerticalBars, None };
+
+struct FieldRow {
+    Field field;
+    const char* key;                // in a project file
+    std::string Beam::*ofBeam;      // null for a field that beams do not have
+    std::string Wall::*ofWall;      // null for a field that walls do not have
+    Ranker ranker;                  // of a beam's field; a wall's name has none
+    const char* barKind;            // the bar ranker's kind text; empty for no bars
+    bool isOnThroughBars;           // the beam's through bars, where it has some, are the kind text
+    int SteelArea::*requiredSteel;  // null where none is required
+    bool hasTableRows;              // the reference tables list texts for it
+    const char* heads;              // head characters of its texts, the usual one first; empty for none
+    PanelKind panel;                // of a beam; a wall's name has none
+    int panelBars;                  // what the bar panel is open for (its m_nSteelKind), else -1
+    int pieceType;                  // the bar panel's type of pieces without a head of their own, else -1
+    const char* english;
+    const char* chinese;
+};
+
+[[nodiscard]] const FieldRow& RowOf(Field field);
+[[nodiscard]] std::span<const Field> BeamFields();
+[[nodiscard]] std::span<const Field> WallFields();
+
+// "G" of "G4B12" where heads has it, else empty.
+[[nodiscard]] std::string_view HeadOf(std::string_view text, std::string_view heads = "GN*");
+
+// Which beam or wall of a project, and which of its annotations.
+struct FieldRef {
+    bool isWall = false;
+    std::size_t index = 0;  // in the project's beams or walls
+    Field field = Field::Name;
+
+    auto operator<=>(const FieldRef&) const = default;
+};
+
+[[nodiscard]] std::span<const Field> FieldsOf(const FieldRef& owner);
+[[nodiscard]] PanelKind PanelOf(const FieldRef& ref);
+
+// The index is in range and the field is one of a beam or a wall.
+[[nodiscard]] bool Exists(const Project& project, const FieldRef& ref);
+
+// The annotation text in UTF-8, empty where there is none. The beam or wall must exist and have the field.
+[[nodiscard]] const std::string& TextAt(const Project& project, const FieldRef& ref);
+[[nodiscard]] std::string& TextAt(Project& project, const FieldRef& ref);
+
+}  // namespace Desk
