@@ -1,6 +1,8 @@
 // From readings to beams and walls.
 #include "desk/reading/ImportTexts.h"
 
+#include "desk/project/ProjectFile.h"
+
 namespace Desk::Import {
 
 namespace {
@@ -26,9 +28,7 @@ template <class Item>
 Item ItemOf(const DrawnText& drawn)
 {
     Item item;
-    item.source["name"] = "";
-    item.source["drawn"] = drawn.text;
-    item.source["line"] = drawn.line;
+    item.inFile = DrawnInFile(drawn.text, drawn.line);
     return item;
 }
 
