@@ -31,7 +31,7 @@ std::string NameOfKind(const std::string& kind)
 {
     std::string name;
     for (const FieldRow* const row : FieldsOfKind(kind)) {
-        name += (name.empty() ? "" : " and ") + std::string(row->english);
+        name += (name.empty() ? "" : " / ") + std::string(row->english);
     }
     return name.empty() ? "Complete top bars at the ends, on through bars " + kind
                         : name + " (kind " + kind + ")";
