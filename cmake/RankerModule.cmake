@@ -1,5 +1,6 @@
 # The module: one shared library made of its rooms.
 add_library(RankerModule SHARED
+  RankerModule.cpp
   geometry/DPoint.cpp
   host/BarText.cpp
   host/HostLink.cpp
