@@ -1,6 +1,8 @@
 // The slots: empty ones are harmless, the newest pointer is called, callbacks may call back.
 #include <gtest/gtest.h>
 
+#include <typeinfo>
+
 #include "tests/support/FakeHost.h"
 
 namespace {
@@ -67,6 +69,18 @@ TEST(HostLink, ARankerThatItsOwnCallbackRunsAgainStaysWhole)
     SetBeamTypeFunc(nullptr);
     SetBeamNumberFunc(nullptr);
     EXPECT_FALSE(list.IsEmpty());
+}
+
+TEST(HostLink, TheModuleHasAnApplicationObjectOfItsOwn)
+{
+    const CWinApp* const application = AfxGetApp();
+    ASSERT_NE(application, nullptr);
+    EXPECT_NE(typeid(*application), typeid(CWinApp));
+    {
+        const CWinApp another;
+        EXPECT_EQ(AfxGetApp(), application);
+    }
+    EXPECT_EQ(AfxGetApp(), application);
 }
 
 }  // namespace
