@@ -1,277 +1,270 @@
-// Bar terms, row parts, joints and dressings.
-#include "desk/reading/ReadBars.h"
+#include "desk/reading/Bars.h"
 
+#include <algorithm>
+#include <numbers>
+#include <numeric>
 #include <utility>
 
-namespace Desk::Import {
+#include "desk/reading/Cursor.h"
+
+namespace Desk {
 
 namespace {
 
-bool IsDiameter(std::string_view digits)
+// Half of the new bars on either side would tear pairs apart: the later terms go to the middle.
+void InsertInTheMiddle(std::vector<int>& row, int count, int diameter)
 {
-    return digits.front() != '0' && digits.size() <= 2 && ValueOf(digits) >= 6 && ValueOf(digits) <= 50;
+    row.insert(row.begin() + static_cast<std::ptrdiff_t>((row.size() + 1) / 2),
+               static_cast<std::size_t>(count), diameter);
 }
 
-struct Term {
-    std::string text;
-    int count = 0;
-    bool rowsAreGlued = false;  // "6C254/2"
-};
-
-struct Rows {
-    std::string upper;
-    std::string lower;
-};
-
-void Note(std::string& list, std::string_view stretch)
-{
-    if (!list.empty()) {
-        list += ' ';
-    }
-    list += stretch;
-}
-
-// Cuts "254/2" behind the diameter, where a blank was lost in front of a row part.
-std::string_view DiameterBeforeRows(std::string_view digits, const Cursor& behind)
-{
-    const std::string_view rest = behind.Rest();
-    const bool rowsFollow = rest.size() > 1 && rest[0] == '/' && Cursor::IsDigit(rest[1]);
-    return digits.size() == 3 && rowsFollow ? digits.substr(0, 2) : digits;
-}
-
-std::optional<Term> ReadTerm(Cursor& at, const Choices& choices, std::set<Filled>& filled)
-{
-    Cursor cursor = at;
-    const std::optional<std::string_view> count = cursor.Number(1, 2);
-    cursor.SkipBlank();
-    char grade = cursor.EatGrade();
-    if (!count || grade == '\0') {
-        return std::nullopt;
-    }
-    cursor.SkipBlank();
-    Cursor behindDiameter = cursor;
-    const std::string_view digits = behindDiameter.Digits();
-    const std::string_view diameter = DiameterBeforeRows(digits, behindDiameter);
-    if (diameter.empty() || !IsDiameter(diameter)) {
-        return std::nullopt;
-    }
-    for (std::size_t i = 0; i < diameter.size(); ++i) {
-        cursor.Skip();
-    }
-    if (diameter.size() < digits.size()) {
-        filled.insert(Filled::LostBlank);
-    }
-    if (grade == OpenGrade) {
-        grade = choices.barGrade;
-        filled.insert(Filled::Grade);
-    }
-    at = cursor;
-    return Term{std::string(*count) + grade + std::string(diameter), ValueOf(*count),
-                diameter.size() < digits.size()};
-}
-
-// "4/2", where no third row and no bar term follows: "6C25 4/2C20" has none.
-std::optional<Rows> ReadRowCounts(Cursor& at, std::string& leftOut)
-{
-    Cursor cursor = at;
-    Rows rows;
-    const auto readCount = [&cursor, &leftOut](std::string& row) {
-        const std::optional<std::string_view> count = cursor.Number(1, 2);
-        if (!count) {
-            return false;
-        }
-        row = *count;
-        const std::size_t bracket = cursor.Place();
-        if (cursor.Eat("(-") && cursor.Number(1, 2) && cursor.Eat(')')) {
-            Note(leftOut, cursor.Since(bracket));
-        }
-        return true;
-    };
-    if (!readCount(rows.upper) || !cursor.Eat('/') || !readCount(rows.lower)) {
-        return std::nullopt;
-    }
-    Cursor next = cursor;
-    next.SkipBlank();
-    if (next.EatGrade() != '\0' || cursor.Peek() == '/') {
-        return std::nullopt;
-    }
-    at = cursor;
-    return rows;
-}
-
-// A row part behind a blank, in brackets, or glued to the diameter.
-std::optional<Rows> ReadRowPart(Cursor& at, bool isGlued, std::string& leftOut)
-{
-    Cursor cursor = at;
-    std::string stretches = leftOut;
-    const bool behindBlank = cursor.Eat(' ');
-    const bool inBrackets = cursor.Eat('(');
-    if (!behindBlank && !inBrackets && !isGlued) {
-        return std::nullopt;
-    }
-    std::optional<Rows> rows = ReadRowCounts(cursor, stretches);
-    if (!rows || (inBrackets && !cursor.Eat(')'))) {
-        return std::nullopt;
-    }
-    at = cursor;
-    leftOut = std::move(stretches);
-    return rows;
-}
-
-// Brackets behind a term that the grammar has no place for: "(-3)", "(2)", "(3/3/3)".
-void ReadStrangeBracket(Cursor& at, BarGroup& group)
+// "(-3)" after a number of bars: so many stop before the supports. "(2)" has no meaning.
+void LeaveOutBracket(Cursor& at, DrawnBars& drawn)
 {
     Cursor cursor = at;
     cursor.SkipBlank();
-    const std::size_t start = cursor.Place();
-    if (!cursor.Eat('(')) {
-        return;
-    }
+    const Cursor start = cursor;
+    const bool isOpen = cursor.Eat('(');
     const bool isShort = cursor.Eat('-');
-    bool isNumber = true;
-    do {
-        isNumber = cursor.Number(1, 2).has_value();
-    } while (isNumber && cursor.Eat('/'));
-    if (isNumber && cursor.Eat(')')) {
-        Note(group.leftOut, cursor.Since(start));
-        group.endsShort = group.endsShort || isShort;
+    if (isOpen && cursor.Number(1, 2) && cursor.Eat(')')) {
+        drawn.leftOut.append(drawn.leftOut.empty() ? "" : " ").append(cursor.Since(start));
+        drawn.endsShort = drawn.endsShort || isShort;
         at = cursor;
     }
 }
 
-// "(2C12+2C14)" behind a "+".
-bool ReadErection(Cursor& at, const Choices& choices, BarGroup& group)
+// Two counts or more, after a blank, in brackets, or glued to the diameter. A number that a grade follows
+// is the next layer's: "6C25 4/2/2C20".
+std::vector<int> ReadRows(Cursor& at, bool isGlued, DrawnBars& drawn)
 {
     Cursor cursor = at;
-    std::set<Filled> filled = group.filled;
-    if (!group.erection.empty() || !cursor.Eat('(')) {
-        return false;
+    cursor.SkipBlank();
+    const bool inBrackets = cursor.Eat('(');
+    if (cursor.At() == at.At() && !isGlued) {
+        return {};
     }
-    std::string text;
-    do {
-        cursor.SkipBlank();
-        const std::optional<Term> term = ReadTerm(cursor, choices, filled);
-        if (!term) {
-            return false;
+    DrawnBars found = drawn;
+    std::vector<int> rows;
+    for (Cursor next = cursor; rows.empty() || next.Eat('/'); next = cursor) {
+        const std::optional<int> count = next.Number(1, 2);
+        if (!count) {
+            break;
         }
-        text += (text.empty() ? "" : "+") + term->text;
-        cursor.SkipBlank();
-    } while (cursor.Eat('+'));
-    if (!cursor.Eat(')')) {
+        if (next.Rest().starts_with("(-")) {
+            LeaveOutBracket(next, found);
+        }
+        Cursor after = next;
+        after.SkipBlank();
+        if (after.EatGrade('B') != '\0') {
+            break;
+        }
+        rows.push_back(*count);
+        cursor = next;
+    }
+    if (rows.size() < 2 || (inBrackets && !cursor.Eat(')'))) {
+        return {};
+    }
+    at = cursor;
+    drawn = std::move(found);
+    return rows;
+}
+
+std::optional<BarTerm> ReadTerm(Cursor& at, DrawnBars& drawn)
+{
+    constexpr int Thinnest = 6, Thickest = 50;  // mm
+    Cursor cursor = at;
+    BarTerm term;
+    term.count = cursor.Number(1, 2).value_or(0);
+    cursor.SkipBlank();
+    term.grade = cursor.EatGrade(cursor.Chosen().barGrade);
+    cursor.SkipBlank();
+    Cursor after = cursor;
+    std::string_view digits = after.Digits();
+    // "6C254/2": a blank was lost.
+    const bool isGlued = digits.size() == 3 && after.Eat('/') && Cursor::IsDigit(after.Peek());
+    if (isGlued) {
+        digits.remove_suffix(1);
+        cursor.Mark(Filled::LostBlank);
+    }
+    term.diameter = digits.size() <= 2 && !digits.starts_with('0') ? NumberValue(digits) : 0;
+    if (term.count == 0 || term.grade == '\0' || term.diameter < Thinnest || term.diameter > Thickest) {
+        return std::nullopt;
+    }
+    cursor.Skip(digits.size());
+    term.rows = ReadRows(cursor, isGlued, drawn);
+    LeaveOutBracket(cursor, drawn);
+    at = cursor;
+    return term;
+}
+
+// Terms joined by "+"; a "+" that no term follows stays.
+std::vector<BarTerm> ReadLayer(Cursor& at, DrawnBars& drawn)
+{
+    std::vector<BarTerm> layer;
+    Cursor cursor = at;
+    while (std::optional<BarTerm> term = ReadTerm(cursor, drawn)) {
+        layer.push_back(std::move(*term));
+        at = cursor;
+        if (!cursor.EatJoint('+')) {
+            break;
+        }
+    }
+    return layer;
+}
+
+// "+(2C12+2C14)"; without bars before it the "+" may be missing.
+bool ReadErection(Cursor& at, DrawnBars& drawn)
+{
+    Cursor cursor = at;
+    const bool isJoined = cursor.EatJoint('+') || drawn.bars.IsEmpty();
+    if (!isJoined || !drawn.erection.IsEmpty() || !cursor.EatJoint('(')) {
         return false;
     }
-    group.erection = std::move(text);
-    group.filled = std::move(filled);
+    DrawnBars found = drawn;
+    found.erection.layers.push_back(ReadLayer(cursor, found));
+    cursor.SkipBlank();
+    if (found.erection.layers.front().empty() || !cursor.Eat(')')) {
+        return false;
+    }
+    drawn = std::move(found);
     at = cursor;
     return true;
 }
 
-bool EatJoint(Cursor& at, char joint)
+void ReadHead(Cursor& at, DrawnBars& drawn)
 {
-    Cursor cursor = at;
-    cursor.SkipBlank();
-    if (!cursor.Eat(joint)) {
-        return false;
-    }
-    cursor.SkipBlank();
-    at = cursor;
-    return true;
-}
-
-// The terms of one layer with their row part; false when no term stands here.
-bool ReadLayer(Cursor& at, const Choices& choices, BarGroup& group)
-{
-    Cursor cursor = at;
-    std::string text;
-    int bars = 0;
-    std::optional<Rows> rows;
-    while (true) {
-        const std::optional<Term> term = ReadTerm(cursor, choices, group.filled);
-        if (!term) {
-            break;
-        }
-        text += (text.empty() ? "" : "+") + term->text;
-        bars += term->count;
-        rows = ReadRowPart(cursor, term->rowsAreGlued, group.leftOut);
-        ReadStrangeBracket(cursor, group);
-        at = cursor;
-        if (rows) {
-            break;
-        }
-        if (!EatJoint(cursor, '+')) {
-            break;
-        }
-        if (ReadErection(cursor, choices, group)) {
-            at = cursor;
-            break;
-        }
-    }
-    if (text.empty()) {
-        return false;
-    }
-    if (rows) {
-        text += " " + rows->upper + "/" + rows->lower;
-        if (ValueOf(rows->upper) + ValueOf(rows->lower) != bars) {
-            group.filled.insert(Filled::RowSum);
-        }
-    }
-    group.text += text;
-    return true;
-}
-
-BarPlace ReadDressing(Cursor& at, std::string& head)
-{
-    Cursor cursor = at;
-    switch (cursor.EatOneOf("GgNn*BT")) {
-    case 'G':
-    case 'g': head = "G"; break;
-    case 'N':
-    case 'n': head = "N"; break;
-    case '*': head = "*"; break;
-    case 'B':
-        cursor.Eat(':');
-        at = cursor;
-        return BarPlace::Bottom;
+    switch (const char ch = at.EatOneOf("GgNn*TB")) {
+    case 'g': drawn.bars.head = 'G'; break;
+    case 'n': drawn.bars.head = 'N'; break;
     case 'T':
-        cursor.Eat(':');
-        at = cursor;
-        return BarPlace::Top;
-    default: return BarPlace::Open;
+    case 'B':
+        drawn.label = ch;
+        static_cast<void>(at.Eat(':'));
+        break;
+    default: drawn.bars.head = ch; break;
     }
-    at = cursor;
-    return head == "G" ? BarPlace::Side : BarPlace::Torsion;
+    at.SkipBlank();
 }
 
 }  // namespace
 
-std::optional<BarGroup> ReadBarGroup(Cursor& at, const Choices& choices)
+double Bars::Area() const
 {
-    Cursor cursor = at;
-    BarGroup group;
-    cursor.SkipBlank();
-    if (cursor.Eat('+')) {
-        // The panel writes erection bars alone as "+(2B12)".
-        if (!ReadErection(cursor, choices, group)) {
-            return std::nullopt;
+    double area = 0.0;
+    for (const std::vector<BarTerm>& layer : layers) {
+        for (const BarTerm& term : layer) {
+            area += term.count * std::numbers::pi * term.diameter * term.diameter / 4.0;
         }
-        at = cursor;
-        return group;
     }
-    group.place = ReadDressing(cursor, group.text);
-    cursor.SkipBlank();
-    if (!ReadLayer(cursor, choices, group)) {
-        return std::nullopt;
-    }
-    at = cursor;
-    while (EatJoint(cursor, '/')) {
-        group.text += '/';
-        if (!ReadLayer(cursor, choices, group)) {
-            group.text.pop_back();
-            break;
-        }
-        at = cursor;
-    }
-    return group;
+    return area;
 }
 
-}  // namespace Desk::Import
+BarRows Bars::RowsFromTop() const
+{
+    BarRows rows;
+    for (const std::vector<BarTerm>& layer : layers) {
+        const std::size_t first = rows.size();
+        rows.emplace_back();
+        for (const BarTerm& term : layer) {
+            const int sum = std::accumulate(term.rows.begin(), term.rows.end(), 0);
+            if (sum == term.count) {
+                rows.resize(std::max(rows.size(), first + term.rows.size()));
+                for (std::size_t i = 0; i < term.rows.size(); ++i) {
+                    InsertInTheMiddle(rows[first + i], term.rows[i], term.diameter);
+                }
+                continue;
+            }
+            InsertInTheMiddle(rows[first], term.count, term.diameter);
+            if (term.rows.empty()) {
+                continue;
+            }
+            if (rows.size() != first + 1 || static_cast<std::size_t>(sum) != rows[first].size()) {
+                return {};
+            }
+            const std::vector<int> all = std::move(rows.back());
+            rows.pop_back();
+            auto next = all.begin();
+            for (const int count : term.rows) {
+                rows.emplace_back(next, next + count);
+                next += count;
+            }
+        }
+    }
+    return rows;
+}
+
+std::string Bars::Text() const
+{
+    std::string text;
+    for (const std::vector<BarTerm>& layer : layers) {
+        text += text.empty() ? "" : "/";
+        for (const BarTerm& term : layer) {
+            text += &term == &layer.front() ? "" : "+";
+            text += std::to_string(term.count) + term.grade + std::to_string(term.diameter);
+            for (std::size_t i = 0; i < term.rows.size(); ++i) {
+                text += (i == 0 ? " " : "/") + std::to_string(term.rows[i]);
+            }
+        }
+    }
+    return head != '\0' ? head + text : text;
+}
+
+std::optional<DrawnBars> ReadDrawnBars(Cursor& at)
+{
+    Cursor cursor = at;
+    DrawnBars drawn;
+    cursor.SkipBlank();
+    if (ReadErection(cursor, drawn)) {
+        at = cursor;
+        return drawn;
+    }
+    ReadHead(cursor, drawn);
+    do {
+        std::vector<BarTerm> layer = ReadLayer(cursor, drawn);
+        if (layer.empty()) {
+            break;
+        }
+        drawn.bars.layers.push_back(std::move(layer));
+        ReadErection(cursor, drawn);
+        at = cursor;
+    } while (cursor.EatJoint('/'));
+    if (drawn.bars.IsEmpty()) {
+        return std::nullopt;
+    }
+    if (drawn.bars.RowsFromTop().empty()) {
+        at.Mark(Filled::RowSum);
+    }
+    return drawn;
+}
+
+std::optional<Bars> ReadBars(std::string_view text)
+{
+    Cursor at(text.substr(0, text.find(';')));
+    const std::optional<DrawnBars> drawn = ReadDrawnBars(at);
+    static_cast<void>(at.EatJoint(','));
+    at.SkipBlank();
+    const bool isWhole = drawn && drawn->label == '\0' && drawn->leftOut.empty() && at.AtEnd() &&
+                         at.Marks().empty() && drawn->bars.IsEmpty() != drawn->erection.IsEmpty();
+    if (!isWhole) {
+        return std::nullopt;
+    }
+    return drawn->bars.IsEmpty() ? drawn->erection : drawn->bars;
+}
+
+std::vector<std::string> BarPieces(std::string_view text)
+{
+    if (text.starts_with("+(")) {
+        text = text.substr(2, text.rfind(')') - 2);
+    }
+    std::vector<std::string> pieces;
+    while (!text.empty()) {
+        const std::string_view piece = text.substr(0, text.find('+'));
+        text.remove_prefix(std::min(piece.size() + 1, text.size()));
+        if (!piece.empty()) {
+            pieces.emplace_back(piece);
+        }
+    }
+    return pieces;
+}
+
+}  // namespace Desk

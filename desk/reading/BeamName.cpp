@@ -1,9 +1,10 @@
-// The forms of names, sections and elevations.
-#include "desk/reading/ReadFields.h"
+#include "desk/reading/BeamName.h"
 
 #include <algorithm>
 
-namespace Desk::Import {
+#include "desk/reading/Cursor.h"
+
+namespace Desk {
 
 namespace {
 
@@ -14,7 +15,7 @@ void EatBuildingPart(Cursor& at)
     while (Cursor::IsLetter(cursor.Peek()) || Cursor::IsDigit(cursor.Peek())) {
         cursor.Skip();
     }
-    const std::size_t length = cursor.Place() - at.Place();
+    const std::size_t length = cursor.Since(at).size();
     if (length >= 1 && length <= 2 && cursor.Eat('-') && Cursor::IsLetter(cursor.Peek())) {
         at = cursor;
     }
@@ -30,153 +31,68 @@ bool IsType(std::string_view letters)
            letters == "llk";
 }
 
-// "(3)", "(2A)", "(B)"; nothing stands for a name without a suffix.
-std::string_view EatSuffix(Cursor& at)
+// "(3)", "(2A)", "(B)"; a name may do without.
+void EatSuffix(Cursor& at, BeamName& name)
 {
     Cursor cursor = at;
     cursor.SkipBlank();
-    const std::size_t start = cursor.Place();
     if (!cursor.Eat('(')) {
-        return {};
+        return;
     }
-    const bool hasCount = cursor.Number(1, 2).has_value();
-    const bool hasMark = cursor.EatOneOf("ABab") != '\0';
-    if ((!hasCount && !hasMark) || !cursor.Eat(')')) {
-        return {};
+    const int spans = cursor.Number(1, 2).value_or(0);
+    const char cantilever = cursor.EatOneOf("ABab");
+    if ((spans > 0 || cantilever != '\0') && cursor.Eat(')')) {
+        name.spans = spans;
+        name.cantilever = cantilever;
+        at = cursor;
     }
-    at = cursor;
-    return cursor.Since(start);
-}
-
-bool HoldsLower(std::string_view text)
-{
-    return std::any_of(text.begin(), text.end(), [](char ch) { return ch >= 'a' && ch <= 'z'; });
-}
-
-// One "300x600", written with a plain "x".
-std::optional<std::string> ReadSides(Cursor& at)
-{
-    Cursor cursor = at;
-    std::string text;
-    if (cursor.Eat('Y')) {
-        text = "Y";
-    }
-    const std::optional<std::string_view> width = cursor.Number(2, 4);
-    cursor.SkipBlank();
-    if (!width || cursor.EatOneOf("xX*") == '\0') {
-        return std::nullopt;
-    }
-    cursor.SkipBlank();
-    const std::optional<std::string_view> height = cursor.Number(2, 4);
-    if (!height) {
-        return std::nullopt;
-    }
-    text.append(*width).append("x").append(*height);
-    Cursor tail = cursor;
-    if (tail.Eat('/')) {
-        const std::optional<std::string_view> otherHeight = tail.Number(2, 4);
-        if (!otherHeight) {
-            return std::nullopt;
-        }
-        text.append("/").append(*otherHeight);
-        cursor = tail;
-    }
-    at = cursor;
-    return text;
 }
 
 }  // namespace
 
-std::optional<ReadField> ReadName(Cursor& at)
+std::string BeamName::Text() const
+{
+    std::string text = type + std::to_string(serial);
+    if (letter != '\0') {
+        text += letter;
+    }
+    if (spans > 0 || cantilever != '\0') {
+        text += '(';
+        text += spans > 0 ? std::to_string(spans) : "";
+        text += cantilever != '\0' ? std::string(1, cantilever) : "";
+        text += ')';
+    }
+    return text;
+}
+
+std::optional<BeamName> ReadName(Cursor& at)
 {
     Cursor cursor = at;
+    BeamName name;
     EatBuildingPart(cursor);
-    const std::size_t typeStart = cursor.Place();
-    while (Cursor::IsLetter(cursor.Peek())) {
-        cursor.Skip();
-    }
-    const std::string_view type = cursor.Since(typeStart);
-    ReadField name{std::string(cursor.Since(at.Place())), {}};
-    if (!IsType(type)) {
+    if (!IsType(cursor.Letters())) {
         return std::nullopt;
     }
+    name.type = cursor.Since(at);
     if (cursor.Eat('-')) {
-        name.filled.insert(Filled::NameHyphen);
+        cursor.Mark(Filled::NameHyphen);
     }
-    const std::optional<std::string_view> serial = cursor.Number(1, 3);
+    const std::optional<int> serial = cursor.Number(1, 3);
     if (!serial) {
         return std::nullopt;
     }
-    name.text += *serial;
-    Cursor letter = cursor;
-    if (const char ch = letter.Peek(); ch >= 'a' && ch <= 'z' && ch != 'x') {
-        letter.Skip();
-        name.text += ch;
-        cursor = letter;
-    }
-    const std::string_view suffix = EatSuffix(cursor);
-    name.text += suffix;
-    if (HoldsLower(name.text)) {
-        name.filled.insert(Filled::NameCase);
+    name.serial = *serial;
+    // An "x" begins the section of another text: L3x is no name.
+    name.letter = cursor.EatOneOf("abcdefghijklmnopqrstuvwyz");
+    EatSuffix(cursor, name);
+    const std::string text = name.Text();
+    if (std::any_of(text.begin(), text.end(), [](char ch) { return ch >= 'a' && ch <= 'z'; })) {
+        cursor.Mark(Filled::NameCase);
     }
     at = cursor;
     return name;
 }
 
-std::optional<ReadField> ReadSection(Cursor& at)
-{
-    Cursor cursor = at;
-    for (const std::string_view label : {"bxh", "bXh", "b*h", "BxH", "BXH", "B*H"}) {
-        if (cursor.Eat(label)) {
-            cursor.SkipBlank();
-            if (!cursor.Eat('=') && !cursor.Eat(':')) {
-                return std::nullopt;
-            }
-            cursor.SkipBlank();
-            break;
-        }
-    }
-    const std::optional<std::string> sides = ReadSides(cursor);
-    if (!sides) {
-        return std::nullopt;
-    }
-    ReadField section{*sides, {}};
-    Cursor haunch = cursor;
-    haunch.SkipBlank();
-    if (section.text.front() != 'Y' && haunch.Peek() == 'Y') {
-        if (const std::optional<std::string> second = ReadSides(haunch)) {
-            section.text += " " + *second;
-            cursor = haunch;
-        }
-    }
-    at = cursor;
-    return section;
-}
+std::optional<BeamName> ReadName(std::string_view text) { return ReadWhole<BeamName>(text, ReadName); }
 
-std::optional<ReadField> ReadElevation(Cursor& at)
-{
-    Cursor cursor = at;
-    const bool inBrackets = cursor.Eat('(');
-    std::string text;
-    cursor.SkipBlank();
-    if (cursor.Eat('-')) {
-        text = "-";
-    } else if (!cursor.Eat('+')) {
-        static_cast<void>(cursor.Eat("±"));
-    }
-    cursor.SkipBlank();
-    const std::string_view whole = cursor.Digits();
-    const bool hasPoint = cursor.Eat('.');
-    const std::string_view decimals = cursor.Digits();
-    cursor.SkipBlank();
-    const bool isClosed = !inBrackets || cursor.Eat(')');
-    if (whole.empty() || whole.size() > 3 || !hasPoint || decimals.empty() || decimals.size() > 4 ||
-        !isClosed || cursor.Peek() == '~') {
-        return std::nullopt;
-    }
-    text += std::string(whole) + "." + std::string(decimals);
-    at = cursor;
-    return ReadField{inBrackets ? "(" + text + ")" : text, {}};
-}
-
-}  // namespace Desk::Import
+}  // namespace Desk

@@ -1,41 +1,48 @@
-// A beam's texts as what a cross section is made of: width and height, rows of bars, stirrup legs.
+// The section and the elevation of a beam. The module's rules (GetBeamWidth, GetBeamHeight, and the order
+// of elevations) take the numbers out of any text; this tells such texts from others and reads haunches,
+// the second height of a tapering beam, and brackets.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace Desk {
 
-struct SectionSize {
-    int width = 0;  // mm
+class Cursor;
+
+// 300x600, 300x600/500, 300x700 Y500x250, Y500x250. All in mm, 0 for what the text lacks.
+struct Section {
+    int width = 0;
     int height = 0;
+    int otherHeight = 0;  // at the other end
+    int haunchLength = 0;
+    int haunchHeight = 0;
+
+    bool operator==(const Section&) const = default;
+    [[nodiscard]] std::string Text() const;
 };
 
-// "300x700"; X, * and the multiplication sign do as well. Of a tapering "300x500/350" the deeper end.
-// Nothing for another text.
-[[nodiscard]] std::optional<SectionSize> ReadSize(std::string_view text);
+// A drawing's 300X600, 300 * 600, bxh=300x600 as well; sides of two to four digits. Takes what is at
+// the cursor and moves after it, or gives nothing and leaves the cursor.
+[[nodiscard]] std::optional<Section> ReadSection(Cursor& at);
+// A whole text.
+[[nodiscard]] std::optional<Section> ReadSection(std::string_view text);
+// Of a section text, in mm; 0 for a text without.
+[[nodiscard]] int WidthOf(std::string_view section);
 
-// Bars as they lie, the upper row first; each row holds diameters in mm from left to right.
-struct BarRows {
-    std::vector<std::vector<int>> rows;
+// -0.100, (-0.100): a number with decimals.
+struct Elevation {
+    double metres = 0.0;
+    int decimals = 3;  // 1 to 4
+    bool inBrackets = false;
 
-    [[nodiscard]] double Area() const;  // mm²
+    bool operator==(const Elevation&) const = default;
+    [[nodiscard]] std::string Text() const;
 };
 
-// "2B25+1B22", "6B25/4B25" and "2B22+3B25/2B22" from the row above to the row below, "5B20 3/2" and
-// "6B25(2/4)" with the counts from the top down; "G4B12", "N4B14", "*2B12" and "+(2B12)" without the mark.
-// The first term's bars lie at the corners. Of "2B25;4B25" the part in front of the semicolon. Nothing for
-// a text that cannot be read to its end, and for rows that do not add up.
-[[nodiscard]] std::optional<BarRows> ReadBars(std::string_view text);
-
-struct StirrupSize {
-    int diameter = 0;  // mm
-    int legs = 2;      // those outside the dense zone
-};
-
-// "A8@100/200(4)". Nothing without grade and diameter, or with fewer than one leg.
-[[nodiscard]] std::optional<StirrupSize> ReadStirrup(std::string_view text);
+// Plus signs go, since the grammar has none; 0.100~0.200 is none. Otherwise as ReadSection.
+[[nodiscard]] std::optional<Elevation> ReadElevation(Cursor& at);
+[[nodiscard]] std::optional<Elevation> ReadElevation(std::string_view text);
 
 }  // namespace Desk

@@ -1,148 +1,107 @@
-// Stirrups and the spaced bars of walls: one form, and what each makes of it.
+#include "desk/reading/Stirrup.h"
+
 #include <algorithm>
 #include <iterator>
 
-#include "desk/reading/ReadFields.h"
+#include "RankerModule.h"
+#include "desk/reading/Cursor.h"
 
-namespace Desk::Import {
+namespace Desk {
 
 namespace {
 
-// "(2)"; also "(2" at the end of the text. An empty text for none.
-std::string EatLegs(Cursor& at, SpacedBars& bars)
+// "(2)"; also "(2" at the end of the text. 0 for none.
+int EatLegs(Cursor& at)
 {
     Cursor cursor = at;
     cursor.SkipBlank();
-    if (!cursor.Eat('(')) {
-        return {};
+    const std::optional<int> legs = cursor.Eat('(') ? cursor.Number(1, 2) : std::nullopt;
+    if (!legs) {
+        return 0;
     }
     if (cursor.AtEnd()) {
-        bars.isCutOff = true;
-        at = cursor;
-        return {};
-    }
-    const std::optional<std::string_view> legs = cursor.Number(1, 2);
-    const bool isOpen = legs && cursor.AtEnd();
-    if (!legs || (!isOpen && !cursor.Eat(')'))) {
-        return {};
-    }
-    if (isOpen) {
-        bars.filled.insert(Filled::Bracket);
+        cursor.Mark(Filled::Bracket);
+    } else if (!cursor.Eat(')')) {
+        return 0;
     }
     at = cursor;
-    return std::string(*legs);
+    return *legs;
 }
 
 // Cuts "8150", where the "@" was lost, into diameter and a spacing of three digits.
-bool CutLostMark(std::string_view digits, SpacedBars& bars)
+bool CutLostMark(std::string_view digits, Stirrup& read)
 {
     if (digits.size() != 4 && digits.size() != 5) {
         return false;
     }
-    const std::string_view diameter = digits.substr(0, digits.size() - 3);
-    const std::string_view spacing = digits.substr(digits.size() - 3);
-    constexpr std::string_view Usual[] = {"6", "8", "10", "12", "14", "16"};
-    if (std::find(std::begin(Usual), std::end(Usual), diameter) == std::end(Usual) || spacing < "100" ||
-        spacing > "400" || (spacing.back() != '0' && spacing.back() != '5')) {
-        return false;
-    }
-    bars.diameter = diameter;
-    bars.spacing = spacing;
-    bars.filled.insert(Filled::LostMark);
-    return true;
+    constexpr int Usual[] = {6, 8, 10, 12, 14, 16};  // mm
+    read.diameter = NumberValue(digits.substr(0, digits.size() - 3));
+    read.spacing = NumberValue(digits.substr(digits.size() - 3));
+    return std::find(std::begin(Usual), std::end(Usual), read.diameter) != std::end(Usual) &&
+           read.spacing >= 100 && read.spacing <= 400 && read.spacing % 5 == 0;
 }
 
-char GradeOf(const SpacedBars& bars, const Choices& choices, std::set<Filled>& filled)
-{
-    if (bars.grade == '\0') {
-        filled.insert(Filled::LostGrade);
-        return choices.stirrupGrade;
-    }
-    if (bars.grade == OpenGrade) {
-        filled.insert(Filled::Grade);
-        return choices.stirrupGrade;
-    }
-    return bars.grade;
-}
+CString NumberText(int number) { return CString(std::string_view(std::to_string(number))); }
+CString LegsText(int legs) { return legs > 0 ? "(" + NumberText(legs) + ")" : CString(); }
 
 }  // namespace
 
-std::optional<SpacedBars> ReadSpacedBars(Cursor& at)
+std::string Stirrup::Text() const
+{
+    const CString tight = tightSpacing > 0 ? NumberText(tightSpacing) : CString();
+    const CString text =
+        StirrupText::ComposeFromRows({std::string_view(&grade, 1), NumberText(diameter), tight,
+                                      LegsText(tightLegs), NumberText(spacing), LegsText(legs)});
+    return std::string(text.View());
+}
+
+std::optional<Stirrup> ReadStirrup(Cursor& at)
 {
     Cursor cursor = at;
-    SpacedBars bars;
-    bars.grade = cursor.EatGrade();
+    Stirrup read;
+    const char grade = cursor.EatGrade(cursor.Chosen().stirrupGrade);
+    read.grade = grade != '\0' ? grade : cursor.Chosen().stirrupGrade;
+    if (grade == '\0') {
+        cursor.Mark(Filled::LostGrade);
+    }
     cursor.SkipBlank();
     const std::string_view digits = cursor.Digits();
     if (digits.empty() || digits.front() == '0') {
         return std::nullopt;
     }
-    Cursor behindBlank = cursor;
-    behindBlank.SkipBlank();
-    const char mark = behindBlank.EatOneOf("@-");
+    const char mark = cursor.EatJoint('@') ? '@' : cursor.EatJoint('-') ? '-' : '\0';
     if (mark != '\0') {
-        cursor = behindBlank;
-        cursor.SkipBlank();
-        const std::optional<std::string_view> spacing = cursor.Number(2, 3);
-        if (!spacing || digits.size() > 2 || ValueOf(digits) < 4 || ValueOf(digits) > 32) {
+        const std::optional<int> spacing = cursor.Number(2, 3);
+        read.diameter = digits.size() <= 2 ? NumberValue(digits) : 0;
+        if (!spacing || read.diameter < 4 || read.diameter > 32) {
             return std::nullopt;
         }
-        bars.diameter = digits;
-        bars.spacing = *spacing;
-    } else if (bars.grade == '\0' || !CutLostMark(digits, bars)) {
+        read.spacing = *spacing;
+    } else if (grade == '\0' || !CutLostMark(digits, read)) {
         return std::nullopt;
+    } else {
+        cursor.Mark(Filled::LostMark);
     }
-    bars.spacingLegs = EatLegs(cursor, bars);
-    Cursor behindSlash = cursor;
-    behindSlash.SkipBlank();
-    if (behindSlash.Eat('/')) {
-        cursor = behindSlash;
-        cursor.SkipBlank();
-        const std::optional<std::string_view> second = cursor.Number(2, 3);
-        if (!second) {
+    read.legs = EatLegs(cursor);
+    if (cursor.EatJoint('/')) {
+        const std::optional<int> spacing = cursor.Number(2, 3);
+        if (!spacing) {
             return std::nullopt;
         }
-        bars.hasSecond = true;
-        bars.second = *second;
-        bars.legs = EatLegs(cursor, bars);
-    } else {
-        bars.legs = std::move(bars.spacingLegs);
-        bars.spacingLegs.clear();
+        read.tightSpacing = read.spacing;
+        read.tightLegs = read.legs;
+        read.spacing = *spacing;
+        read.legs = EatLegs(cursor);
     }
     // Without grade sign or "@" the legs are what makes it a stirrup.
-    const bool isDoubtful = mark == '\0' || (bars.grade == '\0' && mark == '-');
-    if (isDoubtful && !bars.HasLegs()) {
+    const bool isDoubtful = mark == '\0' || (grade == '\0' && mark == '-');
+    if (isDoubtful && read.legs == 0) {
         return std::nullopt;
     }
     at = cursor;
-    return bars;
+    return read;
 }
 
-ReadField StirrupText(const SpacedBars& bars, const Choices& choices)
-{
-    ReadField field{{}, bars.filled};
-    field.text = GradeOf(bars, choices, field.filled) + bars.diameter + "@" + bars.spacing;
-    if (!bars.spacingLegs.empty()) {
-        field.text += "(" + bars.spacingLegs + ")";
-    }
-    if (bars.hasSecond) {
-        field.text += "/" + bars.second;
-    }
-    if (!bars.HasLegs()) {
-        field.filled.insert(Filled::Legs);
-    }
-    field.text += "(" + (bars.HasLegs() ? bars.legs : std::to_string(choices.legs)) + ")";
-    return field;
-}
+std::optional<Stirrup> ReadStirrup(std::string_view text) { return ReadWhole<Stirrup>(text, ReadStirrup); }
 
-ReadField WallBarText(const SpacedBars& bars, const Choices& choices)
-{
-    ReadField field{{}, bars.filled};
-    field.text = GradeOf(bars, choices, field.filled) + bars.diameter + "@" + bars.spacing;
-    if (bars.hasSecond) {
-        field.text += "/" + bars.second;
-    }
-    return field;
-}
-
-}  // namespace Desk::Import
+}  // namespace Desk

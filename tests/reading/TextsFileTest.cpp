@@ -4,7 +4,7 @@
 #include "desk/project/Failure.h"
 #include "desk/reading/ImportTexts.h"
 
-namespace Desk::Import {
+namespace Desk {
 namespace {
 
 using namespace std::string_literals;
@@ -99,4 +99,4 @@ TEST(ImportTexts, MakesABeamOfEachText)
 }
 
 }  // namespace
-}  // namespace Desk::Import
+}  // namespace Desk
