@@ -6,7 +6,7 @@
 #include <CLI/CLI.hpp>
 
 #include "desk/project/Failure.h"
-#include "desk/ranking/Question.h"
+#include "desk/reading/Bars.h"
 
 namespace Desk {
 
@@ -32,7 +32,7 @@ CLI::Validator Whole(int least, int most)
 
 void RequireBars(const std::string& text)
 {
-    if (!AreBars(text)) {
+    if (!ReadBars(text)) {
         throw Failure("\"" + text + "\" is no bar annotation; 2B25 or 2B22+1B25 would be");
     }
 }

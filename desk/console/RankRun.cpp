@@ -9,6 +9,7 @@
 #include "desk/project/Failure.h"
 #include "desk/project/FindBeam.h"
 #include "desk/project/ProjectFile.h"
+#include "desk/reading/Bars.h"
 
 namespace Desk {
 
@@ -176,7 +177,7 @@ Question RankRun::BarQuestion() const
     const std::vector<const FieldRow*> rows = FieldsOfKind(kind);
     if (m_options.top) {
         RequireBars(kind);
-    } else if (rows.empty() && !AreBars(kind)) {
+    } else if (rows.empty() && !ReadBars(kind)) {
         throw Failure("\"" + kind +
                       "\" is no kind of bars: 1, 2, 3, 4, 5.1, 5.2 or through bars such as 2B25 are");
     }

@@ -1,10 +1,10 @@
 #include "desk/ranking/Question.h"
 
-#include <algorithm>
-
 #include "desk/project/Encoding.h"
 #include "desk/project/Failure.h"
 #include "desk/ranking/Tables.h"
+#include "desk/reading/Bars.h"
+#include "desk/reading/Section.h"
 
 namespace Desk {
 
@@ -42,9 +42,11 @@ Question QuestionFor(const Beam& beam, Field field, bool wantsTable)
     const FieldRow& row = RowOf(field);
     Question question;
     question.ranker = row.ranker;
-    question.barKind = row.isOnThroughBars && AreBars(beam.topBars) ? beam.topBars : row.barKind;
+    question.barKind = row.isOnThroughBars && ReadBars(beam.topBars) ? beam.topBars : row.barKind;
     question.heads = row.heads;
-    question.width = WidthOf(beam);
+    if (const int width = WidthOf(beam.section); width > 0) {
+        question.width = width;
+    }
     question.grade = beam.concreteGrade;
     question.seismicClass = beam.seismicClass;
     if (row.requiredSteel != nullptr) {
@@ -67,23 +69,6 @@ std::vector<const std::string*> BarTexts(const Beam& beam, const std::string& ba
         }
     }
     return texts.empty() ? onThroughBars : texts;
-}
-
-std::optional<int> WidthOf(const Beam& beam)
-{
-    int width = 0;
-    BEAMSIZE_HITNESS_RANKER().GetBeamWidth(GbkFromUtf8(beam.section).value_or(CString()), width);
-    return width > 0 ? std::optional(width) : std::nullopt;
-}
-
-bool AreBars(const std::string& text)
-{
-    constexpr std::string_view Digits = "0123456789";
-    const std::size_t count = HeadOf(text).size();
-    const std::size_t grade = text.find_first_not_of(Digits, count);
-    return grade != std::string::npos && grade > count && grade + 1 < text.size() &&
-           std::string_view("ABCD").find(text[grade]) != std::string_view::npos &&
-           Digits.find(text[grade + 1]) != std::string_view::npos;
 }
 
 List RunRanker(const Question& question)

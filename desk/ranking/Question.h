@@ -33,12 +33,6 @@ struct Question {
 // kind, else both end bars of a beam whose through bars are that text, of another beam none.
 [[nodiscard]] std::vector<const std::string*> BarTexts(const Beam& beam, const std::string& barKind);
 
-// The width of a beam's section in mm, nothing when it has none.
-[[nodiscard]] std::optional<int> WidthOf(const Beam& beam);
-
-// Begins with a bar term such as 2B25, after a head character at most.
-[[nodiscard]] bool AreBars(const std::string& text);
-
 // A ranker's answer as it stands.
 struct List {
     CStringArray texts;

@@ -5,7 +5,7 @@
 #include "desk/project/ProjectFile.h"
 #include "desk/reading/ImportTexts.h"
 
-namespace Desk::Import {
+namespace Desk {
 namespace {
 
 using namespace std::string_literals;
@@ -101,4 +101,4 @@ TEST(ImportTexts, MakesABeamOfEachText)
 }
 
 }  // namespace
-}  // namespace Desk::Import
+}  // namespace Desk
