@@ -102,7 +102,7 @@ TEST(StirrupText, ComposesFromBoxesOrLeavesTheText)
         {{"A", "8", " ", "4", "180", "2"}, "A8@180(2)"},
         {{"", "8", "", "", "200", "2"}, nullptr},
         {{"A", " ", "", "", "200", "2"}, nullptr},
-        {{"A", "8", "", "", "", "2"}, nullptr},
+        {{"A", "8", "", "4", "", "2"}, nullptr},
         {{"A", "8", "", "", "200", " "}, nullptr},
     };
     for (const Case& c : cases) {
@@ -110,6 +110,9 @@ TEST(StirrupText, ComposesFromBoxesOrLeavesTheText)
         CString text("old");
         EXPECT_EQ(StirrupText::ComposeFromBoxes(boxes, text), c.text != nullptr);
         EXPECT_EQ(text, c.text != nullptr ? c.text : "old");
+        if (!boxes.diameter.IsEmpty() && boxes.tightSpacing.IsEmpty()) {
+            EXPECT_EQ(boxes.tightLegs, "");
+        }
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include "tests/panels/Panels.h"
 #include "tests/support/FakeHost.h"
+#include "tests/support/Watched.h"
 
 namespace {
 
@@ -20,7 +21,10 @@ TYPED_TEST(PanelFrameTest, RightPressAnywhereHidesAndDeliversOnce)
     CWnd* control = stage.panel->GetTopWindow();
     for (; control != nullptr; control = control->GetNextWindow()) {
         stage.Show(TypeParam::Text);
+        bool hiddenBefore = false;
+        stage.receiver.m_answer = [&] { hiddenBefore = stage.panel->IsWindowVisible() == FALSE; };
         stage.hands.RightClick(Hands::MiddleOf(*control));
+        EXPECT_TRUE(hiddenBefore);
         EXPECT_FALSE(stage.panel->IsWindowVisible());
         // The same press from a shell that names the control itself, label or disabled as it may be.
         Hands::Send({control->m_hWnd, WM_RBUTTONDOWN, 0, 0, 0, Hands::MiddleOf(*control)});
@@ -244,20 +248,27 @@ TYPED_TEST(PanelFrameTest, ReceiverUsesPanelsRankersAndSlots)
     EXPECT_EQ(stage.receiver.m_calls.size(), 2U);
 }
 
-TYPED_TEST(PanelFrameTest, TranslateMessageSendsARightPressAlone)
+template <class Panel>
+void ExpectForwarding(int control, std::size_t presses)
 {
-    Stage<TypeParam> stage;
-    MSG msg{nullptr, WM_LBUTTONDOWN, 0, 0, 0, {}};
-    if constexpr (requires { stage.panel->TranslateMessage(&msg); }) {
-        stage.panel->TranslateMessage(&msg);
-        EXPECT_TRUE(stage.panel->IsWindowVisible());
-        msg.message = WM_RBUTTONDOWN;
-        stage.panel->TranslateMessage(&msg);
-        const bool forwards = !std::is_same_v<TypeParam, NameKit>;
-        EXPECT_EQ(stage.receiver.m_items, Texts(forwards ? 1 : 0, TypeParam::Text));
-    } else {
-        EXPECT_TRUE((std::is_same_v<TypeParam, LevelKit>));
-    }
+    Watched<Panel> panel;
+    panel.Create(Panel::IDD);
+    panel.ShowWindow(SW_SHOW);
+    Hands().RightClick(panel, control);
+    EXPECT_EQ(panel.m_presses.size(), 1U);
+    MSG msg{panel.m_hWnd, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(3, 4), 0, {5, 6}};
+    panel.TranslateMessage(&msg);
+    msg.message = WM_LBUTTONDOWN;
+    panel.TranslateMessage(&msg);
+    EXPECT_EQ(panel.m_presses, std::vector(presses, typename Watched<Panel>::Press{0, 0, 0}));
+}
+
+TEST(PanelFrame, ARightPressReachesThePanelWithoutItsParameters)
+{
+    ExpectForwarding<CBeamNameDlg>(NameKit::Edit, 1);  // its TranslateMessage does nothing
+    ExpectForwarding<CBeamSecDlg>(SectionKit::Edit, 2);
+    ExpectForwarding<CBeamGujinDlg>(StirrupKit::Edit, 2);
+    ExpectForwarding<CBeamSteelDlg>(1338, 2);
 }
 
 TYPED_TEST(PanelFrameTest, WithoutAWindow)

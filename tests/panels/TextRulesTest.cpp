@@ -42,6 +42,10 @@ TEST(NameText, DecomposesWhatItReaches)
         // "A" wins over an earlier "B", and both count behind the bracket too.
         {"KL3(2BA)", true, {"KL", "3", "2B", "A"}},
         {"KL3(2)B", true, {"KL", "3", "2)", "B"}},
+        // A letter of the type is no cantilever mark.
+        {"AL3(2)", true, {"AL", "3", "2", ""}},
+        {"BKL3(2)", true, {"BKL", "3", "2", ""}},
+        {"BAL3(2B)", true, {"BAL", "3", "2", "B"}},
         // Parts that stand the wrong way round are empty.
         {"K(2)L3", true, {"K(2)L", "", "2", ""}},
         {"KL)3(2", true, {"KL", ")3", "", ""}},
@@ -96,6 +100,7 @@ TEST(SectionText, DecomposesAndCutsTheTail)
         {"300X600", "300X600", {"X", "300", "600"}},
         {"300*600", "300*600", {"*", "300", "600"}},
         {"300", "300", {"*", "", "300"}},
+        {"x600", "x600", {"s", "", "600"}},
         {"300x600/500", "300x600", {"s", "300", "600"}},
         {"300x600 Y500x250", "300x600", {"s", "300", "600"}},
         {"300/1 x600", "300", {"*", "", "300"}},
@@ -145,6 +150,7 @@ TEST(LevelText, Keys)
     };
     const Case cases[] = {
         {"", "0.3.", "0.3"},
+        {"", "..", "."},
         {"", "3--", "-3"},
         {"", "0.3b", "(0.3)"},
         {"", "0.3b-", "(-0.3)"},

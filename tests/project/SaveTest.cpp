@@ -16,6 +16,7 @@
 #include "desk/project/Failure.h"
 #include "desk/project/ProjectFile.h"
 #include "tests/support/Folder.h"
+#include "tests/support/Seed.h"
 
 namespace Desk {
 namespace {
@@ -153,7 +154,7 @@ TEST(Save, AKillLeavesTheOldFileOrTheNewOneWhole)
     SaveProject(first, file);
     const std::chrono::microseconds span = std::chrono::duration_cast<std::chrono::microseconds>(
         2 * (std::chrono::steady_clock::now() - begin));
-    std::mt19937 random(20240501);
+    std::mt19937 random(FirstSeed(20240501));
     std::uniform_int_distribution<long> when(0, span.count());
     int seen[] = {0, 0};
     for (int round = 0; round < 40 || (round < 400 && (seen[0] == 0 || seen[1] == 0)); ++round) {

@@ -180,6 +180,12 @@ TEST(BarRanker, TableRowsFollowARun)
         ranker.ChaBiao(list);
         EXPECT_EQ(TextsOf(list), area > 0 ? falling : rising) << area;
     }
+    // The area is cut to a whole number: the row of 1005 is 29 away and not 30.
+    ranker.SetPara(300, 0, &table, "2B16");
+    ranker.m_dArea = 1034.9;
+    list.RemoveAll();
+    ranker.ChaBiao(list);
+    EXPECT_EQ(TextsOf(list), (Texts{"2B16", "5B16", "2B16+2B20"}));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "desk/ranking/ProjectHost.h"
 #include "desk/ranking/Replay.h"
 #include "desk/ranking/SimpleOrders.h"
+#include "tests/support/Seed.h"
 
 namespace Desk::Hitrate {
 
@@ -130,7 +131,7 @@ TEST(Replay, IsWhatHidingOneUseAfterTheOtherGives)
                                                "A8@100/200(2)", ""};
     const std::vector<std::string> sections = {"300x600",  "300*600", "300X600", "300x700",
                                                "Y300x500", "odd",     ""};
-    std::mt19937 random(7);
+    std::mt19937 random(FirstSeed(7));
     const auto pick = [&random](const std::vector<std::string>& texts) {
         return texts[random() % texts.size()];
     };

@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <set>
+#include <tuple>
 #include <utility>
 
 #include "platform/text/Numbers.h"
@@ -129,6 +130,19 @@ TEST(GuJinBiao, EveryWidthHasAnAnswerForEveryGradeAndClass)
                 EXPECT_GE(list.GetSize(), 2) << width << ' ' << grade.grade << ' ' << seismic;
             }
         }
+    }
+}
+
+TEST(GuJinBiao, RowsAreCopiedWhole)
+{
+    GuJinItem row;
+    row.Init(350, 25, 0.27, "A6@200(4)");
+    GuJinItem copy;
+    copy = row;
+    for (const GuJinItem& same : {copy, GuJinItem(row)}) {
+        EXPECT_EQ(std::tie(same.m_nWidth, same.m_nGrade, same.m_dRatio), std::make_tuple(350, 25, 0.27));
+        EXPECT_EQ(same.m_strGuJin, "A6@200(4)");
+        EXPECT_EQ(same.m_strGuJinJiaMi, "A6@100/200(4)");
     }
 }
 

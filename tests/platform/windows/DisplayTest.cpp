@@ -7,6 +7,7 @@
 #include "TestPanel.h"
 #include "platform/windows/Display.h"
 #include "tests/support/Hands.h"
+#include "tests/support/Seed.h"
 
 namespace {
 
@@ -116,10 +117,9 @@ TEST(Display, ANewOneIsToldOfWhatExistsAndGetsTheMessages)
 // are compared after each.
 TEST(Display, RandomActionsKeepItEqual)
 {
-    std::mt19937 random(std::random_device{}());
-    const unsigned seed = static_cast<unsigned>(random());
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    random.seed(seed);
+    const unsigned seed = FirstSeed(std::random_device{}());
+    SCOPED_TRACE(SeedName(seed));
+    std::mt19937 random(seed);
     const auto below = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
 
     Mirror mirror;
