@@ -5,6 +5,9 @@
 
 #include <CLI/CLI.hpp>
 
+#include "desk/project/Failure.h"
+#include "desk/reading/Bars.h"
+
 namespace Desk {
 
 void AddProjectOption(CLI::App& command, std::string& file)
@@ -25,6 +28,13 @@ CLI::Validator Whole(int least, int most)
         return good ? std::string() : "a whole number from " + range + " is wanted, not \"" + text + "\"";
     };
     return CLI::Validator(check, "");
+}
+
+void RequireBars(const std::string& text)
+{
+    if (!ReadBars(text)) {
+        throw Failure("\"" + text + "\" is no bar annotation; 2B25 or 2B22+1B25 would be");
+    }
 }
 
 }  // namespace Desk

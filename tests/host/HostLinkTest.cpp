@@ -1,6 +1,8 @@
 // The slots: empty ones are harmless, the newest pointer is called, callbacks may call back.
 #include <gtest/gtest.h>
 
+#include <typeinfo>
+
 #include "tests/support/FakeHost.h"
 
 namespace {
@@ -123,6 +125,18 @@ TEST(HostLink, ARankerThatItsOwnCallbackRunsAgainStaysWhole)
     SetBeamNumberFunc(nullptr);
     EXPECT_EQ(s_inner, (Texts{"KL2(1)", "WKL2(1)", "JZL2(1)", "LL2(1)", "AL2(1)"}));
     EXPECT_EQ(outer, s_inner);
+}
+
+TEST(HostLink, TheModuleHasAnApplicationObjectOfItsOwn)
+{
+    const CWinApp* const application = AfxGetApp();
+    ASSERT_NE(application, nullptr);
+    EXPECT_NE(typeid(*application), typeid(CWinApp));
+    {
+        const CWinApp another;
+        EXPECT_EQ(AfxGetApp(), application);
+    }
+    EXPECT_EQ(AfxGetApp(), application);
 }
 
 }  // namespace

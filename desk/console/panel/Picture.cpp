@@ -10,8 +10,6 @@ namespace Desk::Panels {
 
 namespace {
 
-constexpr int RowHeight = 12;  // pixels, of every list box
-
 Control ReadControl(const WindowRecord& window, HWND focus)
 {
     Control control;
@@ -23,16 +21,14 @@ Control ReadControl(const WindowRecord& window, HWND focus)
     control.enabled = window.enabled;
     control.focused = window.handle == focus;
     if (control.focused && window.kind == WindowKind::EditBox) {
-        control.caret = static_cast<int>(Utf8FromGbk(window.text.Left(window.edit.caret)).size());
+        control.caret = static_cast<int>(Utf8FromGbk(window.text.Left(window.caret)).size());
     }
     for (const CString& row : window.list.rows) {
         control.rows.push_back(Utf8FromGbk(row));
     }
     control.selection = window.list.selection;
     control.top = window.list.top;
-    const bool inColumns = Has(window.style, ControlStyle::MultiColumn);
-    control.inView = std::max(1, inColumns ? window.place.Width() / window.list.columnWidth
-                                           : window.place.Height() / RowHeight);
+    control.inView = window.RowsInView();
     return control;
 }
 

@@ -31,7 +31,7 @@ Copy CopyOf(const WindowRecord& window)
 {
     return {window.place,          window.text,     window.list.rows,
             window.list.selection, window.list.top, window.list.columnWidth,
-            window.edit.caret,     window.visible,  window.enabled};
+            window.caret,          window.visible,  window.enabled};
 }
 
 // Takes over only what the change names.
@@ -180,10 +180,9 @@ TEST(Display, RandomActionsKeepItEqual)
             ASSERT_TRUE(window.list.selection >= -1 && window.list.selection < rows) << "step " << step;
             ASSERT_TRUE(window.list.top >= 0 && window.list.top <= std::max(rows - 1, 0))
                 << "step " << step;
-            const int caret = window.edit.caret;
+            const int caret = window.caret;
             ASSERT_TRUE(caret == 0 || NextCharacter(window.text.View(),
                                                     PreviousCharacter(window.text.View(), caret)) == caret);
-            ASSERT_EQ(window.notificationLock, 0);
         }
     }
 }

@@ -1,10 +1,13 @@
-// AppState: what the application object keeps for the window layer.
+// LayerState: the windows of the process and what holds for all of them.
 #pragma once
 
 #include "platform/windows/Display.h"
 #include "platform/windows/private/WindowTable.h"
 
-struct AppState {
+class CWinApp;
+
+struct LayerState {
+    CWinApp* application = nullptr;  // none while no CWinApp is alive
     WindowTable windows;
     HWND focus = nullptr;
     HWND pressedButton = nullptr;  // under the left button since its press
