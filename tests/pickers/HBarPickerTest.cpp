@@ -15,10 +15,7 @@ protected:
     }
 };
 
-TEST_F(HBarPicker, OpensOnTheFirstRowsWithoutSelection)
-{
-    EXPECT_EQ(Now(), "A,6,50,,|-,-,-,-,");
-}
+TEST_F(HBarPicker, OpensOnTheFirstRowsWithoutSelection) { EXPECT_EQ(Now(), "A,6,50,,|-,-,-,-,"); }
 
 TEST_F(HBarPicker, ShowsAValueAndGivesItBack)
 {
