@@ -98,32 +98,6 @@ TEST(SteelPanel, ErectionBarsKeepTheirBracketsInPlace)
     EXPECT_TRUE(panel.Seen().rows.empty());
 }
 
-TEST(SteelPanel, AGroupOpensBehindTheGroupOfTheRememberedRow)
-{
-    SteelPanel panel(-1);
-    panel.Compose(Two, D22);
-    panel.Pick(VdiaList, LaterRow);
-    panel.Compose(Two, D25);
-    panel.Pick(SteeltypeList, BarPiece::SideStructural);
-    panel.Compose(Two, D12);
-    panel.Pick(PosList, 0);
-    panel.Pick(SteeltypeList, BarPiece::NTorsion);
-    EXPECT_EQ(panel.Seen().row, -1);
-    panel.Compose(Six, D14);
-    EXPECT_EQ(panel.Seen().rows, (Texts{"2B22", "+2B25 ", "N6B14 ", "G2B12 "}));
-    EXPECT_EQ(panel.Seen().firstRows, (std::array{0, -1, -1, 2, 3}));
-    // The group's head says which torsion type it is.
-    panel.Pick(SteeltypeList, BarPiece::StarTorsion);
-    EXPECT_EQ(panel.Seen().type, BarPiece::NTorsion);
-    EXPECT_EQ(panel.Seen().row, 2);
-    panel.Delete();
-    EXPECT_EQ(panel.Seen().row, 2);
-    EXPECT_EQ(panel.Seen().type, BarPiece::SideStructural);
-    EXPECT_EQ(panel.Seen().firstRows, (std::array{0, -1, -1, -1, 2}));
-    panel.Confirm();
-    EXPECT_EQ(panel.Sent(), (Texts{"parent 1 20 2B22+2B25 "}));
-}
-
 TEST(SteelPanel, ABlankTypeRowIsNoType)
 {
     SteelPanel panel(8);
