@@ -13,7 +13,7 @@
 #include "desk/project/Encoding.h"
 #include "desk/shell/PopUp.h"
 #include "desk/shell/QtDisplay.h"
-#include "tests/support/Hands.h"
+#include "platform/windows/Hands.h"
 
 #include "RankerModule.h"
 
