@@ -10,11 +10,22 @@ namespace Desk::Panels {
 
 namespace {
 
-constexpr int RowHeight = 12;  // pixels, of every list box
+int RowsInView(const WindowRecord& window)
+{
+    CRect row;
+    const auto* const list = dynamic_cast<const CListBox*>(CWnd::FromHandle(window.handle));
+    if (list == nullptr || list->GetItemRect(window.list.top, &row) != LB_OKAY) {
+        return 1;
+    }
+    const bool inColumns = Has(window.style, ControlStyle::MultiColumn);
+    return std::max(1,
+                    inColumns ? window.place.Width() / row.Width() : window.place.Height() / row.Height());
+}
 
 Control ReadControl(const WindowRecord& window, HWND focus)
 {
     Control control;
+    control.handle = window.handle;
     control.id = window.id;
     control.kind = window.kind;
     control.style = window.style;
@@ -30,9 +41,7 @@ Control ReadControl(const WindowRecord& window, HWND focus)
     }
     control.selection = window.list.selection;
     control.top = window.list.top;
-    const bool inColumns = Has(window.style, ControlStyle::MultiColumn);
-    control.inView = std::max(1, inColumns ? window.place.Width() / window.list.columnWidth
-                                           : window.place.Height() / RowHeight);
+    control.inView = RowsInView(window);
     return control;
 }
 
@@ -79,23 +88,20 @@ Picture TakePicture(HWND hPanel)
     return picture;
 }
 
-std::string NameOf(WindowKind kind, int id)
+const char* KindName(WindowKind kind)
 {
-    const std::string number = std::to_string(id);
     switch (kind) {
-    case WindowKind::ListBox: return "list " + number;
-    case WindowKind::EditBox: return "box " + number;
-    case WindowKind::Button: return "button " + number;
+    case WindowKind::ListBox: return "list";
+    case WindowKind::EditBox: return "box";
+    case WindowKind::Button: return "button";
     default: return "label";
     }
 }
 
-std::string Quoted(const std::string& text)
+std::string NameOf(WindowKind kind, int id)
 {
-    std::string quoted = "\"";
-    quoted += text;
-    quoted += '"';
-    return quoted;
+    const std::string name = KindName(kind);
+    return kind == WindowKind::Label ? name : name + " " + std::to_string(id);
 }
 
 std::vector<std::string> Changes(const Picture& before, const Picture& after)
