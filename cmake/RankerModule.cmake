@@ -1,5 +1,6 @@
 # The module: one shared library made of its rooms.
 add_library(RankerModule SHARED
+  RankerModule.cpp
   geometry/DPoint.cpp
   host/BarText.cpp
   host/HostLink.cpp
@@ -14,15 +15,15 @@ add_library(RankerModule SHARED
   panels/BeamSteelDlgEdit.cpp
   panels/BeamSteelDlgLists.cpp
   panels/LevelText.cpp
-  panels/ListRows.cpp
+  panels/private/ListRows.cpp
   panels/NameText.cpp
-  panels/PanelFrame.cpp
+  panels/private/PanelFrame.cpp
   panels/SectionText.cpp
   pickers/ColSpecControls.cpp
   pickers/HBarPropertySheet.cpp
-  pickers/ItemBinding.cpp
+  pickers/private/ItemBinding.cpp
   pickers/VBarPropertySheet.cpp
-  rankers/BarOrder.cpp
+  rankers/private/BarOrder.cpp
   rankers/BeamLevelRanker.cpp
   rankers/BeamNameRanker.cpp
   rankers/BeamSizeRanker.cpp
@@ -30,7 +31,7 @@ add_library(RankerModule SHARED
   rankers/ChaBiaoRankerOrder.cpp
   rankers/GuJinRanker.cpp
   rankers/HitnessRanker.cpp
-  rankers/Repeats.cpp
+  rankers/private/Repeats.cpp
   tables/GuJinBiao.cpp
   tables/SteelBiao.cpp)
 target_include_directories(RankerModule PUBLIC

@@ -21,7 +21,6 @@ namespace Desk {
 namespace {
 
 namespace fs = std::filesystem;
-using namespace Import;
 
 struct Options {
     std::string texts;

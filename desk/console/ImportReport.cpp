@@ -6,7 +6,7 @@
 #include <map>
 #include <ostream>
 
-namespace Desk::Import {
+namespace Desk {
 
 namespace {
 
@@ -85,10 +85,8 @@ public:
             }
         }
         m_out << "\n  annotations read as\n";
-        for (const Field field : AllFields) {
-            if (counts[field] > 0) {
-                m_out << "  " << Padded(FieldName(field), Width) << Right(counts[field], 7) << "\n";
-            }
+        for (const auto& [field, count] : counts) {
+            m_out << "  " << Padded(FieldName(field), Width) << Right(count, 7) << "\n";
         }
     }
 
@@ -215,4 +213,4 @@ void PrintReport(std::ostream& out, const std::string& name, const TextsFile& fi
     }
 }
 
-}  // namespace Desk::Import
+}  // namespace Desk

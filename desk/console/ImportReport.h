@@ -7,7 +7,7 @@
 
 #include "desk/reading/ImportTexts.h"
 
-namespace Desk::Import {
+namespace Desk {
 
 // name is that of the texts' file. With all true every text is listed with what it was read as.
 void PrintReport(std::ostream& out, const std::string& name, const TextsFile& file,
@@ -19,4 +19,4 @@ void PrintReport(std::ostream& out, const std::string& name, const TextsFile& fi
 // "12, 40-57": numbers that rise, runs of three and more as a range.
 [[nodiscard]] std::string Ranges(const std::vector<std::size_t>& numbers);
 
-}  // namespace Desk::Import
+}  // namespace Desk

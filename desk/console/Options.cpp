@@ -6,6 +6,8 @@
 #include <CLI/CLI.hpp>
 
 #include "desk/console/Print.h"
+#include "desk/project/Failure.h"
+#include "desk/reading/Bars.h"
 
 namespace Desk {
 
@@ -27,6 +29,13 @@ CLI::Validator Whole(int least, int most)
         return good ? std::string() : "a whole number from " + range + " is required, not " + Quoted(text);
     };
     return CLI::Validator(check, "");
+}
+
+void RequireBars(const std::string& text)
+{
+    if (!ReadBars(text)) {
+        throw Failure("\"" + text + "\" is no bar annotation; 2B25 or 2B22+1B25 would be");
+    }
 }
 
 }  // namespace Desk

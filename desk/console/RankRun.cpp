@@ -6,23 +6,60 @@
 
 #include <CLI/CLI.hpp>
 
+#include "desk/console/Options.h"
 #include "desk/console/Print.h"
+#include "desk/project/Failure.h"
 #include "desk/project/FindBeam.h"
 #include "desk/project/ProjectFile.h"
-#include "desk/ranking/BarKinds.h"
+#include "desk/reading/Bars.h"
 
 namespace Desk {
 
 namespace {
 
-TableAnswer RowsFor(const BarQuery& query)
+// The fields of beams that have a kind text of their own.
+std::vector<const FieldRow*> FieldsOfKind(const std::string& kind)
 {
-    switch (WantedBars(query.kind)) {
-    case Bars::Top: return BarsFor(query.width, query.area, BarColumn::Top);
-    case Bars::Bottom: return BarsFor(query.width, query.area, BarColumn::Bottom);
-    case Bars::Complete: break;
+    std::vector<const FieldRow*> rows;
+    for (const Field field : BeamFields()) {
+        if (const FieldRow& row = RowOf(field); row.ranker == Ranker::Bars && kind == row.barKind) {
+            rows.push_back(&row);
+        }
     }
-    return BarsOn(query.width, query.area, query.kind);
+    return rows;
+}
+
+// "Top through bars (kind 1)".
+std::string NameOfKind(const std::string& kind)
+{
+    std::string name;
+    for (const FieldRow* const row : FieldsOfKind(kind)) {
+        name += (name.empty() ? "" : " / ") + std::string(row->english);
+    }
+    return name.empty() ? "Complete top bars at the ends, on through bars " + kind
+                        : name + " (kind " + kind + ")";
+}
+
+TableAnswer RowsFor(const Question& question)
+{
+    const int width = question.width.value_or(0);
+    const int area = question.area.value_or(0);
+    if (FieldsOfKind(question.barKind).empty()) {
+        return BarsOn(width, area, question.barKind);
+    }
+    const bool isBottom = question.barKind.starts_with("5.");
+    return BarsFor(width, area, isBottom ? BarColumn::Bottom : BarColumn::Top);
+}
+
+// The end that a word stands for; of both ends the one that needs more steel.
+std::optional<Field> EndOf(const std::string& word, const Beam& beam)
+{
+    if (word == "ends") {
+        return beam.area.leftEnd >= beam.area.rightEnd ? Field::LeftEnd : Field::RightEnd;
+    }
+    return word == "left"    ? std::optional(Field::LeftEnd)
+           : word == "right" ? std::optional(Field::RightEnd)
+                             : std::nullopt;
 }
 
 }  // namespace
@@ -42,68 +79,68 @@ void RankRun::Names()
 {
     Head("name", "Names for the next beam");
     m_view.beam.clear();  // its own name is taken and never in the list
-    Print(RankNames(m_project, m_options.projectKind));
+    Print({.ranker = Ranker::Names, .projectKind = m_options.projectKind});
 }
 
 void RankRun::Sections()
 {
     Head("section", "Sections");
-    Print(RankSections(m_project, m_options.projectKind), &Beam::section);
+    Print({.ranker = Ranker::Sections, .projectKind = m_options.projectKind}, &Beam::section);
 }
 
 void RankRun::Elevations()
 {
     Head("elevation", "Elevations");
-    Print(RankElevations(m_project), &Beam::elevation);
+    Print({.ranker = Ranker::Elevations}, &Beam::elevation);
 }
 
 void RankRun::Bars()
 {
-    BarQuery query;
-    query.kind = KindOfBars();
-    query.projectKind = m_options.projectKind;
-    query.table = m_options.table;
-    const bool hasBeam = m_beam != nullptr;
-    const auto width = Number(m_options.width, "--width", hasBeam ? WidthOf(*m_beam) : std::nullopt);
-    const auto area = Number(m_options.area, "--area",
-                             hasBeam ? std::optional(AreaFor(*m_beam, query.kind)) : std::nullopt);
-    query.width = width.value_or(0);
-    query.area = area.value_or(0);
-    Head("bars", BarKindName(query.kind));
-    m_view.question["kind"] = query.kind;
-    Say("width", width, ", width ", " mm");
-    Say("area", area, ", area ", " mm²");
-    const Ranking ranking = RankBars(m_project, query);
-    if (query.table) {
-        RemarkOnTable(ranking, RowsFor(query));
+    Question question = BarQuestion();
+    question.projectKind = m_options.projectKind;
+    question.wantsTable = m_options.table;
+    question.width = Number(m_options.width, "--width", question.width);
+    question.area = Number(m_options.area, "--area", question.area);
+    Head("bars", NameOfKind(question.barKind));
+    m_view.question["kind"] = question.barKind;
+    Say("width", question.width, ", width ", " mm");
+    Say("area", question.area, ", area ", " mm²");
+    const Ranking ranking = Rank(m_project, question);
+    if (question.wantsTable) {
+        RemarkOnTable(ranking, RowsFor(question));
     }
-    if (hasBeam) {
-        m_view.present = PresentBars(*m_beam, query.kind);
+    if (m_beam != nullptr) {
+        for (const std::string* const text : BarTexts(*m_beam, question.barKind)) {
+            if (!text->empty()) {
+                m_view.present.push_back(*text);
+            }
+        }
     }
     Print(ranking);
 }
 
 void RankRun::Stirrups()
 {
-    StirrupQuery query;
-    query.projectKind = m_options.projectKind;
-    query.table = m_options.table;
-    const auto width =
-        Number(m_options.width, "--width", m_beam != nullptr ? WidthOf(*m_beam) : std::nullopt);
-    const auto grade = Number(m_options.grade, "--grade", OfBeam(&Beam::concreteGrade));
-    const auto seismic = Number(m_options.seismicClass, "--seismic", OfBeam(&Beam::seismicClass));
-    query.width = width.value_or(0);
-    query.grade = grade.value_or(0);
-    query.seismicClass = seismic.value_or(0);
+    Question question = m_beam != nullptr ? QuestionFor(*m_beam, Field::Stirrup, m_options.table)
+                                          : Question{.ranker = Ranker::Stirrups};
+    question.projectKind = m_options.projectKind;
+    question.wantsTable = m_options.table;
+    question.width = Number(m_options.width, "--width", question.width);
+    question.grade = Number(m_options.grade, "--grade", question.grade);
+    question.seismicClass = Number(m_options.seismicClass, "--seismic", question.seismicClass);
     Head("stirrups", "Stirrups");
-    Say("width", width, ", width ", " mm");
-    Say("grade", grade, ", concrete grade ", "");
-    Say("seismic", seismic, ", seismic class ", "");
-    const Ranking ranking = RankStirrups(m_project, query);
-    if (query.table) {
-        RemarkOnTable(ranking, StirrupsFor(query.width, query.grade, query.seismicClass));
+    Say("width", question.width, ", width ", " mm");
+    Say("grade", question.grade, ", concrete grade ", "");
+    Say("seismic", question.seismicClass, ", seismic class ", "");
+    const Ranking ranking = Rank(m_project, question);
+    if (question.wantsTable) {
+        RemarkOnTable(ranking, StirrupsFor(question.width.value_or(0), question.grade.value_or(0),
+                                           question.seismicClass.value_or(0)));
     }
-    Print(ranking, &Beam::stirrup);
+    if (m_beam != nullptr) {
+        m_view.present = {m_beam->stirrup};
+    }
+    Print(ranking);
 }
 
 std::optional<int> RankRun::Number(const std::optional<int>& typed, const char* option,
@@ -122,21 +159,38 @@ std::optional<int> RankRun::Number(const std::optional<int>& typed, const char* 
     return std::nullopt;
 }
 
-std::optional<int> RankRun::OfBeam(int Beam::*member) const
-{
-    return m_beam != nullptr ? std::optional(m_beam->*member) : std::nullopt;
-}
-
-std::string RankRun::KindOfBars() const
+// A kind that is typed is asked as it is; an end of the beam is asked as its field.
+Question RankRun::BarQuestion() const
 {
     if (m_options.kind && m_options.top) {
         throw CLI::ValidationError("--kind and --top exclude each other");
     }
-    if (m_options.top) {
-        RequireBars(*m_options.top);
-        return *m_options.top;
+    const std::string kind = m_options.top.value_or(m_options.kind.value_or("1"));
+    const bool isEnd = !m_options.top && EndOf(kind, Beam()).has_value();
+    if (isEnd && m_beam == nullptr) {
+        throw Failure("--kind " + kind + " needs --beam NAME, whose through bars it takes");
     }
-    return BarKind(m_options.kind.value_or("1"), m_beam);
+    if (isEnd) {
+        if (m_beam->topBars.empty()) {
+            throw Failure("beam " + m_beam->name + " has no through bars; give them with --top");
+        }
+        return QuestionFor(*m_beam, *EndOf(kind, *m_beam), false);
+    }
+    const std::vector<const FieldRow*> rows = FieldsOfKind(kind);
+    if (m_options.top) {
+        RequireBars(kind);
+    } else if (rows.empty() && !ReadBars(kind)) {
+        throw Failure("\"" + kind +
+                      "\" is no kind of bars: 1, 2, 3, 4, 5.1, 5.2 or through bars such as 2B25 are");
+    }
+    Question question;
+    if (m_beam != nullptr) {
+        question =
+            QuestionFor(*m_beam, rows.empty() ? *EndOf("ends", *m_beam) : rows.front()->field, false);
+    }
+    question.barKind = kind;
+    question.heads.clear();
+    return question;
 }
 
 void RankRun::Head(const char* what, const std::string& heading)
@@ -170,12 +224,12 @@ void RankRun::RemarkOnTable(const Ranking& ranking, const TableAnswer& rows)
     }
 }
 
-void RankRun::Print(const Ranking& ranking, std::string Beam::*member)
+void RankRun::Print(const Question& question, std::string Beam::*member)
 {
-    if (m_beam != nullptr) {
+    if (m_beam != nullptr && member != nullptr) {
         m_view.present = {m_beam->*member};
     }
-    Print(ranking);
+    Print(Rank(m_project, question));
 }
 
 void RankRun::Print(const Ranking& ranking)

@@ -43,12 +43,11 @@ private:
     // The number that was typed, else the beam's; nothing where there is neither and no table needs it.
     [[nodiscard]] std::optional<int> Number(const std::optional<int>& typed, const char* option,
                                             const std::optional<int>& ofBeam) const;
-    [[nodiscard]] std::optional<int> OfBeam(int Beam::*member) const;
-    [[nodiscard]] std::string KindOfBars() const;
+    [[nodiscard]] Question BarQuestion() const;
     void Head(const char* what, const std::string& heading);
     void Say(const char* key, const std::optional<int>& number, const char* before, const char* after);
     void RemarkOnTable(const Ranking& ranking, const TableAnswer& rows);
-    void Print(const Ranking& ranking, std::string Beam::*member);
+    void Print(const Question& question, std::string Beam::*member = nullptr);
     void Print(const Ranking& ranking);
 
     const RankOptions& m_options;

@@ -12,7 +12,6 @@
 
 #include "desk/console/Options.h"
 #include "desk/console/Print.h"
-#include "desk/ranking/BarKinds.h"
 #include "desk/ranking/Tables.h"
 
 namespace Desk {

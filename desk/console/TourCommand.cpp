@@ -2,7 +2,6 @@
 #include "desk/console/Commands.h"
 
 #include <algorithm>
-#include <array>
 #include <memory>
 #include <numeric>
 #include <ostream>
@@ -15,7 +14,6 @@
 #include "desk/console/RankingPrint.h"
 #include "desk/project/FindBeam.h"
 #include "desk/project/ProjectFile.h"
-#include "desk/ranking/BarKinds.h"
 
 namespace Desk {
 
@@ -37,35 +35,44 @@ struct List {
 const Beam* FullestBeam(const Project& project)
 {
     const auto count = [](const Beam& beam) {
-        const std::array texts = {&beam.section, &beam.elevation, &beam.stirrup,  &beam.topBars,
-                                  &beam.leftEnd, &beam.rightEnd,  &beam.erection, &beam.bottomBars,
-                                  &beam.torsion, &beam.side};
-        return std::count_if(texts.begin(), texts.end(),
-                             [](const std::string* text) { return !text->empty(); });
+        const std::span<const Field> fields = BeamFields();
+        return std::count_if(fields.begin(), fields.end(), [&beam](Field field) {
+            return field != Field::Name && !(beam.*RowOf(field).ofBeam).empty();
+        });
     };
     const auto fewer = [&count](const Beam& a, const Beam& b) { return count(a) < count(b); };
     const auto fullest = std::max_element(project.beams.begin(), project.beams.end(), fewer);
     return fullest == project.beams.end() ? nullptr : &*fullest;
 }
 
+// A list for each field that has one of its own: the ends share theirs, and so do torsion and side bars.
 std::vector<List> Lists(const Project& project, const Beam& beam)
 {
-    const auto bars = [&](const std::string& title, const std::string& kind) {
-        BarQuery query;
-        query.kind = kind;
-        return List{title, RankBars(project, query), PresentBars(beam, kind)};
-    };
     std::vector<List> lists;
-    lists.push_back({"next beam's name", RankNames(project), {}});
-    lists.push_back({"section", RankSections(project), {beam.section}, true});
-    lists.push_back({"elevation", RankElevations(project), {beam.elevation}, true});
-    lists.push_back({"stirrups", RankStirrups(project, {}), {beam.stirrup}, true});
-    lists.push_back(bars("top through bars", "1"));
-    lists.push_back(beam.topBars.empty() ? bars("left end", "2")
-                                         : bars("at the ends on " + beam.topBars, beam.topBars));
-    lists.push_back(bars("bottom bars", "5.1"));
-    lists.push_back(bars("erection bars", "4"));
-    lists.push_back(bars("side and torsion bars", "5.2"));
+    for (const Field field : {Field::Name, Field::Section, Field::Elevation, Field::Stirrup, Field::TopBars,
+                              Field::LeftEnd, Field::BottomBars, Field::Erection, Field::Side}) {
+        const FieldRow& row = RowOf(field);
+        Question question = QuestionFor(beam, field, false);
+        question.heads.clear();
+        List list{row.english, Rank(project, question), {}, false};
+        if (row.ranker == Ranker::Bars) {
+            for (const std::string* const text : BarTexts(beam, question.barKind)) {
+                list.present.push_back(*text);
+            }
+            std::erase(list.present, std::string());
+        } else if (row.ranker != Ranker::Names) {
+            list.present = {beam.*row.ofBeam};
+            list.isBySize = true;
+        }
+        if (question.barKind != row.barKind) {
+            list.title = "Ends on " + question.barKind;
+        } else if (*row.heads != '\0') {
+            list.title = "Side and torsion bars";
+        } else if (row.ranker == Ranker::Names) {
+            list.title = "Name of the next beam";
+        }
+        lists.push_back(std::move(list));
+    }
     return lists;
 }
 

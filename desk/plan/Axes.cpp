@@ -1,9 +1,5 @@
 #include "desk/plan/Axes.h"
 
-#include <algorithm>
-
-#include "desk/project/JsonText.h"
-
 namespace Desk {
 
 namespace {
@@ -11,39 +7,13 @@ namespace {
 constexpr double Overhang = 2200.0;  // mm that an axis goes beyond the last crossing one
 constexpr double Bubble = 450.0;     // mm, radius
 
-struct Axis {
-    QString label;
-    double place = 0.0;  // mm
-};
-
-std::vector<Axis> ReadAxes(const Project& project, const char* direction)
-{
-    std::vector<Axis> axes;
-    const auto all = project.source.find("axes");
-    if (all == project.source.end() || !all->is_object() || !all->contains(direction)) {
-        return axes;
-    }
-    const auto& named = (*all)[direction];
-    if (!named.is_object()) {
-        return axes;
-    }
-    for (const auto& [label, place] : named.items()) {
-        double number = 0.0;
-        if (JsonNumber(place, number)) {
-            axes.push_back({QString::fromStdString(label), number});
-        }
-    }
-    std::sort(axes.begin(), axes.end(), [](const Axis& a, const Axis& b) { return a.place < b.place; });
-    return axes;
-}
-
 class AxesItem : public QGraphicsItem {
 public:
     AxesItem(std::vector<Axis> across, std::vector<Axis> up, const PlanColors& colors)
         : m_across(std::move(across)), m_up(std::move(up)), m_colors(colors)
     {
         const auto range = [](const std::vector<Axis>& axes) {
-            return axes.empty() ? std::pair(0.0, 0.0) : std::pair(axes.front().place, axes.back().place);
+            return axes.empty() ? std::pair(0.0, 0.0) : std::pair(axes.front().at, axes.back().at);
         };
         const auto [left, right] = range(m_across);
         const auto [low, high] = range(m_up);
@@ -64,13 +34,15 @@ public:
         painter->setFont(PlanFont());
         for (const Axis& axis : m_across) {
             painter->setPen(dashes);
-            painter->drawLine(QPointF(axis.place, m_lines.top()), QPointF(axis.place, m_lines.bottom()));
-            PaintBubble(*painter, QPointF(axis.place, m_lines.bottom() + Bubble), axis.label);
+            painter->drawLine(QPointF(axis.at, m_lines.top()), QPointF(axis.at, m_lines.bottom()));
+            PaintBubble(*painter, QPointF(axis.at, m_lines.bottom() + Bubble),
+                        QString::fromStdString(axis.label));
         }
         for (const Axis& axis : m_up) {
             painter->setPen(dashes);
-            painter->drawLine(QPointF(m_lines.left(), -axis.place), QPointF(m_lines.right(), -axis.place));
-            PaintBubble(*painter, QPointF(m_lines.left() - Bubble, -axis.place), axis.label);
+            painter->drawLine(QPointF(m_lines.left(), -axis.at), QPointF(m_lines.right(), -axis.at));
+            PaintBubble(*painter, QPointF(m_lines.left() - Bubble, -axis.at),
+                        QString::fromStdString(axis.label));
         }
     }
 
@@ -96,10 +68,9 @@ private:
 
 QGraphicsItem* MakeAxes(const Project& project, bool dark)
 {
-    std::vector<Axis> across = ReadAxes(project, "x");
-    std::vector<Axis> up = ReadAxes(project, "y");
-    return across.empty() && up.empty() ? nullptr
-                                        : new AxesItem(std::move(across), std::move(up), ColorsFor(dark));
+    return project.axesAcross.empty() && project.axesUp.empty()
+               ? nullptr
+               : new AxesItem(project.axesAcross, project.axesUp, ColorsFor(dark));
 }
 
 }  // namespace Desk

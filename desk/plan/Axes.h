@@ -5,8 +5,7 @@
 
 namespace Desk {
 
-// From the project's "axes": {"x": {"1": 0}, "y": {"A": 0}} in mm. What is not of that form is left out;
-// null when nothing is left.
+// Null for a project without axes.
 [[nodiscard]] QGraphicsItem* MakeAxes(const Project& project, bool dark);
 
 }  // namespace Desk

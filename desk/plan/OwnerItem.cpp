@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "desk/reading/ReadSection.h"
+#include "desk/reading/Section.h"
 
 namespace Desk {
 
@@ -73,8 +73,8 @@ void OwnerItem::TakeTexts(const Project& project)
         m_block = BlockOf(wall);
     } else {
         const Beam& beam = project.beams[m_index];
-        const std::optional<SectionSize> size = ReadSize(beam.section);
-        m_width = size ? size->width : DefaultWidth;
+        const int width = WidthOf(beam.section);
+        m_width = width > 0 ? width : DefaultWidth;
         m_block = BlockOf(beam);
         m_ends = {EndLabel(Field::LeftEnd, beam.leftEnd), EndLabel(Field::RightEnd, beam.rightEnd)};
     }

@@ -4,6 +4,9 @@
 #include <cmath>
 #include <numeric>
 
+#include "desk/reading/Bars.h"
+#include "desk/reading/Stirrup.h"
+
 namespace Desk {
 
 namespace {
@@ -19,8 +22,8 @@ public:
 
     SectionLayout Build()
     {
-        const std::optional<SectionSize> size = ReadSize(m_beam.section);
-        if (!size) {
+        const std::optional<Section> size = ReadSection(m_beam.section);
+        if (!size || size->width == 0) {
             AddFault(m_beam.section.empty() ? Fault::NoSize : Fault::Unreadable, Field::Section);
             return m_layout;
         }
@@ -38,19 +41,19 @@ private:
     void AddFault(Fault fault, Field field) { m_layout.faults.push_back({fault, field}); }
 
     // Nothing for an empty text; for one that is no bars a fault as well.
-    std::optional<BarRows> Read(const std::string& text, Field field)
+    BarRows Read(const std::string& text, Field field)
     {
-        std::optional<BarRows> read = text.empty() ? std::nullopt : ReadBars(text);
-        if (!read && !text.empty()) {
+        const std::optional<Bars> bars = ReadBars(text);
+        if (!bars && !text.empty()) {
             AddFault(Fault::Unreadable, field);
         }
         m_rowsField = field;
-        return read;
+        return bars ? bars->RowsFromTop() : BarRows();
     }
 
     void AddStirrup()
     {
-        const std::optional<StirrupSize> stirrup = ReadStirrup(m_beam.stirrup);
+        const std::optional<Stirrup> stirrup = ReadStirrup(m_beam.stirrup);
         if (!stirrup) {
             if (!m_beam.stirrup.empty()) {
                 AddFault(Fault::Unreadable, Field::Stirrup);
@@ -66,26 +69,26 @@ private:
     }
 
     // At an end its bars, all of them; in the span the through bars with the erection bars between.
-    std::optional<BarRows> TopBars()
+    BarRows TopBars()
     {
         const bool left = m_field == Field::LeftEnd && !m_beam.leftEnd.empty();
         const bool right = m_field == Field::RightEnd && !m_beam.rightEnd.empty();
         if (left || right) {
             const std::string& text = left ? m_beam.leftEnd : m_beam.rightEnd;
             const Field field = left ? Field::LeftEnd : Field::RightEnd;
-            std::optional<BarRows> read = Read(text, field);
+            BarRows read = Read(text, field);
             NoteSteel(field, text, left ? m_beam.area.leftEnd : m_beam.area.rightEnd);
             return read;
         }
-        const std::optional<BarRows> erection = Read(m_beam.erection, Field::Erection);
-        std::optional<BarRows> read = Read(m_beam.topBars, Field::TopBars);
+        const BarRows erection = Read(m_beam.erection, Field::Erection);
+        BarRows read = Read(m_beam.topBars, Field::TopBars);
         const int required = m_field == Field::LeftEnd    ? m_beam.area.leftEnd
                              : m_field == Field::RightEnd ? m_beam.area.rightEnd
                                                           : m_beam.area.top;
         NoteSteel(Field::TopBars, m_beam.topBars, required);
-        if (read && erection) {
-            std::vector<int>& row = read->rows.front();
-            const std::vector<int>& between = erection->rows.front();
+        if (!read.empty() && !erection.empty()) {
+            std::vector<int>& row = read.front();
+            const std::vector<int>& between = erection.front();
             row.insert(row.begin() + static_cast<std::ptrdiff_t>((row.size() + 1) / 2), between.begin(),
                        between.end());
         }
@@ -97,7 +100,7 @@ private:
         if (text.empty()) {
             return;
         }
-        const std::optional<BarRows> read = ReadBars(text);
+        const std::optional<Bars> read = ReadBars(text);
         m_layout.notes.push_back({field, text, read ? read->Area() : 0.0, required});
         if (read && std::lround(read->Area()) < required) {
             AddFault(Fault::TooLittleSteel, field);
@@ -105,14 +108,13 @@ private:
     }
 
     // Lays rows from a face inwards; answers the height in the section that they reach to.
-    double AddRows(const std::optional<BarRows>& bars, bool fromTop)
+    double AddRows(BarRows rows, bool fromTop)
     {
         const double stirrup = m_layout.stirrup != 0 ? m_layout.stirrup : DefaultStirrup;
         double depth = m_layout.cover + stirrup;
         const double left = depth;
         const double right = m_layout.size.width - depth;
         // Texts name rows from the top down; the last one of the bottom bars lies at the face.
-        std::vector<std::vector<int>> rows = bars ? bars->rows : std::vector<std::vector<int>>();
         if (!fromTop) {
             std::reverse(rows.begin(), rows.end());
         }
@@ -146,14 +148,14 @@ private:
     {
         for (const Field field : {Field::Side, Field::Torsion}) {
             const std::string& text = field == Field::Side ? m_beam.side : m_beam.torsion;
-            const std::optional<BarRows> bars = Read(text, field);
+            const BarRows bars = Read(text, field);
             if (!text.empty()) {
                 m_layout.notes.push_back({field, text, 0.0, 0});
             }
-            if (!bars) {
+            if (bars.empty()) {
                 continue;
             }
-            const std::vector<int>& all = bars->rows.front();
+            const std::vector<int>& all = bars.front();
             const std::size_t levels = (all.size() + 1) / 2;
             const double face =
                 m_layout.cover + (m_layout.stirrup != 0 ? m_layout.stirrup : DefaultStirrup);

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "desk/project/Fields.h"
-#include "desk/reading/ReadSection.h"
+#include "desk/reading/Section.h"
 
 namespace Desk {
 
@@ -32,7 +32,7 @@ struct SectionNote {
 };
 
 struct SectionLayout {
-    SectionSize size;
+    Section size;
     double cover = 0.0;             // mm from the face to the stirrup
     int stirrup = 0;                // mm, its diameter; 0 for none
     std::vector<double> innerLegs;  // x of the legs between the two outer ones

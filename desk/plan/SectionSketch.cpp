@@ -48,7 +48,7 @@ void SectionSketch::paintEvent(QPaintEvent* /*event*/)
     const int right = NotesWidth() + 2 * NoteGap;
     const QRectF room(LeftMargin, TopMargin, std::max(20, width() - LeftMargin - right),
                       std::max(20, height() - TopMargin - below));
-    const SectionSize size = m_layout.size;
+    const Section size = m_layout.size;
     if (size.width > 0) {
         const double scale = std::min(room.width() / size.width, room.height() / size.height);
         const QRectF section(room.left() + (room.width() - size.width * scale) / 2,
@@ -71,7 +71,7 @@ void SectionSketch::paintEvent(QPaintEvent* /*event*/)
 
 void SectionSketch::PaintConcrete(QPainter& painter, const QTransform& toWidget) const
 {
-    const SectionSize size = m_layout.size;
+    const Section size = m_layout.size;
     const bool dark = palette().color(QPalette::Base).lightness() < 128;
     painter.setPen(QPen(palette().color(QPalette::Text), 1.6));
     painter.setBrush(dark ? QColor(0x33, 0x38, 0x40) : QColor(0xE6, 0xE8, 0xEB));

@@ -61,6 +61,28 @@ private:
 
 }  // namespace
 
+std::size_t Utf8Length(std::string_view text)
+{
+    const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    const unsigned char lead = byte(0);
+    if (lead < 0x80) {
+        return 1;
+    }
+    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4 || text.size() < length) {
+        return 0;
+    }
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byte(i) & 0xC0U) != 0x80U) {
+            return 0;
+        }
+    }
+    const bool overlong = (lead == 0xE0 && byte(1) < 0xA0) || (lead == 0xF0 && byte(1) < 0x90);
+    const bool surrogate = lead == 0xED && byte(1) > 0x9F;
+    const bool tooHigh = lead == 0xF4 && byte(1) > 0x8F;
+    return overlong || surrogate || tooHigh ? 0 : length;
+}
+
 std::optional<CString> GbkFromUtf8(std::string_view text)
 {
     if (IsAscii(text)) {

@@ -52,7 +52,7 @@ Project GenerateProject(int beams, unsigned seed)
     project.title = "Generated, " + std::to_string(beams) + " beams";
     for (int i = 0; i < beams; ++i) {
         Beam beam = draw.From(sample.beams);
-        beam.source = nlohmann::ordered_json::object();
+        beam.inFile = nullptr;
         // Bars follow the section; the rest is drawn for itself, as designers mix it.
         beam.stirrup = draw.From(sample.beams).stirrup;
         beam.elevation = draw.From(sample.beams).elevation;
@@ -64,7 +64,7 @@ Project GenerateProject(int beams, unsigned seed)
     }
     for (int i = 0; i < beams / 10 && !sample.walls.empty(); ++i) {
         Wall wall = draw.From(sample.walls);
-        wall.source = nlohmann::ordered_json::object();
+        wall.inFile = nullptr;
         wall.name = std::string("Q").append(std::to_string(i + 1));
         PlaceOnGrid(i * 10, wall.start, wall.end);
         wall.end = {(wall.start.x + wall.end.x) / 2, (wall.start.y + wall.end.y) / 2};

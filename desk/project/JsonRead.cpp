@@ -7,6 +7,8 @@
 #include <unordered_set>
 #include <vector>
 
+#include "desk/project/Encoding.h"
+
 namespace Desk {
 
 namespace {
@@ -15,33 +17,10 @@ constexpr std::size_t MaxDepth = 64;
 constexpr std::size_t FewKeys = 16;  // up to here a walk over the keys is cheaper than a hash
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
-// Length of the UTF-8 character at the head of a text, 0 when there is no valid one.
-std::size_t CharacterLength(std::string_view text)
-{
-    const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned char lead = byte(0);
-    if (lead < 0x80) {
-        return 1;
-    }
-    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    if (lead < 0xC2 || lead > 0xF4 || text.size() < length) {
-        return 0;
-    }
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xC0U) != 0x80U) {
-            return 0;
-        }
-    }
-    const bool overlong = (lead == 0xE0 && byte(1) < 0xA0) || (lead == 0xF0 && byte(1) < 0x90);
-    const bool surrogate = lead == 0xED && byte(1) > 0x9F;
-    const bool tooHigh = lead == 0xF4 && byte(1) > 0x8F;
-    return overlong || surrogate || tooHigh ? 0 : length;
-}
-
 void CheckCharacters(std::string_view text)
 {
     for (std::size_t at = 0; at < text.size();) {
-        const std::size_t length = CharacterLength(text.substr(at));
+        const std::size_t length = Utf8Length(text.substr(at));
         if (length == 0) {
             throw JsonFault(at, "not UTF-8");
         }

@@ -1,20 +1,24 @@
 // The drafting host's project: the beams and walls of a building with their annotation texts.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
 namespace Desk {
 
-// A place on the plan in mm.
+// A position on the plan in mm.
 struct PlanPoint {
     double x = 0.0;
     double y = 0.0;
 };
 
-// Required steel area by place, in mm².
+// What the project file holds of an object, all its keys in their order: what the program does not know
+// stays until the next save. Null for what comes from no file. Made and read by ProjectFile.
+struct FileObject;
+using InFile = std::shared_ptr<const FileObject>;
+
+// Required steel area in mm², by where it is needed.
 struct SteelArea {
     int top = 0;
     int bottom = 0;
@@ -41,8 +45,7 @@ struct Beam {
     SteelArea area;
     PlanPoint start;
     PlanPoint end;
-    // As read from the file: it keeps unknown keys and the order of keys until the next save.
-    nlohmann::ordered_json source = nlohmann::ordered_json::object();
+    InFile inFile;
 };
 
 // A wall with its distributed bars.
@@ -53,14 +56,22 @@ struct Wall {
     std::string verticalBars;    // A10@150
     PlanPoint start;
     PlanPoint end;
-    nlohmann::ordered_json source = nlohmann::ordered_json::object();
+    InFile inFile;
+};
+
+// An axis of the floor: its label and where it crosses the other direction, in mm.
+struct Axis {
+    std::string label;
+    double at = 0.0;
 };
 
 struct Project {
     std::string title;
     std::vector<Beam> beams;  // in project order
     std::vector<Wall> walls;
-    nlohmann::ordered_json source = nlohmann::ordered_json::object();
+    std::vector<Axis> axesAcross;  // those that cross x, from left to right
+    std::vector<Axis> axesUp;      // those that cross y, from below
+    InFile inFile;
 };
 
 }  // namespace Desk

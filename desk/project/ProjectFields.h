@@ -4,20 +4,23 @@
 #include <cmath>
 #include <optional>
 
+#include "desk/project/Fields.h"
 #include "desk/project/JsonText.h"
-#include "desk/project/Project.h"
 
 namespace Desk {
 
 inline constexpr int FormatVersion = 1;
 inline constexpr double PlanLimit = 1e9;  // mm, a thousand kilometres
 
-// A text of the project: whether it goes to the module, which holds GBK, and must then have a GBK form.
+struct FileObject {
+    Json json = Json::object();
+};
+
+// A text that does not go to the module; annotations are those of the table of fields.
 template <class Owner>
 struct TextField {
     const char* key;
     std::string Owner::*member;
-    bool isAnnotation = true;
 };
 
 template <class Owner>
@@ -34,14 +37,8 @@ struct PointField {
     PlanPoint Owner::*member;
 };
 
-inline constexpr TextField<Project> ProjectTexts[] = {{"title", &Project::title, false}};
-
-inline constexpr TextField<Beam> BeamTexts[] = {
-    {"name", &Beam::name},       {"section", &Beam::section},   {"elevation", &Beam::elevation},
-    {"stirrup", &Beam::stirrup}, {"topBars", &Beam::topBars},   {"bottomBars", &Beam::bottomBars},
-    {"leftEnd", &Beam::leftEnd}, {"rightEnd", &Beam::rightEnd}, {"erection", &Beam::erection},
-    {"torsion", &Beam::torsion}, {"side", &Beam::side},         {"floor", &Beam::floor, false},
-};
+inline constexpr TextField<Project> ProjectTexts[] = {{"title", &Project::title}};
+inline constexpr TextField<Beam> BeamTexts[] = {{"floor", &Beam::floor}};
 inline constexpr NumberField<Beam> BeamNumbers[] = {
     {"concreteGrade", &Beam::concreteGrade, 10, 100},
     {"seismicClass", &Beam::seismicClass, 1, 4},
@@ -54,11 +51,6 @@ inline constexpr NumberField<SteelArea> AreaNumbers[] = {
 };
 inline constexpr PointField<Beam> BeamPoints[] = {{"start", &Beam::start}, {"end", &Beam::end}};
 
-inline constexpr TextField<Wall> WallTexts[] = {
-    {"name", &Wall::name},
-    {"horizontalBars", &Wall::horizontalBars},
-    {"verticalBars", &Wall::verticalBars},
-};
 inline constexpr NumberField<Wall> WallNumbers[] = {{"thickness", &Wall::thickness, 0, 10'000}};
 inline constexpr PointField<Wall> WallPoints[] = {{"start", &Wall::start}, {"end", &Wall::end}};
 
@@ -72,7 +64,7 @@ inline constexpr PointField<Wall> WallPoints[] = {{"start", &Wall::start}, {"end
     return static_cast<int>(number);
 }
 
-// The two coordinates of a place; nothing for anything else.
+// The two coordinates of a position; nothing for anything else.
 [[nodiscard]] inline std::optional<PlanPoint> Point(const Json& value)
 {
     PlanPoint point;
@@ -81,6 +73,19 @@ inline constexpr PointField<Wall> WallPoints[] = {{"start", &Wall::start}, {"end
                       std::abs(point.y) <= PlanLimit;
     return good ? std::optional(point) : std::nullopt;
 }
+
+// Where the table of fields keeps an annotation of a beam or a wall.
+template <class Owner>
+[[nodiscard]] auto& Annotation(Owner& owner, const FieldRow& row)
+{
+    if constexpr (requires { owner.*row.ofBeam; }) {
+        return owner.*row.ofBeam;
+    } else {
+        return owner.*row.ofWall;
+    }
+}
+[[nodiscard]] inline std::span<const Field> FieldsOf(const Beam& /*beam*/) { return BeamFields(); }
+[[nodiscard]] inline std::span<const Field> FieldsOf(const Wall& /*wall*/) { return WallFields(); }
 
 // Null when the object has no such key.
 [[nodiscard]] inline const Json* Member(const Json& object, const char* key)

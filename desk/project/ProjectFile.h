@@ -19,6 +19,10 @@ namespace Desk {
 // The project as file text: unknown keys and the order of keys are those of the file it came from.
 [[nodiscard]] std::string FormatProject(const Project& project);
 
+// For a beam or wall made of a drawing's text: the file keeps the text as drawn, in UTF-8, and its line in
+// the drawing's list, under the keys "drawn" and "line".
+[[nodiscard]] InFile DrawnInFile(const std::string& drawn, std::size_t line);
+
 // Writes a new file beside the old one, syncs it and renames it over the old one, so that whoever looks
 // finds the old or the new file whole. Throws Failure and leaves the old file when that cannot be done.
 void SaveProject(const Project& project, const std::filesystem::path& file);

@@ -33,17 +33,21 @@ public:
     Project Read()
     {
         Project project;
+        Json source;
         try {
-            project.source = ReadJson(m_text);
+            source = ReadJson(m_text);
         } catch (const JsonFault& fault) {
             Fail(fault.Byte(), fault.what());
         }
         const Path root;
-        RequireObject(project.source, root, "a project");
-        ReadVersion(project.source);
-        ReadTexts(project.source, root, ProjectTexts, project);
-        ReadList(project.source, "beams", project.beams);
-        ReadList(project.source, "walls", project.walls);
+        RequireObject(source, root, "a project");
+        ReadVersion(source);
+        ReadTexts(source, root, ProjectTexts, project);
+        ReadList(source, "beams", project.beams);
+        ReadList(source, "walls", project.walls);
+        project.axesAcross = ReadAxes(source, "x");
+        project.axesUp = ReadAxes(source, "y");
+        project.inFile = Keep(std::move(source));
         return project;
     }
 
@@ -96,7 +100,29 @@ private:
         for (std::size_t i = 0; i < list->size(); ++i) {
             items.push_back(ReadItem<Item>(std::move((*list)[i]), path / i));
         }
-        *list = Json::array();  // the items carry their own source
+        *list = Json::array();  // each item keeps its own
+    }
+
+    // The axes are only drawn: what is not of their form is left out, and stays in the file.
+    static std::vector<Axis> ReadAxes(const Json& source, const char* direction)
+    {
+        std::vector<Axis> axes;
+        const Json* const all = Member(source, "axes");
+        const Json* const named = all != nullptr && all->is_object() ? Member(*all, direction) : nullptr;
+        if (named != nullptr && named->is_object()) {
+            for (const auto& [label, position] : named->items()) {
+                if (Axis axis{label, 0.0}; JsonNumber(position, axis.at)) {
+                    axes.push_back(std::move(axis));
+                }
+            }
+        }
+        std::sort(axes.begin(), axes.end(), [](const Axis& a, const Axis& b) { return a.at < b.at; });
+        return axes;
+    }
+
+    static InFile Keep(Json&& source)
+    {
+        return std::make_shared<const FileObject>(FileObject{std::move(source)});
     }
 
     template <class Item>
@@ -108,7 +134,18 @@ private:
     {
         for (const TextField<Owner>& field : fields) {
             if (const Json* const value = Member(source, field.key)) {
-                owner.*field.member = ReadText(*value, path / field.key, field.isAnnotation);
+                owner.*field.member = ReadText(*value, path / field.key, false);
+            }
+        }
+    }
+
+    template <class Owner>
+    void ReadAnnotations(const Json& source, const Path& path, Owner& owner) const
+    {
+        for (const Field field : FieldsOf(owner)) {
+            const FieldRow& row = RowOf(field);
+            if (const Json* const value = Member(source, row.key)) {
+                Annotation(owner, row) = ReadText(*value, path / row.key, true);
             }
         }
     }
@@ -188,6 +225,7 @@ Beam Reader::ReadItem(Json&& source, const Path& path) const
 {
     Beam beam;
     RequireName(source, path, "a beam");
+    ReadAnnotations(source, path, beam);
     ReadTexts(source, path, BeamTexts, beam);
     ReadNumbers(source, path, BeamNumbers, beam);
     if (const Json* const area = Member(source, "area")) {
@@ -195,7 +233,7 @@ Beam Reader::ReadItem(Json&& source, const Path& path) const
         ReadNumbers(*area, path / "area", AreaNumbers, beam.area);
     }
     ReadPoints(source, path, BeamPoints, beam);
-    beam.source = std::move(source);
+    beam.inFile = Keep(std::move(source));
     return beam;
 }
 
@@ -204,10 +242,10 @@ Wall Reader::ReadItem(Json&& source, const Path& path) const
 {
     Wall wall;
     RequireName(source, path, "a wall");
-    ReadTexts(source, path, WallTexts, wall);
+    ReadAnnotations(source, path, wall);
     ReadNumbers(source, path, WallNumbers, wall);
     ReadPoints(source, path, WallPoints, wall);
-    wall.source = std::move(source);
+    wall.inFile = Keep(std::move(source));
     return wall;
 }
 

@@ -11,14 +11,20 @@ namespace {
 
 // Writers put a value into its place in the source; what is the same already stays as it was written,
 // and what the source lacks is added only when it is not what a missing key stands for anyway.
-template <class Owner, std::size_t Count>
-void WriteTexts(const Owner& owner, const TextField<Owner> (&fields)[Count], Json& source)
+void WriteText(const std::string& text, const char* key, Json& source)
 {
-    for (const TextField<Owner>& field : fields) {
-        const std::string& text = owner.*field.member;
-        if (!text.empty() || source.contains(field.key)) {
-            source[field.key] = text;
-        }
+    if (!text.empty() || source.contains(key)) {
+        source[key] = text;
+    }
+}
+
+template <class Owner>
+void WriteAnnotations(const Owner& owner, Json& source)
+{
+    source["name"] = owner.name;  // also an empty one: every item has the key
+    for (const Field field : FieldsOf(owner)) {
+        const FieldRow& row = RowOf(field);
+        WriteText(Annotation(owner, row), row.key, source);
     }
 }
 
@@ -54,11 +60,15 @@ void WritePoints(const Owner& owner, const PointField<Owner> (&fields)[Count], J
     }
 }
 
+Json Kept(const InFile& inFile) { return inFile != nullptr ? inFile->json : Json::object(); }
+
 Json Written(const Beam& beam)
 {
-    Json source = beam.source;
-    source["name"] = beam.name;
-    WriteTexts(beam, BeamTexts, source);
+    Json source = Kept(beam.inFile);
+    WriteAnnotations(beam, source);
+    for (const TextField<Beam>& field : BeamTexts) {
+        WriteText(beam.*field.member, field.key, source);
+    }
     WriteNumbers(beam, BeamNumbers, source);
     Json area = source.value("area", Json::object());
     WriteNumbers(beam.area, AreaNumbers, area);
@@ -71,9 +81,8 @@ Json Written(const Beam& beam)
 
 Json Written(const Wall& wall)
 {
-    Json source = wall.source;
-    source["name"] = wall.name;
-    WriteTexts(wall, WallTexts, source);
+    Json source = Kept(wall.inFile);
+    WriteAnnotations(wall, source);
     WriteNumbers(wall, WallNumbers, source);
     WritePoints(wall, WallPoints, source);
     return source;
@@ -90,13 +99,21 @@ void WriteList(const std::vector<Item>& items, Json& list)
 
 }  // namespace
 
+InFile DrawnInFile(const std::string& drawn, std::size_t line)
+{
+    Json json = {{"name", ""}, {"drawn", drawn}, {"line", line}};
+    return std::make_shared<const FileObject>(FileObject{std::move(json)});
+}
+
 std::string FormatProject(const Project& project)
 {
-    Json source = project.source;
+    Json source = Kept(project.inFile);
     if (!source.contains("version")) {
         source["version"] = FormatVersion;
     }
-    WriteTexts(project, ProjectTexts, source);
+    for (const TextField<Project>& field : ProjectTexts) {
+        WriteText(project.*field.member, field.key, source);
+    }
     WriteList(project.beams, source["beams"]);
     WriteList(project.walls, source["walls"]);
     try {

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -29,7 +30,11 @@ class Descriptor {
 public:
     explicit Descriptor(int number) : m_number(number) {}
     Descriptor(Descriptor&& other) noexcept : m_number(std::exchange(other.m_number, -1)) {}
-    Descriptor& operator=(Descriptor&&) = delete;
+    Descriptor& operator=(Descriptor&& other) noexcept
+    {
+        std::swap(m_number, other.m_number);
+        return *this;
+    }
     ~Descriptor() { Close(); }
 
     [[nodiscard]] bool IsOpen() const { return m_number >= 0; }
@@ -44,6 +49,20 @@ public:
 private:
     int m_number;
 };
+
+bool Lock(const Descriptor& file, int how) { return flock(file.Number(), how) == 0; }
+
+// False when somebody has removed the file since it was opened.
+bool IsNamed(const Descriptor& file)
+{
+    struct stat now {};
+    return fstat(file.Number(), &now) == 0 && now.st_nlink > 0;
+}
+
+fs::path FolderOf(const fs::path& file)
+{
+    return file.has_parent_path() ? file.parent_path() : fs::path(".");
+}
 
 // Read or write as often as a signal interrupts.
 template <class Call>
@@ -92,7 +111,10 @@ std::optional<struct stat> OldFile(const fs::path& target)
     return old;
 }
 
-// A file of our own beside the target, removed again unless it took the target's place.
+constexpr std::string_view NewFilePrefix = ".beamdesk-";  // before a number
+
+// A file of our own beside the target, removed again unless it took the target's place. It is locked for as
+// long as somebody works on it, which tells it from what a killed save left behind.
 class NewFile {
 public:
     explicit NewFile(const fs::path& target) : m_target(target), m_descriptor(Create()) {}
@@ -121,6 +143,7 @@ public:
             text.remove_prefix(static_cast<std::size_t>(count));
         }
         Check(static_cast<int>(Again([this] { return fsync(m_descriptor.Number()); })));
+        m_lock = Descriptor(fcntl(m_descriptor.Number(), F_DUPFD_CLOEXEC, 0));
         if (const int error = m_descriptor.Close()) {
             FailWith(m_target, "cannot be saved", error);
         }
@@ -140,19 +163,19 @@ private:
         }
     }
 
-    // A name that is free; what killed processes left behind is in nobody's way.
+    // A name that is free, locked before anybody could take it for a leftover.
     Descriptor Create()
     {
         constexpr int Attempts = 100;
         std::random_device random;
         for (int i = 0; i < Attempts; ++i) {
-            m_name = m_target.parent_path() / (".beamdesk-" + std::to_string(random()));
-            const int number = open(m_name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-            if (number >= 0) {
-                return Descriptor(number);
-            }
-            if (errno != EEXIST) {
+            m_name = m_target.parent_path() / (std::string(NewFilePrefix) + std::to_string(random()));
+            Descriptor made(open(m_name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+            if (!made.IsOpen() && errno != EEXIST) {
                 break;
+            }
+            if (made.IsOpen() && (!Lock(made, LOCK_EX) || IsNamed(made))) {
+                return made;
             }
         }
         m_name.clear();
@@ -162,12 +185,33 @@ private:
     fs::path m_target;
     fs::path m_name;
     Descriptor m_descriptor;
+    Descriptor m_lock{-1};  // shares the lock of the descriptor, until the new file has its place
 };
+
+// Takes away what killed saves left in the folder. What cannot be locked or removed stays.
+void RemoveLeftovers(const fs::path& folder)
+{
+    const auto isOurs = [](const std::string& name) {
+        return name.starts_with(NewFilePrefix) && name.size() > NewFilePrefix.size() &&
+               name.find_first_not_of("0123456789", NewFilePrefix.size()) == std::string::npos;
+    };
+    std::error_code error;
+    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
+        std::error_code unknown;
+        if (!isOurs(at->path().filename().string()) ||
+            at->symlink_status(unknown).type() != fs::file_type::regular) {
+            continue;
+        }
+        const Descriptor leftover(open(at->path().c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+        if (leftover.IsOpen() && Lock(leftover, LOCK_EX | LOCK_NB)) {
+            unlink(at->path().c_str());
+        }
+    }
+}
 
 void SyncFolder(const fs::path& target)
 {
-    const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
-    const Descriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Descriptor descriptor(open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     // A folder that may not be read, or a file system that syncs no folders, is no reason to complain.
     if (descriptor.IsOpen() && fsync(descriptor.Number()) != 0 && errno == EIO) {
         FailWith(target, "saved, but the folder could not be synced", errno);
@@ -213,6 +257,7 @@ void ReplaceFile(const fs::path& file, std::string_view text)
     }
     replacement.Write(text);
     replacement.TakePlace();
+    RemoveLeftovers(FolderOf(target));
     SyncFolder(target);
 }
 

@@ -16,7 +16,8 @@ inline constexpr std::size_t MaxFileSize = std::size_t{64} << 20;
 // Writes a new file in the same folder, syncs it, renames it over the old one and syncs the folder. A
 // symbolic link is followed and stays; the old file's mode stays, and its owner where the system lets us.
 // Throws Failure with the old file as it was when anything fails before the rename, and then removes
-// what it had written. A killed process can leave a file ".beamdesk-..." behind, which nothing reads.
+// what it had written. A file ".beamdesk-NUMBER" that a killed save left in the folder is removed by the
+// next one; another program's save in progress keeps its own.
 void ReplaceFile(const std::filesystem::path& file, std::string_view text);
 
 }  // namespace Desk

@@ -6,6 +6,7 @@
 
 #include "RankerModule.h"
 #include "desk/project/Encoding.h"
+#include "desk/ranking/Question.h"
 
 namespace Desk {
 
@@ -80,40 +81,15 @@ void Stirrups(CStringArray& arResult) { DeliverAll(arResult, &Beam::stirrup); }
 
 void Bars(CStringArray& arResult, CString strKind)
 {
+    const std::string kind = Utf8FromGbk(strKind);
     for (const Beam& beam : g_project->beams) {
-        for (const std::string* text : BarTexts(beam, strKind)) {
+        for (const std::string* text : BarTexts(beam, kind)) {
             Deliver(arResult, *text);
         }
     }
 }
 
 }  // namespace
-
-std::vector<const std::string*> BarTexts(const Beam& beam, const CString& kind)
-{
-    if (kind == "1") {
-        return {&beam.topBars};
-    }
-    if (kind == "2") {
-        return {&beam.leftEnd};
-    }
-    if (kind == "3") {
-        return {&beam.rightEnd};
-    }
-    if (kind == "4") {
-        return {&beam.erection};
-    }
-    if (kind == "5.1") {
-        return {&beam.bottomBars};
-    }
-    if (kind == "5.2") {
-        return {&beam.torsion, &beam.side};
-    }
-    if (GbkFromUtf8(beam.topBars) == kind) {
-        return {&beam.leftEnd, &beam.rightEnd};
-    }
-    return {};
-}
 
 ProjectHost::ProjectHost(const Project& project)
 {

@@ -5,11 +5,8 @@
 #include <map>
 #include <unordered_set>
 
-#include "RankerModule.h"
 #include "desk/project/Encoding.h"
-#include "desk/project/Failure.h"
 #include "desk/ranking/ProjectHost.h"
-#include "desk/ranking/Tables.h"
 
 namespace Desk {
 
@@ -42,18 +39,27 @@ Uses UsesOf(const Project& project, std::string Beam::*member)
 }
 
 // The bar ranker offers texts without the head character that tells side bars from torsion bars.
-Uses BarUses(const Project& project, const CString& kind)
+Uses BarUses(const Project& project, const std::string& kind)
 {
     Uses uses;
     for (const Beam& beam : project.beams) {
         for (const std::string* text : BarTexts(beam, kind)) {
             if (!text->empty()) {
-                const bool hasHead = std::string_view("GN*").find(text->front()) != std::string_view::npos;
-                Count(uses, text->substr(hasHead ? 1 : 0), *text);
+                Count(uses, text->substr(HeadOf(*text).size()), *text);
             }
         }
     }
     return uses;
+}
+
+Uses UsesFor(const Project& project, const Question& question)
+{
+    switch (question.ranker) {
+    case Ranker::Sections: return UsesOf(project, &Beam::section);
+    case Ranker::Elevations: return UsesOf(project, &Beam::elevation);
+    case Ranker::Stirrups: return UsesOf(project, &Beam::stirrup);
+    default: return BarUses(project, question.barKind);
+    }
 }
 
 void SetUses(Candidate& candidate, const Uses& uses)
@@ -71,17 +77,15 @@ void SetUses(Candidate& candidate, const Uses& uses)
     }
 }
 
-// The list as it stands, stamped or not; entries from `table` on are table rows.
-std::vector<Candidate> Candidates(const CStringArray& list, const CUIntArray& stamps, const Uses& uses,
-                                  int table)
+std::vector<Candidate> Candidates(const List& list, const Uses& uses)
 {
     std::vector<Candidate> candidates;
-    candidates.reserve(static_cast<std::size_t>(list.GetSize()));
-    for (int i = 0; i < list.GetSize(); ++i) {
+    candidates.reserve(static_cast<std::size_t>(list.texts.GetSize()));
+    for (int i = 0; i < list.texts.GetSize(); ++i) {
         Candidate candidate;
-        candidate.text = Utf8FromGbk(list[i]);
-        candidate.stamp = i < stamps.GetSize() ? static_cast<int>(stamps[i]) : 0;
-        if (i >= table) {
+        candidate.text = Utf8FromGbk(list.texts[i]);
+        candidate.stamp = i < list.stamps.GetSize() ? static_cast<int>(list.stamps[i]) : 0;
+        if (i >= list.table) {
             candidate.source = Source::Table;
         } else {
             SetUses(candidate, uses);
@@ -91,37 +95,48 @@ std::vector<Candidate> Candidates(const CStringArray& list, const CUIntArray& st
     return candidates;
 }
 
-std::string Behind(const std::string& name, const std::string& type)
-{
-    const std::size_t bracket = name.find('(');
-    return type + (bracket == std::string::npos ? std::string() : name.substr(bracket));
-}
-
 // Type and suffix of a name, "KL(3)" of KL12(3).
 std::string FormOf(const CString& name)
 {
     CString type;
     BEAMNAME_HITNESS_RANKER::GetBeamType(name, type);
-    return Behind(Utf8FromGbk(name), Utf8FromGbk(type));
+    CString suffix;
+    BEAMNAME_HITNESS_RANKER::GetBeamKuaAndXuantiao(name, suffix);
+    return Utf8FromGbk(type + suffix);
 }
 
-}  // namespace
-
-Ranking RankNames(const Project& project, int projectKind)
+// The ranker's texts carry no head character; the field has its own, and its uses are those written so.
+void DressWithHead(Ranking& ranking, const std::string& heads)
 {
-    const ProjectHost host(project);
-    BEAMNAME_HITNESS_RANKER ranker;
-    ranker.m_nProjectKind = projectKind;
-    CStringArray list;
-    ranker.ProcessController(list);
+    for (Candidate& candidate : ranking.candidates) {
+        std::string best = heads.front() + candidate.text;
+        int bestUses = 0;
+        candidate.uses = 0;
+        for (const Writing& writing : candidate.writings) {
+            if (!writing.text.empty() && heads.find(writing.text.front()) != std::string::npos) {
+                candidate.uses += writing.uses;
+                if (writing.uses > bestUses) {
+                    best = writing.text;
+                    bestUses = writing.uses;
+                }
+            }
+        }
+        candidate.text = best;
+        if (candidate.source == Source::Project && candidate.uses == 0) {
+            candidate.source = Source::Guess;  // the project has them with the other head alone
+        }
+    }
+}
 
-    // A name is free by nature; it comes from the project when its neighbours do.
-    BEAMNAME_HITNESS_RANKER again;
+// A name is free by nature; it comes from the project when its neighbours do.
+void TellNames(const Project& project, std::vector<Candidate>& names)
+{
+    BEAMNAME_HITNESS_RANKER ranker;
     CStringArray fromProject;
-    again.SelectFromProject(fromProject);
-    std::unordered_set<std::string_view> known;
+    ranker.SelectFromProject(fromProject);
+    std::unordered_set<std::string> known;
     for (const CString& name : fromProject) {
-        known.insert(name.View());
+        known.insert(Utf8FromGbk(name));
     }
     std::map<std::string, int> forms;
     for (const Beam& beam : project.beams) {
@@ -129,80 +144,66 @@ Ranking RankNames(const Project& project, int projectKind)
             ++forms[FormOf(*name)];
         }
     }
-    Ranking ranking;
-    ranking.focus = list.IsEmpty() ? -1 : ranker.GetMostFixedBeamNameIndex();
-    for (const CString& name : list) {
-        Candidate candidate;
-        candidate.text = Utf8FromGbk(name);
-        if (known.contains(name.View())) {
+    for (Candidate& candidate : names) {
+        if (known.contains(candidate.text)) {
             candidate.source = Source::Project;
-            const std::string form = FormOf(name);
+            const std::string form = FormOf(GbkFromUtf8(candidate.text).value_or(CString()));
             candidate.uses = forms[form];
             candidate.writings = {{form, candidate.uses}};
         }
-        ranking.candidates.push_back(std::move(candidate));
     }
+}
+
+Ranking OtherWalls(const Project& project, std::string Wall::*member)
+{
+    std::map<std::string, int> uses;
+    for (const Wall& wall : project.walls) {
+        if (!(wall.*member).empty()) {
+            ++uses[wall.*member];
+        }
+    }
+    Ranking ranking;
+    for (const auto& [text, count] : uses) {
+        ranking.candidates.push_back({text, count, Source::Project, count, {}});
+    }
+    std::stable_sort(ranking.candidates.begin(), ranking.candidates.end(),
+                     [](const Candidate& a, const Candidate& b) { return a.uses > b.uses; });
     return ranking;
 }
 
-Ranking RankSections(const Project& project, int projectKind)
-{
-    const ProjectHost host(project);
-    BEAMSIZE_HITNESS_RANKER ranker;
-    ranker.m_nProjectKind = projectKind;
-    CStringArray list;
-    ranker.ProcessController(list);
-    return {Candidates(list, {}, UsesOf(project, &Beam::section), list.GetSize()), -1, false};
-}
+}  // namespace
 
-Ranking RankElevations(const Project& project)
+Ranking Rank(const Project& project, const Question& question)
 {
     const ProjectHost host(project);
-    BEAMLEVEL_HITNESS_RANKER ranker;
-    CStringArray list;
-    ranker.ProcessController(list);
-    return {Candidates(list, {}, UsesOf(project, &Beam::elevation), list.GetSize()), -1, false};
-}
-
-Ranking RankBars(const Project& project, const BarQuery& query)
-{
-    const std::optional<CString> kind = GbkFromUtf8(query.kind);
-    if (!kind) {
-        throw Failure(query.kind + ": holds a character that GBK does not have");
+    const List list = RunRanker(question);
+    Ranking ranking;
+    ranking.focus = list.focus;
+    ranking.isStamped = list.isStamped;
+    if (question.ranker == Ranker::Names) {
+        ranking.candidates = Candidates(list, {});
+        TellNames(project, ranking.candidates);
+        return ranking;
     }
-    const ProjectHost host(project);
-    CHABIAO_HITNESS_RANKER ranker;
-    ranker.m_nProjectKind = query.projectKind;
-    ranker.SetPara(query.width, query.area, &BarTable(), *kind);
-    CStringArray list;
-    ranker.ProcessController(list);
-    const int table = list.GetSize();
-    if (query.table) {
-        ranker.ChaBiao(list);
-    }
-    Ranking ranking{Candidates(list, ranker.m_arFlags, BarUses(project, *kind), table),
-                    ranker.FindIndexOfFocusByArFlags(), true};
+    ranking.candidates = Candidates(list, UsesFor(project, question));
     // The look-up for given through bars begins with these bars themselves.
-    if (table < list.GetSize() && list[table] == *kind) {
-        ranking.candidates[static_cast<std::size_t>(table)].source = Source::Given;
+    if (const auto table = static_cast<std::size_t>(list.table);
+        table < ranking.candidates.size() && ranking.candidates[table].text == question.barKind) {
+        ranking.candidates[table].source = Source::Given;
+    }
+    if (!question.heads.empty()) {
+        DressWithHead(ranking, question.heads);
     }
     return ranking;
 }
 
-Ranking RankStirrups(const Project& project, const StirrupQuery& query)
+Ranking ChoicesFor(const Project& project, const FieldRef& ref, bool wantsTable)
 {
-    const ProjectHost host(project);
-    GUJIN_HITNESS_RANKER ranker;
-    ranker.m_nProjectKind = query.projectKind;
-    ranker.SetPara(query.width, query.seismicClass, query.grade, &StirrupTable());
-    CStringArray list;
-    ranker.ProcessController(list);
-    const int table = list.GetSize();
-    if (query.table) {
-        ranker.ChaBiao(list);
+    const FieldRow& row = RowOf(ref.field);
+    if (!ref.isWall) {
+        return Rank(project, QuestionFor(project.beams.at(ref.index), ref.field, wantsTable));
     }
-    return {Candidates(list, ranker.m_arFlags, UsesOf(project, &Beam::stirrup), table),
-            ranker.FindIndexOfFocusByArFlags(), true};
+    return row.ranker == Ranker::OtherWalls ? OtherWalls(project, row.ofWall) : Ranking();
 }
 
 }  // namespace Desk

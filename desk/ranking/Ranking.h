@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "desk/project/Project.h"
+#include "desk/ranking/Question.h"
 
 namespace Desk {
 
@@ -31,35 +31,17 @@ struct Candidate {
 };
 
 struct Ranking {
-    std::vector<Candidate> candidates;  // best first, table rows behind all others
+    std::vector<Candidate> candidates;  // best first, table rows after all others
     int focus = -1;                     // index of the candidate to put the focus on, -1 for none
     bool isStamped = false;
 };
 
-// All texts in UTF-8. A project kind other than 2 changes what an empty project is offered.
-[[nodiscard]] Ranking RankNames(const Project& project, int projectKind = 2);
-[[nodiscard]] Ranking RankSections(const Project& project, int projectKind = 2);
-[[nodiscard]] Ranking RankElevations(const Project& project);
+// Runs the question's ranker on the project. Texts in UTF-8; those of a field with heads carry the head
+// that the project writes most often for them, and count the uses written so.
+[[nodiscard]] Ranking Rank(const Project& project, const Question& question);
 
-struct BarQuery {
-    std::string kind;    // as BarTexts of ProjectHost.h takes it
-    int width = 0;       // mm, for the table
-    int area = 0;        // mm², for the table
-    bool table = false;  // table rows wanted behind the candidates
-    int projectKind = 2;
-};
-
-// Throws Failure for a kind that GBK does not hold.
-[[nodiscard]] Ranking RankBars(const Project& project, const BarQuery& query);
-
-struct StirrupQuery {
-    int width = 0;
-    int grade = 0;
-    int seismicClass = 0;
-    bool table = false;
-    int projectKind = 2;
-};
-
-[[nodiscard]] Ranking RankStirrups(const Project& project, const StirrupQuery& query);
+// The texts that an annotation is likely to be, best first. A wall's bars, which the module does not rank,
+// are those of the other walls, the most used first. A wall's name has no candidates.
+[[nodiscard]] Ranking ChoicesFor(const Project& project, const FieldRef& ref, bool wantsTable);
 
 }  // namespace Desk

@@ -8,9 +8,9 @@
 #include <set>
 #include <utility>
 
-#include "RankerModule.h"
 #include "desk/project/Encoding.h"
 #include "desk/ranking/ProjectHost.h"
+#include "desk/ranking/Question.h"
 #include "desk/ranking/SimpleOrders.h"
 
 namespace Desk::Hitrate {
@@ -19,100 +19,38 @@ namespace {
 
 CString Gbk(const std::string& text) { return GbkFromUtf8(text).value_or(CString()); }
 
-int WidthOf(const Beam& beam)
-{
-    int width = 0;
-    BEAMSIZE_HITNESS_RANKER().GetBeamWidth(Gbk(beam.section), width);
-    return width;
-}
-
-CString WithoutHead(const CString& text)
-{
-    const char head = text.GetAt(0);
-    return head == 'G' || head == 'N' || head == '*' ? text.Mid(1) : text;
-}
-
-using Member = std::string Beam::*;
-
-CStringArray RankSections(const Beam&, Member)
-{
-    BEAMSIZE_HITNESS_RANKER ranker;
-    CStringArray list;
-    ranker.ProcessController(list);
-    return list;
-}
-
-CStringArray RankElevations(const Beam&, Member)
-{
-    BEAMLEVEL_HITNESS_RANKER ranker;
-    CStringArray list;
-    ranker.ProcessController(list);
-    list.RemoveAt(0);  // the row of blanks
-    return list;
-}
-
-CStringArray RankStirrups(const Beam& beam, Member)
-{
-    GUJIN_HITNESS_RANKER ranker;
-    ranker.SetPara(WidthOf(beam), beam.seismicClass, beam.concreteGrade, nullptr);
-    CStringArray list;
-    ranker.ProcessController(list);
-    return list;
-}
-
-CString BarKind(const Beam& beam, Member member)
-{
-    if (member == &Beam::leftEnd || member == &Beam::rightEnd) {
-        return Gbk(beam.topBars);
-    }
-    if (member == &Beam::topBars) {
-        return "1";
-    }
-    if (member == &Beam::erection) {
-        return "4";
-    }
-    return member == &Beam::bottomBars ? "5.1" : "5.2";
-}
-
-CStringArray RankBars(const Beam& beam, Member member)
-{
-    const int area = member == &Beam::leftEnd      ? beam.area.leftEnd
-                     : member == &Beam::rightEnd   ? beam.area.rightEnd
-                     : member == &Beam::bottomBars ? beam.area.bottom
-                                                   : beam.area.top;
-    CHABIAO_HITNESS_RANKER ranker;
-    ranker.SetPara(WidthOf(beam), area, nullptr, BarKind(beam, member));
-    CStringArray list;
-    ranker.ProcessController(list);
-    return list;
-}
-
 struct ListKind {
     const char* name;
-    std::vector<Member> members;
-    CStringArray (*rank)(const Beam& beam, Member member);
-    bool isBars = false;
+    std::vector<Field> fields;
 };
 
+// One entry a list that the rankers make from the project's texts.
 const std::vector<ListKind>& ListKinds()
 {
     static const std::vector<ListKind> kinds = {
-        {"section", {&Beam::section}, RankSections},
-        {"elevation", {&Beam::elevation}, RankElevations},
-        {"top bars", {&Beam::topBars}, RankBars, true},
-        {"end bars", {&Beam::leftEnd, &Beam::rightEnd}, RankBars, true},
-        {"bottom bars", {&Beam::bottomBars}, RankBars, true},
-        {"erection bars", {&Beam::erection}, RankBars, true},
-        {"torsion, side", {&Beam::torsion, &Beam::side}, RankBars, true},
-        {"stirrups", {&Beam::stirrup}, RankStirrups},
+        {"section", {Field::Section}},
+        {"elevation", {Field::Elevation}},
+        {"top bars", {Field::TopBars}},
+        {"end bars", {Field::LeftEnd, Field::RightEnd}},
+        {"bottom bars", {Field::BottomBars}},
+        {"erection bars", {Field::Erection}},
+        {"torsion, side", {Field::Torsion, Field::Side}},
+        {"stirrups", {Field::Stirrup}},
     };
     return kinds;
 }
 
+// The row of blanks among the elevations is no candidate.
 std::size_t PlaceIn(const CStringArray& list, const CString& text)
 {
-    const auto found = std::find(list.begin(), list.end(), text);
-    return found == list.end() ? 0 : static_cast<std::size_t>(found - list.begin()) + 1;
+    std::size_t place = 0;
+    for (const CString& each : list) {
+        place += static_cast<std::size_t>(each.View().find_first_not_of(' ') != std::string_view::npos);
+        if (each == text) {
+            return place;
+        }
+    }
+    return 0;
 }
 
 // The texts that a ranker gets from the project in one run.
@@ -129,17 +67,17 @@ public:
 
     KindTally Run()
     {
-        ForEachUse([this](const Beam& beam, Member member) {
-            const CString text = Gbk(beam.*member);
-            Pool& pool = PoolOf(beam, member);
+        ForEachUse([this](const Beam& beam, const FieldRow& row) {
+            const std::string& text = beam.*row.ofBeam;
+            Pool& pool = PoolOf(beam, row);
             pool.orders.Add(Shown(text));
-            pool.alike[WithOneJoint(text)].insert(text);
+            pool.alike[WithOneJoint(Gbk(text))].insert(Gbk(text));
         });
         KindTally tally{m_kind.name, {}, {}, {}};
-        ForEachUse([this, &tally](Beam& beam, Member member) {
-            Pool& pool = PoolOf(beam, member);
-            tally.ranker.Add(RankerPlace(pool, beam, member));
-            const SimplePlaces simple = pool.orders.PlacesWithout(Shown(Gbk(beam.*member)));
+        ForEachUse([this, &tally](Beam& beam, const FieldRow& row) {
+            Pool& pool = PoolOf(beam, row);
+            tally.ranker.Add(RankerPlace(pool, beam, row));
+            const SimplePlaces simple = pool.orders.PlacesWithout(Shown(beam.*row.ofBeam));
             tally.alphabetical.Add(simple.alphabetical);
             tally.frequency.Add(simple.frequency);
         });
@@ -151,20 +89,25 @@ private:
     void ForEachUse(Use use)
     {
         for (Beam& beam : m_project.beams) {
-            for (const Member member : m_kind.members) {
-                if (!(beam.*member).empty()) {
-                    use(beam, member);
+            for (const Field field : m_kind.fields) {
+                if (const FieldRow& row = RowOf(field); !(beam.*row.ofBeam).empty()) {
+                    use(beam, row);
                 }
             }
         }
     }
 
-    Pool& PoolOf(const Beam& beam, Member member)
+    Pool& PoolOf(const Beam& beam, const FieldRow& row)
     {
-        return m_pools[m_kind.isBars ? BarKind(beam, member) : CString()];
+        return m_pools[QuestionFor(beam, row.field, false).barKind];
     }
 
-    CString Shown(const CString& text) const { return m_kind.isBars ? WithoutHead(text) : text; }
+    // As the ranker lists it, which cuts the heads of bars.
+    CString Shown(const std::string& text) const
+    {
+        return Gbk(IsBars() ? text.substr(HeadOf(text).size()) : text);
+    }
+    [[nodiscard]] bool IsBars() const { return RowOf(m_kind.fields.front()).ranker == Ranker::Bars; }
 
     static CString WithOneJoint(const CString& text)
     {
@@ -175,18 +118,20 @@ private:
 
     // The first use of a text can stand for the place of its text among equals, and so can every use
     // where the order of bars ties it with another text: these get a run of their own.
-    std::size_t RankerPlace(Pool& pool, Beam& beam, Member member)
+    std::size_t RankerPlace(Pool& pool, Beam& beam, const FieldRow& row)
     {
-        const CString text = Gbk(beam.*member);
+        std::string& held = beam.*row.ofBeam;
+        const CString text = Gbk(held);
         const bool isAgain = !pool.seen.insert(text).second;
-        const bool isShared = isAgain && (!m_kind.isBars || pool.alike[WithOneJoint(text)].size() == 1);
+        const bool isShared = isAgain && (!IsBars() || pool.alike[WithOneJoint(text)].size() == 1);
         if (const auto known = pool.places.find(text); isShared && known != pool.places.end()) {
             return known->second;
         }
         std::string hidden;
-        std::swap(beam.*member, hidden);
-        const std::size_t place = PlaceIn(m_kind.rank(beam, member), Shown(text));
-        std::swap(beam.*member, hidden);
+        std::swap(held, hidden);
+        const List list = RunRanker(QuestionFor(beam, row.field, false));
+        std::swap(held, hidden);
+        const std::size_t place = PlaceIn(list.texts, Shown(held));
         if (isShared) {
             pool.places.emplace(text, place);
         }
@@ -195,7 +140,7 @@ private:
 
     Project& m_project;
     const ListKind& m_kind;
-    std::map<CString, Pool> m_pools;  // by the kind text of the bar ranker
+    std::map<std::string, Pool> m_pools;  // by the kind text of the bar ranker
 };
 
 KindTally ReplayNames(const Project& project)
@@ -209,10 +154,7 @@ KindTally ReplayNames(const Project& project)
             continue;
         }
         const CString name = Gbk(beam.name);
-        BEAMNAME_HITNESS_RANKER ranker;
-        CStringArray list;
-        ranker.ProcessController(list);
-        tally.ranker.Add(PlaceIn(list, name));
+        tally.ranker.Add(PlaceIn(RunRanker({.ranker = Ranker::Names}).texts, name));
         const SimplePlaces simple = orders.PlacesOf(name);
         tally.alphabetical.Add(simple.alphabetical);
         tally.frequency.Add(simple.frequency);

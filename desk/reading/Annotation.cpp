@@ -3,23 +3,19 @@
 
 #include "desk/reading/ReadText.h"
 
-namespace Desk::Import {
+namespace Desk {
 
-std::string_view FieldName(Field field)
+std::string FieldName(Field field)
 {
     switch (field) {
-    case Field::Name: return "name";
-    case Field::Section: return "section";
-    case Field::Elevation: return "elevation";
     case Field::Stirrup: return "stirrup";
     case Field::TopBars: return "top bars";
-    case Field::BottomBars: return "bottom bars";
-    case Field::Erection: return "erection bars";
-    case Field::Torsion: return "torsion bars";
-    case Field::Side: return "side bars";
-    case Field::WallBars: return "wall bars";
+    case Field::HorizontalBars: return "wall bars";
+    default: break;
     }
-    return {};
+    std::string name = RowOf(field).english;
+    name.front() = static_cast<char>(name.front() - 'A' + 'a');
+    return name;
 }
 
 std::string FilledWords(Filled filled, const Choices& choices)
@@ -38,7 +34,7 @@ std::string FilledWords(Filled filled, const Choices& choices)
     case Filled::NameHyphen: return "a hyphen in front of the serial: taken out";
     case Filled::NameCase:
         return "lower case in a name: kept, though the module's name rules do not know it";
-    case Filled::RowSum: return "rows that do not add up to the bars: kept as they stand";
+    case Filled::RowSum: return "rows that do not add up to the bars: kept as written";
     }
     return {};
 }
@@ -72,4 +68,4 @@ Kind KindOf(std::string_view word)
     return word.empty() ? Kind::None : Kind::Other;
 }
 
-}  // namespace Desk::Import
+}  // namespace Desk

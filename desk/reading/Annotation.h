@@ -7,25 +7,13 @@
 #include <string_view>
 #include <vector>
 
-namespace Desk::Import {
+#include "desk/project/Fields.h"
 
-// The annotations that a beam or a wall can hold.
-enum class Field {
-    Name,
-    Section,
-    Elevation,
-    Stirrup,
-    TopBars,
-    BottomBars,
-    Erection,
-    Torsion,
-    Side,
-    WallBars
-};
-inline constexpr Field AllFields[] = {Field::Name,    Field::Section,    Field::Elevation, Field::Stirrup,
-                                      Field::TopBars, Field::BottomBars, Field::Erection,  Field::Torsion,
-                                      Field::Side,    Field::WallBars};
-[[nodiscard]] std::string_view FieldName(Field field);
+namespace Desk {
+
+// What an annotation is called where a text is told for what it is: lower case, and no more than a loose
+// text says of itself.
+[[nodiscard]] std::string FieldName(Field field);
 
 struct Annotation {
     Field field = Field::Name;
@@ -51,7 +39,7 @@ inline constexpr Filled AllFilled[] = {Filled::Grade,      Filled::LostGrade, Fi
                                        Filled::NameHyphen, Filled::NameCase,  Filled::RowSum};
 
 enum class Outcome {
-    Read,    // every character of the text found its place
+    Read,    // every character of the text is in an annotation
     InPart,  // some of it is left out; why tells what
     NoBeam,  // understood, but nothing that a beam or a wall holds; why tells what it is
     Unread   // not understood; why tells where it fails
@@ -74,4 +62,4 @@ struct Choices {
 
 [[nodiscard]] std::string FilledWords(Filled filled, const Choices& choices);
 
-}  // namespace Desk::Import
+}  // namespace Desk

@@ -6,7 +6,9 @@
 #include <cstdint>
 #include <optional>
 
-namespace Desk::Import {
+#include "desk/project/Encoding.h"
+
+namespace Desk {
 
 namespace {
 
@@ -90,13 +92,13 @@ struct Character {
     std::size_t bytes;
 };
 
-// The text is valid UTF-8; a byte that is not stands for itself.
+// A byte that is no UTF-8 is a character by itself.
 Character FirstCharacter(std::string_view text)
 {
     const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned lead = byte(0);
-    const std::size_t bytes = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
-    if (bytes == 1 || bytes > text.size()) {
+    const std::size_t bytes = Utf8Length(text);
+    if (bytes < 2) {
         return {lead, 1};
     }
     char32_t value = lead & (0x7FU >> bytes);
@@ -199,4 +201,4 @@ std::string ShowPlain(std::string_view plain)
     return shown;
 }
 
-}  // namespace Desk::Import
+}  // namespace Desk

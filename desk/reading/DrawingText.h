@@ -4,17 +4,17 @@
 #include <string>
 #include <string_view>
 
-namespace Desk::Import {
+namespace Desk {
 
 // Stands in a plain text where the drawing has a grade sign that does not say which grade.
 inline constexpr char OpenGrade = '\x01';
 
 // Takes UTF-8. Grade signs of all kinds become A to D or OpenGrade; full-width characters, the many
 // crosses, dashes and blanks their ASCII forms; AutoCAD's \U+XXXX and %%c, %%p and underline codes what
-// they stand for. Runs of blanks become one, none stays at the ends. What it does not know stays as it is.
+// they stand for. Runs of blanks become one, none stays at the ends. What it does not know stays.
 [[nodiscard]] std::string PlainText(std::string_view drawn);
 
 // A plain text for a person: OpenGrade as the sign that it stands for.
 [[nodiscard]] std::string ShowPlain(std::string_view plain);
 
-}  // namespace Desk::Import
+}  // namespace Desk

@@ -1,34 +1,17 @@
 // From readings to beams and walls.
 #include "desk/reading/ImportTexts.h"
 
-namespace Desk::Import {
+#include "desk/project/ProjectFile.h"
+
+namespace Desk {
 
 namespace {
-
-std::string& MemberOf(Beam& beam, Field field)
-{
-    switch (field) {
-    case Field::Section: return beam.section;
-    case Field::Elevation: return beam.elevation;
-    case Field::Stirrup: return beam.stirrup;
-    case Field::TopBars: return beam.topBars;
-    case Field::BottomBars: return beam.bottomBars;
-    case Field::Erection: return beam.erection;
-    case Field::Torsion: return beam.torsion;
-    case Field::Side: return beam.side;
-    case Field::Name:
-    case Field::WallBars: break;
-    }
-    return beam.name;
-}
 
 template <class Item>
 Item ItemOf(const DrawnText& drawn)
 {
     Item item;
-    item.source["name"] = "";
-    item.source["drawn"] = drawn.text;
-    item.source["line"] = drawn.line;
+    item.inFile = DrawnInFile(drawn.text, drawn.line);
     return item;
 }
 
@@ -63,8 +46,8 @@ Project ProjectOf(const std::vector<ImportedText>& texts, const std::string& tit
         if (annotations.empty()) {
             continue;
         }
-        // Wall bars always stand alone.
-        if (annotations.front().field == Field::WallBars) {
+        // Wall bars are always alone.
+        if (annotations.front().field == Field::HorizontalBars) {
             Wall wall = ItemOf<Wall>(text.drawn);
             wall.horizontalBars = annotations.front().text;
             project.walls.push_back(std::move(wall));
@@ -72,11 +55,11 @@ Project ProjectOf(const std::vector<ImportedText>& texts, const std::string& tit
         }
         Beam beam = ItemOf<Beam>(text.drawn);
         for (const Annotation& annotation : annotations) {
-            MemberOf(beam, annotation.field) = annotation.text;
+            beam.*RowOf(annotation.field).ofBeam = annotation.text;
         }
         project.beams.push_back(std::move(beam));
     }
     return project;
 }
 
-}  // namespace Desk::Import
+}  // namespace Desk

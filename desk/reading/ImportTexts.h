@@ -9,7 +9,7 @@
 #include "desk/reading/ReadText.h"
 #include "desk/reading/TextsFile.h"
 
-namespace Desk::Import {
+namespace Desk {
 
 struct ImportedText {
     DrawnText drawn;
@@ -25,4 +25,4 @@ struct ImportedText {
 // the line under the keys "drawn" and "line".
 [[nodiscard]] Project ProjectOf(const std::vector<ImportedText>& texts, const std::string& title);
 
-}  // namespace Desk::Import
+}  // namespace Desk

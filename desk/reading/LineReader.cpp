@@ -1,25 +1,28 @@
-// Annotations may stand side by side without a blank, but what is glued to something unknown is not
+// Annotations may be side by side without a blank, but what is glued to something unknown is not
 // trusted: the whole stretch counts as not understood.
 #include "desk/reading/LineReader.h"
 
-#include <array>
+#include <algorithm>
+#include <span>
 #include <utility>
 
-namespace Desk::Import {
+#include "desk/reading/Cursor.h"
+
+namespace Desk {
 
 namespace {
 
 bool IsSeparator(char ch) { return ch == ' ' || ch == ',' || ch == ';'; }
 
-// Words that say only what the name behind them says already.
+// Words that say only what the name after them says already.
 constexpr std::string_view BeamWords[] = {"屋面框架梁", "非框架梁", "框架梁", "悬挑梁",
                                           "连梁",       "次梁",     "梁"};
 constexpr std::string_view SectionWords[] = {"截面尺寸", "截面"};
-constexpr std::string_view ElevationWord = "标高";
+constexpr std::string_view ElevationWords[] = {"标高"};
 
 class LineReader {
 public:
-    LineReader(std::string_view plain, const Choices& choices) : m_at(plain), m_choices(choices) {}
+    LineReader(std::string_view plain, const Choices& choices) : m_at(plain, choices) {}
 
     Line Read()
     {
@@ -36,6 +39,7 @@ public:
                 SkipStretch();
             }
         }
+        m_line.filled = m_at.Marks();
         return std::move(m_line);
     }
 
@@ -51,89 +55,94 @@ private:
 
     void SkipStretch()
     {
-        const std::size_t start = m_at.Place();
+        const Cursor start = m_at;
         while (!m_at.AtEnd() && !IsSeparator(m_at.Peek())) {
             m_at.Skip();
         }
         m_line.notUnderstood.emplace_back(m_at.Since(start));
     }
 
-    template <class Word>
-    static bool EatWord(Cursor& at, const Word& words)
+    static bool EatWord(Cursor& at, std::span<const std::string_view> words)
     {
-        for (const std::string_view word : words) {
-            if (at.Eat(word)) {
-                at.SkipBlank();
-                static_cast<void>(at.Eat(':'));
-                at.SkipBlank();
-                return true;
-            }
+        const auto isHere = [&at](std::string_view word) { return at.Eat(word); };
+        if (std::none_of(words.begin(), words.end(), isHere)) {
+            return false;
         }
-        return false;
+        static_cast<void>(at.EatJoint(':'));
+        at.SkipBlank();
+        return true;
     }
 
     template <class Found>
-    bool Keep(std::optional<Found>& place, std::optional<Found> found, std::size_t start)
+    bool Keep(std::optional<Found>& kept, std::optional<Found> found, const Cursor& start)
     {
         if (!found) {
             return false;
         }
-        if (place) {
+        if (kept) {
             m_line.repeated.emplace_back(m_at.Since(start));
+            m_at.ForgetMarksSince(start);
         } else {
-            place = std::move(found);
+            kept = std::move(found);
         }
         return true;
     }
 
     bool ReadOne()
     {
-        const std::size_t start = m_at.Place();
+        const Cursor start = m_at;
         if (EatWord(m_at, BeamWords)) {
             return Keep(m_line.name, ReadName(m_at), start);
         }
         if (EatWord(m_at, SectionWords)) {
             return Keep(m_line.section, ReadSection(m_at), start);
         }
-        if (EatWord(m_at, std::array{ElevationWord})) {
+        if (EatWord(m_at, ElevationWords)) {
             return Keep(m_line.elevation, ReadElevation(m_at), start);
         }
-        return Keep(m_line.name, ReadName(m_at), start) ||
-               Keep(m_line.spaced, ReadSpacedBars(m_at), start) ||
+        return Keep(m_line.name, ReadName(m_at), start) || ReadSpacedBars(start) ||
                Keep(m_line.section, ReadSection(m_at), start) ||
                Keep(m_line.elevation, ReadElevation(m_at), start) || ReadBars() || ReadSpans();
     }
 
-    bool ReadBars()
+    bool ReadSpacedBars(const Cursor& start)
     {
-        std::optional<BarGroup> group = ReadBarGroup(m_at, m_choices);
-        if (!group) {
+        if (!Keep(m_line.stirrup, ReadStirrup(m_at), start)) {
             return false;
         }
-        m_line.groups.push_back(std::move(*group));
+        if (Cursor end = m_at; m_line.stirrup->legs == 0 && end.EatJoint('(') && end.AtEnd()) {
+            m_at = end;
+            m_line.isCutOff = true;
+        }
         return true;
     }
 
-    // "6000,6000,5000" behind a name.
-    bool ReadSpans()
+    bool ReadBars()
     {
-        Cursor cursor = m_at;
-        bool isLength = false;
-        Cursor behind = cursor;
-        do {
-            isLength = cursor.Number(3, 5).has_value();
-            behind = isLength ? cursor : behind;
-        } while (isLength && cursor.Eat(','));
-        if (!m_line.name || !m_line.spans.empty() || behind.Place() == m_at.Place()) {
+        std::optional<DrawnBars> bars = ReadDrawnBars(m_at);
+        if (!bars) {
             return false;
         }
-        m_line.spans = behind.Since(m_at.Place());
-        m_at = behind;
+        m_line.bars.push_back(std::move(*bars));
+        return true;
+    }
+
+    // "6000,6000,5000" after a name.
+    bool ReadSpans()
+    {
+        Cursor end = m_at;
+        for (Cursor next = m_at; next.Number(3, 5); static_cast<void>(next.Eat(','))) {
+            end = next;
+        }
+        if (!m_line.name || !m_line.spans.empty() || end.At() == m_at.At()) {
+            return false;
+        }
+        m_line.spans = end.Since(m_at);
+        m_at = end;
         return true;
     }
 
     Cursor m_at;
-    const Choices& m_choices;
     Line m_line;
 };
 
@@ -141,4 +150,4 @@ private:
 
 Line ReadLine(std::string_view plain, const Choices& choices) { return LineReader(plain, choices).Read(); }
 
-}  // namespace Desk::Import
+}  // namespace Desk

@@ -3,35 +3,38 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "desk/reading/Annotation.h"
-#include "desk/reading/Cursor.h"
-#include "desk/reading/ReadBars.h"
-#include "desk/reading/ReadFields.h"
+#include "desk/reading/Bars.h"
+#include "desk/reading/BeamName.h"
+#include "desk/reading/Section.h"
+#include "desk/reading/Stirrup.h"
 
-namespace Desk::Import {
+namespace Desk {
 
-// What stands in a plain text, in the order in which it was found.
+// What a plain text holds, in the order in which it was found.
 struct Line {
-    std::optional<ReadField> name;
-    std::optional<ReadField> section;
-    std::optional<ReadField> elevation;
-    std::optional<SpacedBars> spaced;
-    std::vector<BarGroup> groups;
-    std::string spans;  // span lengths behind the name; empty for none
-    std::vector<std::string>
-        notUnderstood;                  // stretches that no reader takes, each up to a blank or separator
-    std::vector<std::string> repeated;  // annotations for which an earlier one holds the place
+    std::optional<BeamName> name;
+    std::optional<Section> section;
+    std::optional<Elevation> elevation;
+    std::optional<Stirrup> stirrup;  // or a wall's spaced bars
+    bool isCutOff = false;           // the stirrup ends in an open bracket with nothing in it
+    std::vector<DrawnBars> bars;
+    std::set<Filled> filled;
+    std::string spans;                       // span lengths after the name; empty for none
+    std::vector<std::string> notUnderstood;  // stretches that no reader takes, each up to a separator
+    std::vector<std::string> repeated;       // annotations of a kind that an earlier one is of
 
     [[nodiscard]] bool IsEmpty() const
     {
-        return !name && !section && !elevation && !spaced && groups.empty();
+        return !name && !section && !elevation && !stirrup && bars.empty();
     }
 };
 
 [[nodiscard]] Line ReadLine(std::string_view plain, const Choices& choices);
 
-}  // namespace Desk::Import
+}  // namespace Desk

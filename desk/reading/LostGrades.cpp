@@ -2,9 +2,10 @@
 #include <algorithm>
 #include <array>
 
-#include "desk/reading/ReadBars.h"
+#include "desk/reading/Bars.h"
+#include "desk/reading/Cursor.h"
 
-namespace Desk::Import {
+namespace Desk {
 
 namespace {
 
@@ -18,7 +19,8 @@ std::optional<std::string> CutLostGrade(std::string_view digits)
         const std::string_view count = digits.substr(0, i);
         const std::string_view diameter = digits.substr(i);
         if (count.front() == '0' || diameter.size() != 2 || diameter.front() == '0' ||
-            std::find(BarDiameters.begin(), BarDiameters.end(), ValueOf(diameter)) == BarDiameters.end()) {
+            std::find(BarDiameters.begin(), BarDiameters.end(), NumberValue(diameter)) ==
+                BarDiameters.end()) {
             continue;
         }
         if (cut) {
@@ -56,4 +58,4 @@ std::optional<std::string> WithLostGrades(std::string_view plain)
     return terms >= 2 ? std::optional(text) : std::nullopt;
 }
 
-}  // namespace Desk::Import
+}  // namespace Desk

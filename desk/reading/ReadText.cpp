@@ -9,25 +9,26 @@
 #include "desk/reading/LineReader.h"
 #include "desk/reading/Unread.h"
 
-namespace Desk::Import {
+namespace Desk {
 
 namespace {
 
 std::string Quoted(std::string_view text) { return std::string("\"").append(ShowPlain(text)).append("\""); }
 
-// Gathers the annotations of a line and what found no place.
+// Gathers the annotations of a line and what is left out.
 class Gatherer {
 public:
     Gatherer(const Choices& choices, Reading& reading) : m_choices(choices), m_reading(reading) {}
 
     void Take(const Line& line, Kind kind)
     {
+        m_reading.filled = line.filled;
         TakeField(Field::Name, line.name);
         TakeField(Field::Section, line.section);
-        if (line.spaced) {
+        if (line.stirrup) {
             TakeSpaced(line, kind);
         }
-        TakeGroups(line.groups);
+        TakeBars(line.bars);
         TakeField(Field::Elevation, line.elevation);
         if (!line.spans.empty()) {
             LeaveOut(line.spans, "span lengths");
@@ -64,68 +65,65 @@ private:
         }
     }
 
-    void TakeField(Field field, const std::optional<ReadField>& found)
+    template <class Value>
+    void TakeField(Field field, const std::optional<Value>& value)
     {
-        if (found) {
-            Add(field, found->text);
-            m_reading.filled.insert(found->filled.begin(), found->filled.end());
+        if (value) {
+            Add(field, value->Text());
         }
     }
 
     // Spaced bars without legs are a wall's unless something says that they are stirrups.
     void TakeSpaced(const Line& line, Kind kind)
     {
-        const SpacedBars& bars = *line.spaced;
-        const bool isAlone = !line.name && !line.section && !line.elevation && line.groups.empty();
-        const bool isPlain = !bars.HasLegs() && !bars.hasSecond && !bars.isCutOff && bars.grade != '\0';
+        Stirrup bars = *line.stirrup;
+        const bool isAlone = !line.name && !line.section && !line.elevation && line.bars.empty();
+        const bool isPlain = bars.tightSpacing == 0 && line.filled.count(Filled::LostGrade) == 0;
         const bool isBeams = kind == Kind::Stirrup || kind == Kind::Combined;
-        if (isAlone && !bars.HasLegs() && !bars.isCutOff &&
-            (kind == Kind::Distributed || (isPlain && !isBeams))) {
-            TakeField(Field::WallBars, WallBarText(bars, m_choices));
-        } else if (bars.isCutOff) {
-            LeaveOut(WallBarText(bars, m_choices).text,
-                     "the text ends in an open bracket: the legs are cut off");
-        } else if (!bars.HasLegs() && m_choices.legs == 0) {
-            LeaveOut(WallBarText(bars, m_choices).text, "a stirrup without legs");
+        if (line.isCutOff) {
+            LeaveOut(bars.Text(), "the text ends in an open bracket: the legs are cut off");
+        } else if (bars.legs == 0 && isAlone && (kind == Kind::Distributed || (isPlain && !isBeams))) {
+            Add(Field::HorizontalBars, bars.Text());
+        } else if (bars.legs == 0 && m_choices.legs == 0) {
+            LeaveOut(bars.Text(), "a stirrup without legs");
         } else {
-            TakeField(Field::Stirrup, StirrupText(bars, m_choices));
+            if (bars.legs == 0) {
+                bars.legs = m_choices.legs;
+                m_reading.filled.insert(Filled::Legs);
+            }
+            Add(Field::Stirrup, bars.Text());
         }
     }
 
-    void TakeGroups(const std::vector<BarGroup>& groups)
+    void TakeBars(const std::vector<DrawnBars>& all)
     {
-        const auto isOpen = [](const BarGroup& group) {
-            return group.place == BarPlace::Open && !group.text.empty();
+        const auto isOpen = [](const DrawnBars& drawn) {
+            return drawn.label == '\0' && drawn.bars.head == '\0' && !drawn.bars.IsEmpty();
         };
-        const auto openGroups = std::count_if(groups.begin(), groups.end(), isOpen);
-        for (const BarGroup& group : groups) {
-            m_reading.filled.insert(group.filled.begin(), group.filled.end());
-            if (isOpen(group)) {
-                const bool isBottom = Holds(Field::TopBars) || (openGroups == 1 && group.endsShort);
-                Add(isBottom ? Field::BottomBars : Field::TopBars, group.text);
-            } else if (!group.text.empty()) {
-                Add(FieldOf(group.place), group.text);
+        const auto open = std::count_if(all.begin(), all.end(), isOpen);
+        for (const DrawnBars& drawn : all) {
+            if (isOpen(drawn)) {
+                const bool isBottom = Holds(Field::TopBars) || (open == 1 && drawn.endsShort);
+                Add(isBottom ? Field::BottomBars : Field::TopBars, drawn.bars.Text());
+            } else if (!drawn.bars.IsEmpty()) {
+                Add(FieldOf(drawn), drawn.bars.Text());
             }
-            if (!group.erection.empty()) {
-                Add(Field::Erection, group.erection);
+            if (!drawn.erection.IsEmpty()) {
+                Add(Field::Erection, drawn.erection.Text());
             }
-            if (!group.leftOut.empty()) {
-                LeaveOut(group.leftOut, group.endsShort ? "bars that stop before the supports"
+            if (!drawn.leftOut.empty()) {
+                LeaveOut(drawn.leftOut, drawn.endsShort ? "bars that stop before the supports"
                                                         : "brackets that the grammar has no meaning for");
             }
         }
     }
 
-    static Field FieldOf(BarPlace place)
+    static Field FieldOf(const DrawnBars& drawn)
     {
-        switch (place) {
-        case BarPlace::Bottom: return Field::BottomBars;
-        case BarPlace::Side: return Field::Side;
-        case BarPlace::Torsion: return Field::Torsion;
-        case BarPlace::Open:
-        case BarPlace::Top: break;
+        if (drawn.label != '\0') {
+            return drawn.label == 'T' ? Field::TopBars : Field::BottomBars;
         }
-        return Field::TopBars;
+        return drawn.bars.head == 'G' ? Field::Side : Field::Torsion;
     }
 
     const Choices& m_choices;
@@ -136,18 +134,16 @@ private:
 // True when a text of the kind may hold an annotation for the field.
 bool Fits(Kind kind, Field field)
 {
-    const bool isBars = field == Field::TopBars || field == Field::BottomBars || field == Field::Erection ||
-                        field == Field::Torsion || field == Field::Side;
     switch (kind) {
     case Kind::Name: return field == Field::Name;
     case Kind::Section:
     case Kind::SectionColumn: return field == Field::Section;
     case Kind::Elevation: return field == Field::Elevation;
-    case Kind::Bars: return isBars;
+    case Kind::Bars: return RowOf(field).ranker == Ranker::Bars;
     case Kind::Stirrup: return field == Field::Stirrup;
-    case Kind::Distributed: return field == Field::WallBars;
+    case Kind::Distributed: return field == Field::HorizontalBars;
     case Kind::GlyphCode: return false;
-    case Kind::Combined: return field != Field::WallBars;
+    case Kind::Combined: return field != Field::HorizontalBars;
     case Kind::NameTrap: return field != Field::Name;
     case Kind::Other:
     case Kind::None: break;
@@ -188,9 +184,8 @@ Reading ReadText(std::string_view drawn, Kind kind, const Choices& choices)
     if (line.IsEmpty() && mayBeBars) {
         if (const std::optional<std::string> signs = WithLostGrades(plain)) {
             line = ReadLine(*signs, choices);
-            for (BarGroup& group : line.groups) {
-                group.filled.erase(Filled::Grade);
-                group.filled.insert(Filled::LostGrade);
+            if (line.filled.erase(Filled::Grade) > 0) {
+                line.filled.insert(Filled::LostGrade);
             }
         }
     }
@@ -215,4 +210,4 @@ Reading ReadText(std::string_view drawn, Kind kind, const Choices& choices)
     return reading;
 }
 
-}  // namespace Desk::Import
+}  // namespace Desk

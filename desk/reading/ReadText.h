@@ -6,7 +6,7 @@
 
 #include "desk/reading/Annotation.h"
 
-namespace Desk::Import {
+namespace Desk {
 
 // What the file says of a text, beside the text.
 enum class Kind {
@@ -35,4 +35,4 @@ inline constexpr Kind AllKinds[] = {Kind::Name,     Kind::Section,       Kind::E
 // drawn is UTF-8 without line ends and control characters.
 [[nodiscard]] Reading ReadText(std::string_view drawn, Kind kind, const Choices& choices);
 
-}  // namespace Desk::Import
+}  // namespace Desk

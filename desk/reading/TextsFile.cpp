@@ -10,42 +10,18 @@
 #include "desk/project/JsonText.h"
 #include "desk/project/SafeFile.h"
 
-namespace Desk::Import {
+namespace Desk {
 
 namespace {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view Heading = "kind\ttext";
 
-unsigned Byte(std::string_view text, std::size_t i) { return static_cast<unsigned char>(text[i]); }
-
-// Length of the UTF-8 character at the head of a text; 0 when none stands there.
-std::size_t Utf8Length(std::string_view text)
-{
-    const unsigned lead = Byte(text, 0);
-    if (lead < 0x80) {
-        return 1;
-    }
-    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    if (lead < 0xC2 || lead > 0xF4 || text.size() < length) {
-        return 0;
-    }
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((Byte(text, i) & 0xC0) != 0x80) {
-            return 0;
-        }
-    }
-    // Spelled longer than need be, half of a pair, or behind the last character there is.
-    const unsigned second = Byte(text, 1);
-    const bool isBad = (lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) ||
-                       (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F);
-    return isBad ? 0 : length;
-}
-
-std::string Hex(unsigned byte)
+std::string Hex(char byte)
 {
     std::array<char, 8> text{};
-    std::snprintf(text.data(), text.size(), "0x%02X", byte);
+    std::snprintf(text.data(), text.size(), "0x%02X",
+                  static_cast<unsigned>(static_cast<unsigned char>(byte)));
     return text.data();
 }
 
@@ -54,7 +30,7 @@ void RequireUtf8(std::string_view text, const std::string& name)
     for (std::size_t i = 0; i < text.size();) {
         const std::size_t length = Utf8Length(text.substr(i));
         if (length == 0) {
-            throw Failure(name + ":" + LineAndColumn(text, i) + ": the byte " + Hex(Byte(text, i)) +
+            throw Failure(name + ":" + LineAndColumn(text, i) + ": the byte " + Hex(text[i]) +
                           " is not UTF-8; --encoding gbk reads a GBK file");
         }
         i += length;
@@ -96,9 +72,7 @@ std::string FaultOf(std::string_view text)
         return "a text of " + std::to_string(text.size()) + " bytes; the longest that is read has " +
                std::to_string(LongestText);
     }
-    return control == text.end()
-               ? std::string()
-               : "holds the control character " + Hex(static_cast<unsigned char>(*control));
+    return control == text.end() ? std::string() : "holds the control character " + Hex(*control);
 }
 
 DrawnText TakeLine(std::string_view line, std::size_t number, bool hasKinds)
@@ -164,4 +138,4 @@ TextsFile ReadTextsFile(const std::filesystem::path& file, Encoding encoding)
     return ParseTexts(ReadWholeFile(file), file.string(), encoding);
 }
 
-}  // namespace Desk::Import
+}  // namespace Desk

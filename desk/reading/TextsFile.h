@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace Desk::Import {
+namespace Desk {
 
 enum class Encoding { Utf8, Gbk };
 
@@ -31,10 +31,10 @@ inline constexpr std::size_t LongestText = 1000;  // bytes
 
 // Line ends are LF or CRLF, also mixed; a byte order mark is skipped. A text that is too long or holds a
 // control character is kept with its fault. Throws Failure "FILE:LINE:COLUMN: what is wrong" where the
-// bytes are not of the encoding, and for a file that is UTF-16. name stands for the file in messages.
+// bytes are not of the encoding, and for a file that is UTF-16. name is what messages call the file.
 [[nodiscard]] TextsFile ParseTexts(std::string_view bytes, const std::string& name, Encoding encoding);
 
 // Throws Failure as well when the file cannot be read.
 [[nodiscard]] TextsFile ReadTextsFile(const std::filesystem::path& file, Encoding encoding);
 
-}  // namespace Desk::Import
+}  // namespace Desk

@@ -5,7 +5,7 @@
 
 #include "desk/reading/Cursor.h"
 
-namespace Desk::Import {
+namespace Desk {
 
 namespace {
 
@@ -27,16 +27,6 @@ bool IsSteelGrade(std::string_view plain)
     return hasWord && cursor.Number(3, 4) && (cursor.AtEnd() || cursor.Rest() == "E");
 }
 
-// The letters in front of a text's first digit, bracket or hyphen.
-std::string_view Letters(std::string_view plain)
-{
-    Cursor cursor(plain);
-    while (Cursor::IsLetter(cursor.Peek())) {
-        cursor.Skip();
-    }
-    return cursor.Since(0);
-}
-
 }  // namespace
 
 std::string WhatElse(std::string_view drawn, std::string_view plain)
@@ -44,7 +34,7 @@ std::string WhatElse(std::string_view drawn, std::string_view plain)
     if (plain.empty()) {
         return "blanks or underline codes alone";
     }
-    const bool isGradeSign = plain.size() == 1 && Cursor(plain).EatGrade() != '\0';
+    const bool isGradeSign = plain.size() == 1 && Cursor(plain).EatGrade('B') != '\0';
     if (isGradeSign && drawn.find(plain.front()) == std::string_view::npos) {
         return plain.front() == OpenGrade ? "a grade sign alone, of no certain grade"
                                           : "a grade sign alone: " + std::string(plain);
@@ -57,8 +47,8 @@ std::string WhatElse(std::string_view drawn, std::string_view plain)
 
 std::string WhyUnread(std::string_view plain, Kind kind)
 {
-    const std::string_view letters = Letters(plain);
-    const std::string_view behind = plain.substr(letters.size());
+    const std::string_view letters = Cursor(plain).Letters();
+    const std::string_view rest = plain.substr(letters.size());
     const bool isType = !letters.empty() && (letters.find('L') != std::string_view::npos ||
                                              letters.find('l') != std::string_view::npos);
     if (plain.find('~') != std::string_view::npos) {
@@ -70,17 +60,17 @@ std::string WhyUnread(std::string_view plain, Kind kind)
     if (letters.empty() && AllDigits(plain)) {
         return "a bare number";
     }
-    if (isType && letters.back() != 'L' && letters.back() != 'l' && !behind.empty()) {
+    if (isType && letters.back() != 'L' && letters.back() != 'l' && !rest.empty()) {
         return "the letters in front of the number do not end in L, so it is no beam name";
     }
-    if (isType && (behind.empty() || behind.front() == '(')) {
+    if (isType && (rest.empty() || rest.front() == '(')) {
         return "a beam type without a serial";
     }
-    if (isType && behind.size() > 3 && AllDigits(behind)) {
+    if (isType && rest.size() > 3 && AllDigits(rest)) {
         return "a serial of more than three digits; it looks like a length";
     }
-    if (letters == "N" && behind.find('@') != std::string_view::npos) {
-        return "\"N\" stands where the grade sign of a stirrup belongs";
+    if (letters == "N" && rest.find('@') != std::string_view::npos) {
+        return "\"N\" in place of the grade sign of a stirrup";
     }
     if (letters == "HRB" || letters == "HPB" || letters == "RRB") {
         return "a steel's name in place of a grade letter; which letter stands for it differs";
@@ -94,4 +84,4 @@ std::string WhyUnread(std::string_view plain, Kind kind)
     return "no annotation of a beam or a wall has this shape";
 }
 
-}  // namespace Desk::Import
+}  // namespace Desk

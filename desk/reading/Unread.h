@@ -6,7 +6,7 @@
 
 #include "desk/reading/ReadText.h"
 
-namespace Desk::Import {
+namespace Desk {
 
 // What a text is that is understood and belongs to no beam: a grade sign alone, a concrete or steel grade.
 // Empty for every other text.
@@ -15,4 +15,4 @@ namespace Desk::Import {
 // Why nothing in a plain text could be read; never empty.
 [[nodiscard]] std::string WhyUnread(std::string_view plain, Kind kind);
 
-}  // namespace Desk::Import
+}  // namespace Desk

@@ -9,7 +9,6 @@ namespace Desk {
 
 namespace {
 
-constexpr int RowHeight = 12;      // pixels of the window layer
 constexpr int FontHeight = 12;     // of a 9-point font
 constexpr int ScrollBarWidth = 6;  // pixels of the window layer
 
@@ -51,7 +50,7 @@ ListWidget::ListWidget(HWND list, QWidget* parent) : QListView(parent), m_list(l
     setUniformItemSizes(true);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
-    m_isMultiColumn = Has(FindWindowRecord(list)->style, ControlStyle::MultiColumn);
+    m_isMultiColumn = FindWindowRecord(list)->IsMultiColumn();
     setFlow(m_isMultiColumn ? QListView::LeftToRight : QListView::TopToBottom);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -84,10 +83,8 @@ void ListWidget::TakeRows(const WindowRecord& list, const Scale& scale)
     }
     // A slim scroll bar over the list's edge reaches rows that do not fit.
     const QScopedValueRollback mirroring(m_isMirroring, true);
-    const int count = static_cast<int>(list.list.rows.size());
-    const int inView = m_isMultiColumn
-                           ? std::max(1, list.place.Width() / std::max(1, list.list.columnWidth))
-                           : std::max(1, list.place.Height() / RowHeight);
+    const int count = list.RowCount();
+    const int inView = list.RowsInView();
     QScrollBar& bar = Bar();
     bar.setRange(0, std::max(0, count - inView));
     bar.setPageStep(inView);
@@ -161,7 +158,7 @@ QString Shown(const CString& text) { return QString::fromStdString(Utf8FromGbk(t
 
 int CaretInWidget(const WindowRecord& box)
 {
-    return static_cast<int>(Shown(box.text.Left(box.edit.caret)).size());
+    return static_cast<int>(Shown(box.text.Left(box.caret)).size());
 }
 
 QWidget* MakeControl(const WindowRecord& control, QWidget* surface)

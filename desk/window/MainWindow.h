@@ -7,7 +7,7 @@
 #include "desk/Toolkit.h"
 #include "desk/plan/FloorView.h"
 #include "desk/plan/SectionSketch.h"
-#include "desk/ranking/Choices.h"
+#include "desk/ranking/Ranking.h"
 #include "desk/shell/QtDisplay.h"
 #include "desk/window/ChoiceBox.h"
 #include "desk/window/Document.h"

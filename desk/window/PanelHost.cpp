@@ -1,6 +1,7 @@
 #include "desk/window/PanelHost.h"
 
 #include "desk/project/Encoding.h"
+#include "desk/reading/Bars.h"
 
 namespace Desk {
 
@@ -22,12 +23,8 @@ PanelUse UseFor(Field field, const CString& present)
         rest.remove_prefix(head.size());
         use.pieceType = field == Field::Torsion && head == "*" ? StarTorsion : use.pieceType;
     }
-    while (!rest.empty()) {
-        const std::string_view piece = rest.substr(0, rest.find('+'));
-        rest.remove_prefix(std::min(piece.size() + 1, rest.size()));
-        if (!piece.empty()) {
-            use.pieces.emplace_back(piece);
-        }
+    for (const std::string& piece : BarPieces(rest)) {
+        use.pieces.emplace_back(piece);
     }
     return use;
 }

@@ -15,9 +15,9 @@ constexpr std::uintptr_t WasDownBefore = 1U << 30;  // in lParam of a key that r
 // a press like the first.
 void Release(HWND hButton, CPoint point)
 {
-    AppState& app = App();
-    const bool bPressed = app.pressedButton == hButton;
-    app.pressedButton = nullptr;
+    LayerState& state = State();
+    const bool bPressed = state.pressedButton == hButton;
+    state.pressedButton = nullptr;
     const CRect& place = Find(hButton)->place;
     if (bPressed && CRect(0, 0, place.Width(), place.Height()).PtInRect(point)) {
         UserClicksButton(hButton);
@@ -40,7 +40,7 @@ std::optional<LRESULT> WindowLayer::ButtonDefault(HWND hButton, UINT message, WP
     switch (message) {
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-        App().pressedButton = hButton;
+        State().pressedButton = hButton;
         GiveFocus(hButton);
         return 0;
     case WM_LBUTTONUP: Release(hButton, CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam))); return 0;
@@ -58,7 +58,7 @@ std::optional<LRESULT> WindowLayer::ButtonDefault(HWND hButton, UINT message, WP
 
 BOOL UserClicksButton(HWND hButton)
 {
-    const WindowRecord* const button = Find(hButton);
+    const Window* const button = Find(hButton);
     if (button == nullptr || button->kind != WindowKind::Button || !TakesInput(*button)) {
         return FALSE;
     }

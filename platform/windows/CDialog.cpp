@@ -27,12 +27,12 @@ CRect InPixels(const DialogRect& place)
 
 void AddControl(const ControlTemplate& shape, HWND hPopUp)
 {
-    WindowRecord& control = App().windows.Add(KindOf(shape.kind), hPopUp);
+    Window& control = State().windows.Add(KindOf(shape.kind), hPopUp);
     control.id = shape.id;
     control.style = shape.style;
     control.place = InPixels(shape.place);
     control.text = shape.text;
-    control.edit.caret = control.text.GetLength();
+    control.caret = control.text.GetLength();
     control.visible = true;
     control.enabled = !Has(shape.style, ControlStyle::Disabled);
 }
@@ -50,10 +50,9 @@ BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd)
         return FALSE;
     }
     DropRetired();
-    const WindowRecord* const parent = pParentWnd != nullptr ? Find(pParentWnd->m_hWnd) : nullptr;
+    const Window* const parent = pParentWnd != nullptr ? Find(pParentWnd->m_hWnd) : nullptr;
     const CPoint corner = parent != nullptr ? ClientOrigin(*parent) : CPoint();
-    WindowRecord& popUp =
-        App().windows.Add(WindowKind::PopUp, parent != nullptr ? parent->handle : nullptr);
+    Window& popUp = State().windows.Add(WindowKind::PopUp, parent != nullptr ? parent->handle : nullptr);
     const HWND handle = popUp.handle;
     popUp.shape = m_pTemplate;
     popUp.place = CRect(corner.x, corner.y, corner.x + DialogUnitsAcross(m_pTemplate->width),
@@ -78,10 +77,10 @@ BOOL CDialog::PreTranslateMessage(MSG* pMsg)
     if (pMsg->message != WM_KEYDOWN || pMsg->wParam != VK_TAB) {
         return FALSE;
     }
-    const AppState& app = App();
-    const WindowRecord* const focused = Find(app.focus);
+    const LayerState& state = State();
+    const Window* const focused = Find(state.focus);
     const bool bInside = focused != nullptr && focused->parent == m_hWnd;
-    StepFocus(m_hWnd, bInside ? app.focus : pMsg->hwnd, app.shiftDown);
+    StepFocus(m_hWnd, bInside ? state.focus : pMsg->hwnd, state.shiftDown);
     return TRUE;
 }
 

@@ -1,41 +1,41 @@
 // CListBox: the operations on the rows of the object's window.
 #include "platform/windows/CListBox.h"
 
-#include "platform/windows/private/ListRows.h"
+#include "platform/windows/private/ListBox.h"
 
-using ListRows::FindList;
+using ListBox::FindList;
 
 BEGIN_MESSAGE_MAP(CListBox, CWnd)
 END_MESSAGE_MAP()
 
-int CListBox::AddString(const CString& strText) { return ListRows::Insert(m_hWnd, -1, strText); }
+int CListBox::AddString(const CString& strText) { return ListBox::Insert(m_hWnd, -1, strText); }
 
 int CListBox::InsertString(int nIndex, const CString& strText)
 {
-    return ListRows::Insert(m_hWnd, nIndex, strText);
+    return ListBox::Insert(m_hWnd, nIndex, strText);
 }
 
-int CListBox::DeleteString(int nIndex) { return ListRows::Delete(m_hWnd, nIndex); }
-void CListBox::ResetContent() { ListRows::Reset(m_hWnd); }
+int CListBox::DeleteString(int nIndex) { return ListBox::Delete(m_hWnd, nIndex); }
+void CListBox::ResetContent() { ListBox::Reset(m_hWnd); }
 
 int CListBox::GetCount() const
 {
-    const WindowRecord* const list = FindList(m_hWnd);
-    return list != nullptr ? ListRows::CountOf(*list) : LB_ERR;
+    const Window* const list = FindList(m_hWnd);
+    return list != nullptr ? list->RowCount() : LB_ERR;
 }
 
 int CListBox::GetCurSel() const
 {
-    const WindowRecord* const list = FindList(m_hWnd);
+    const Window* const list = FindList(m_hWnd);
     return list != nullptr ? list->list.selection : LB_ERR;
 }
 
-int CListBox::SetCurSel(int nSelect) { return ListRows::Select(m_hWnd, nSelect); }
+int CListBox::SetCurSel(int nSelect) { return ListBox::Select(m_hWnd, nSelect); }
 
 int CListBox::GetText(int nIndex, CString& rString) const
 {
-    const WindowRecord* const list = FindList(m_hWnd);
-    if (list == nullptr || !ListRows::HasRow(*list, nIndex)) {
+    const Window* const list = FindList(m_hWnd);
+    if (list == nullptr || !list->HasRow(nIndex)) {
         rString.Empty();
         return LB_ERR;
     }
@@ -45,20 +45,20 @@ int CListBox::GetText(int nIndex, CString& rString) const
 
 int CListBox::GetItemRect(int nIndex, RECT* lpRect) const
 {
-    const WindowRecord* const list = FindList(m_hWnd);
-    if (list == nullptr || !ListRows::HasRow(*list, nIndex)) {
+    const Window* const list = FindList(m_hWnd);
+    if (list == nullptr || !list->HasRow(nIndex)) {
         return LB_ERR;
     }
-    *lpRect = ListRows::RectOf(*list, nIndex);
+    *lpRect = list->RectOfRow(nIndex);
     return LB_OKAY;
 }
 
-void CListBox::SetColumnWidth(int nWidth) { ListRows::SetColumnWidth(m_hWnd, nWidth); }
+void CListBox::SetColumnWidth(int nWidth) { ListBox::SetColumnWidth(m_hWnd, nWidth); }
 
 int CListBox::GetTopIndex() const
 {
-    const WindowRecord* const list = FindList(m_hWnd);
+    const Window* const list = FindList(m_hWnd);
     return list != nullptr ? list->list.top : LB_ERR;
 }
 
-int CListBox::SetTopIndex(int nIndex) { return ListRows::SetTop(m_hWnd, nIndex); }
+int CListBox::SetTopIndex(int nIndex) { return ListBox::SetTop(m_hWnd, nIndex); }

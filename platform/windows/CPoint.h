@@ -1,6 +1,8 @@
 // CPoint: a position in pixels.
 #pragma once
 
+#include <algorithm>
+
 #include "platform/windows/WinTypes.h"
 
 // x grows to the right, y grows downwards.
@@ -16,3 +18,15 @@ public:
 
     friend constexpr bool operator==(CPoint a, CPoint b) noexcept { return a.x == b.x && a.y == b.y; }
 };
+
+// How far from the screen's corner a position can lie, in pixels; a few such distances still add up
+// within 32 bits.
+inline constexpr int FarthestPixel = 1 << 28;
+
+// A position with what lies beyond the farthest pixel put there. Absurd positions go through this
+// before anything is added to them.
+[[nodiscard]] constexpr CPoint Clamped(CPoint point) noexcept
+{
+    return {std::clamp(point.x, -FarthestPixel, FarthestPixel),
+            std::clamp(point.y, -FarthestPixel, FarthestPixel)};
+}

@@ -1,36 +1,44 @@
-// The one application object, the display and the message box.
+// The application object, the display and the message box.
 #include "platform/windows/CWinApp.h"
 
 #include "platform/windows/MessageBox.h"
-#include "platform/windows/private/AppState.h"
 #include "platform/windows/private/WindowLayer.h"
 
-CWinApp::CWinApp() : m_state(std::make_unique<AppState>()) {}
-CWinApp::~CWinApp() = default;
-
-CWinApp* AfxGetApp()
+CWinApp::CWinApp()
 {
-    static CWinApp* const app = new CWinApp;
-    return app;
+    CWinApp*& application = WindowLayer::State().application;
+    if (application == nullptr) {
+        application = this;
+    }
 }
+
+CWinApp::~CWinApp()
+{
+    CWinApp*& application = WindowLayer::State().application;
+    if (application == this) {
+        application = nullptr;
+    }
+}
+
+CWinApp* AfxGetApp() { return WindowLayer::State().application; }
 
 void SetDisplay(Display* pDisplay)
 {
-    WindowLayer::App().display = pDisplay;
+    WindowLayer::State().display = pDisplay;
     for (const HWND window : AllWindows()) {
         WindowLayer::TellCreated(window);
     }
 }
 
-Display* GetDisplay() { return WindowLayer::App().display; }
+Display* GetDisplay() { return WindowLayer::State().display; }
 
 int AfxMessageBox(const CString& strText, UINT /*nType*/)
 {
-    const AppState& app = WindowLayer::App();
-    if (app.display != nullptr) {
-        return app.display->ShowMessageBox(strText);
+    const LayerState& state = WindowLayer::State();
+    if (state.display != nullptr) {
+        return state.display->ShowMessageBox(strText);
     }
-    return app.messageBox != nullptr ? app.messageBox(strText) : IDOK;
+    return state.messageBox != nullptr ? state.messageBox(strText) : IDOK;
 }
 
-void SetMessageBoxFunc(int (*func)(const CString&)) { WindowLayer::App().messageBox = func; }
+void SetMessageBoxFunc(int (*func)(const CString&)) { WindowLayer::State().messageBox = func; }

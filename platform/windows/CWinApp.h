@@ -1,28 +1,17 @@
-// CWinApp: the application object, which owns all windows of the process.
+// CWinApp: the application object.
 #pragma once
-
-#include <memory>
 
 #include "platform/text/Export.h"
 
-struct AppState;
-
-// There is one, made when it is first asked for; it lives until the process ends, so that windows
-// of static objects can go at any time.
+// The first one that is made is the application object until it goes. The windows do not belong to
+// it: they work without one.
 class PLATFORM_API CWinApp {
 public:
+    CWinApp();
     CWinApp(const CWinApp&) = delete;
     CWinApp& operator=(const CWinApp&) = delete;
-
-    [[nodiscard]] AppState& State() const { return *m_state; }  // for the layer itself
-
-private:
-    friend CWinApp* AfxGetApp();
-
-    CWinApp();
-    ~CWinApp();
-
-    std::unique_ptr<AppState> m_state;
+    virtual ~CWinApp();
 };
 
-PLATFORM_API CWinApp* AfxGetApp();
+// Null when there is none. The module makes one when it is loaded.
+[[nodiscard]] PLATFORM_API CWinApp* AfxGetApp();

@@ -13,7 +13,7 @@ namespace {
 
 CWnd* ObjectAt(HWND hWnd)
 {
-    WindowRecord* const window = Find(hWnd);
+    Window* const window = Find(hWnd);
     return window != nullptr ? ObjectOf(*window) : nullptr;
 }
 
@@ -30,7 +30,7 @@ const AFX_MSGMAP* CWnd::GetThisMessageMap()
 
 CWnd::~CWnd()
 {
-    WindowRecord* const window = Find(m_hWnd);
+    Window* const window = Find(m_hWnd);
     if (window == nullptr || window->attached != this) {
         return;
     }
@@ -51,8 +51,8 @@ BOOL CWnd::CreateFrame(const CRect& rect)
         return FALSE;
     }
     WindowLayer::DropRetired();
-    WindowRecord& window = WindowLayer::App().windows.Add(WindowKind::Frame, nullptr);
-    window.place = rect;
+    Window& window = WindowLayer::State().windows.Add(WindowKind::Frame, nullptr);
+    window.place = WindowLayer::PlaceOf(rect);
     window.attached = this;
     m_hWnd = window.handle;
     WindowLayer::TellCreated(m_hWnd);
@@ -72,31 +72,31 @@ CWnd* CWnd::FromHandle(HWND hWnd) { return ObjectAt(hWnd); }
 
 CWnd* CWnd::GetParent() const
 {
-    const WindowRecord* const window = Find(m_hWnd);
+    const Window* const window = Find(m_hWnd);
     return window != nullptr ? ObjectAt(window->parent) : nullptr;
 }
 
 CWnd* CWnd::GetDlgItem(int nID) const
 {
-    WindowRecord* const child = WindowLayer::ChildWithId(m_hWnd, nID);
+    Window* const child = WindowLayer::ChildWithId(m_hWnd, nID);
     return child != nullptr ? ObjectOf(*child) : nullptr;
 }
 
 int CWnd::GetDlgCtrlID() const
 {
-    const WindowRecord* const window = Find(m_hWnd);
+    const Window* const window = Find(m_hWnd);
     return window != nullptr ? window->id : 0;
 }
 
 CWnd* CWnd::GetTopWindow() const
 {
-    const WindowRecord* const window = Find(m_hWnd);
+    const Window* const window = Find(m_hWnd);
     return window != nullptr && !window->children.empty() ? ObjectAt(window->children.front()) : nullptr;
 }
 
 CWnd* CWnd::GetNextWindow(UINT nFlag) const
 {
-    const WindowRecord* const window = Find(m_hWnd);
+    const Window* const window = Find(m_hWnd);
     if (window == nullptr || !window->IsControl()) {
         return nullptr;
     }
@@ -110,14 +110,14 @@ CWnd* CWnd::GetNextWindow(UINT nFlag) const
 
 void CWnd::SetWindowText(const CString& strText)
 {
-    if (WindowRecord* const window = Find(m_hWnd)) {
+    if (Window* const window = Find(m_hWnd)) {
         WindowLayer::PutText(*window, strText);
     }
 }
 
 void CWnd::GetWindowText(CString& rString) const
 {
-    const WindowRecord* const window = Find(m_hWnd);
+    const Window* const window = Find(m_hWnd);
     rString = window != nullptr ? window->text : CString();
 }
 
@@ -128,7 +128,7 @@ CWnd* CWnd::SetFocus()
     return before;
 }
 
-CWnd* CWnd::GetFocus() { return ObjectAt(WindowLayer::App().focus); }
+CWnd* CWnd::GetFocus() { return ObjectAt(WindowLayer::State().focus); }
 
 LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {

@@ -69,7 +69,7 @@ public:
     [[nodiscard]] BOOL IsWindowEnabled() const;
 
     // Pop-ups and frames: pixels of the screen. Controls: pixels of the parent's client area. A
-    // window has no border: its client area is all of it. A place or size beyond 2^28 pixels stays
+    // window has no border: its client area is all of it. A position or size beyond 2^28 pixels stays
     // there, a negative size counts as 0.
     void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE);
     void MoveWindow(const RECT* lpRect, BOOL bRepaint = TRUE);

@@ -1,25 +1,30 @@
 // CWnd: where a window stands, and whether it is shown and enabled.
-#include <algorithm>
-
 #include "platform/windows/private/WindowLayer.h"
 
 using WindowLayer::Find;
 
 namespace {
 
-constexpr int Farthest = 1 << 28;  // pixels; a few such distances still add up within 32 bits
-
-CRect OnScreen(const WindowRecord& window)
+CRect OnScreen(const Window& window)
 {
     const CPoint origin = WindowLayer::ClientOrigin(window);
     return {origin.x, origin.y, origin.x + window.place.Width(), origin.y + window.place.Height()};
+}
+
+void PutAt(HWND hWnd, const CRect& place)
+{
+    Window* const window = Find(hWnd);
+    if (window != nullptr && window->place != place) {
+        window->place = place;
+        WindowLayer::Tell(hWnd, WindowChange::Place);
+    }
 }
 
 }  // namespace
 
 BOOL CWnd::ShowWindow(int nCmdShow)
 {
-    WindowRecord* const window = Find(m_hWnd);
+    Window* const window = Find(m_hWnd);
     if (window == nullptr) {
         return FALSE;
     }
@@ -28,14 +33,14 @@ BOOL CWnd::ShowWindow(int nCmdShow)
     window->visible = nCmdShow != SW_HIDE;
     const bool bShowHolder = window->visible && !window->IsControl();
     if (bShowHolder) {
-        WindowLayer::App().windows.Raise(handle);
+        WindowLayer::State().windows.Raise(handle);
     }
     if (before != window->visible) {
         WindowLayer::Tell(handle, WindowChange::Visible);
     }
     if (bShowHolder) {
         WindowLayer::Tell(handle, WindowChange::Order);
-        const WindowRecord* const focused = WindowLayer::HolderOf(WindowLayer::App().focus);
+        const Window* const focused = WindowLayer::HolderOf(WindowLayer::State().focus);
         if (focused == nullptr || focused->handle != handle) {
             WindowLayer::EnterFocus(handle);
         }
@@ -47,13 +52,13 @@ BOOL CWnd::ShowWindow(int nCmdShow)
 
 BOOL CWnd::IsWindowVisible() const
 {
-    const WindowRecord* const window = Find(m_hWnd);
+    const Window* const window = Find(m_hWnd);
     return window != nullptr && WindowLayer::IsShown(*window) ? TRUE : FALSE;
 }
 
 BOOL CWnd::EnableWindow(BOOL bEnable)
 {
-    WindowRecord* const window = Find(m_hWnd);
+    Window* const window = Find(m_hWnd);
     if (window == nullptr) {
         return FALSE;
     }
@@ -71,61 +76,48 @@ BOOL CWnd::EnableWindow(BOOL bEnable)
 
 BOOL CWnd::IsWindowEnabled() const
 {
-    const WindowRecord* const window = Find(m_hWnd);
+    const Window* const window = Find(m_hWnd);
     return window != nullptr && window->enabled ? TRUE : FALSE;
 }
 
 void CWnd::MoveWindow(int x, int y, int nWidth, int nHeight, BOOL /*bRepaint*/)
 {
-    WindowRecord* const window = Find(m_hWnd);
-    if (window == nullptr) {
-        return;
-    }
-    // A panel flung about by releases without presses must not run out of numbers.
-    const int left = std::clamp(x, -Farthest, Farthest);
-    const int top = std::clamp(y, -Farthest, Farthest);
-    const CRect place(left, top, left + std::clamp(nWidth, 0, Farthest),
-                      top + std::clamp(nHeight, 0, Farthest));
-    if (window->place != place) {
-        window->place = place;
-        WindowLayer::Tell(m_hWnd, WindowChange::Place);
-    }
+    PutAt(m_hWnd, WindowLayer::PlaceOf(x, y, nWidth, nHeight));
 }
 
-void CWnd::MoveWindow(const RECT* lpRect, BOOL bRepaint)
+void CWnd::MoveWindow(const RECT* lpRect, BOOL /*bRepaint*/)
 {
-    const CRect rect(*lpRect);
-    MoveWindow(rect.left, rect.top, rect.Width(), rect.Height(), bRepaint);
+    PutAt(m_hWnd, WindowLayer::PlaceOf(*lpRect));
 }
 
 void CWnd::GetWindowRect(RECT* lpRect) const
 {
-    if (const WindowRecord* const window = Find(m_hWnd)) {
+    if (const Window* const window = Find(m_hWnd)) {
         *lpRect = OnScreen(*window);
     }
 }
 
 void CWnd::GetClientRect(RECT* lpRect) const
 {
-    if (const WindowRecord* const window = Find(m_hWnd)) {
+    if (const Window* const window = Find(m_hWnd)) {
         *lpRect = CRect(0, 0, window->place.Width(), window->place.Height());
     }
 }
 
 void CWnd::ScreenToClient(POINT* lpPoint) const
 {
-    if (const WindowRecord* const window = Find(m_hWnd)) {
+    if (const Window* const window = Find(m_hWnd)) {
         const CPoint origin = WindowLayer::ClientOrigin(*window);
-        lpPoint->x -= origin.x;
-        lpPoint->y -= origin.y;
+        const CPoint point = Clamped(*lpPoint);
+        *lpPoint = CPoint(point.x - origin.x, point.y - origin.y);
     }
 }
 
 void CWnd::ClientToScreen(POINT* lpPoint) const
 {
-    if (const WindowRecord* const window = Find(m_hWnd)) {
+    if (const Window* const window = Find(m_hWnd)) {
         const CPoint origin = WindowLayer::ClientOrigin(*window);
-        lpPoint->x += origin.x;
-        lpPoint->y += origin.y;
+        const CPoint point = Clamped(*lpPoint);
+        *lpPoint = CPoint(point.x + origin.x, point.y + origin.y);
     }
 }

@@ -5,7 +5,7 @@
 
 namespace {
 
-WindowRecord* ControlOf(const CDataExchange* pDX, int nIDC)
+Window* ControlOf(const CDataExchange* pDX, int nIDC)
 {
     return WindowLayer::ChildWithId(pDX->m_pDlgWnd->m_hWnd, nIDC);
 }
@@ -14,7 +14,7 @@ WindowRecord* ControlOf(const CDataExchange* pDX, int nIDC)
 
 void DDX_Text(CDataExchange* pDX, int nIDC, CString& value)
 {
-    WindowRecord* const control = ControlOf(pDX, nIDC);
+    Window* const control = ControlOf(pDX, nIDC);
     if (control == nullptr) {
         return;
     }
@@ -27,7 +27,7 @@ void DDX_Text(CDataExchange* pDX, int nIDC, CString& value)
 
 void DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl)
 {
-    WindowRecord* const control = ControlOf(pDX, nIDC);
+    Window* const control = ControlOf(pDX, nIDC);
     if (control != nullptr && control->attached == nullptr && rControl.m_hWnd == nullptr) {
         control->attached = &rControl;
         rControl.m_hWnd = control->handle;

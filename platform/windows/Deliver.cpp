@@ -37,7 +37,7 @@ LRESULT CopyText(const CString& strText, std::size_t size, char* buffer)
     return static_cast<LRESULT>(length);
 }
 
-std::optional<LRESULT> TextMessage(WindowRecord& window, UINT message, WPARAM wParam, LPARAM lParam)
+std::optional<LRESULT> TextMessage(Window& window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
     case WM_SETTEXT:
@@ -49,7 +49,7 @@ std::optional<LRESULT> TextMessage(WindowRecord& window, UINT message, WPARAM wP
     }
 }
 
-std::optional<LRESULT> KindDefault(WindowRecord& window, UINT message, WPARAM wParam, LPARAM lParam)
+std::optional<LRESULT> KindDefault(Window& window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (const std::optional<LRESULT> done = TextMessage(window, message, wParam, lParam)) {
         return done;
@@ -66,7 +66,7 @@ std::optional<LRESULT> KindDefault(WindowRecord& window, UINT message, WPARAM wP
 
 LRESULT Call(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const WindowRecord* const window = Find(hWnd);
+    const Window* const window = Find(hWnd);
     if (window == nullptr || (message == WM_COMMAND && window->notificationLock > 0)) {
         return 0;
     }
@@ -81,7 +81,7 @@ LRESULT Call(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
 
 LRESULT CallDefault(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    WindowRecord* const window = Find(hWnd);
+    Window* const window = Find(hWnd);
     if (window == nullptr) {
         return 0;
     }
@@ -96,7 +96,7 @@ LRESULT CallDefault(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
 
 void NotifyParent(HWND hControl, UINT nCode)
 {
-    if (const WindowRecord* const control = Find(hControl)) {
+    if (const Window* const control = Find(hControl)) {
         Call(control->parent, WM_COMMAND, MAKEWPARAM(control->id, static_cast<int>(nCode)),
              reinterpret_cast<LPARAM>(hControl));  // NOLINT: as the message says
     }

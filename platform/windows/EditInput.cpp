@@ -15,9 +15,9 @@ using namespace WindowLayer;
 constexpr int ByteWidth = 6;  // pixels of one byte in the 9-point font, a double-byte character has two
 constexpr int Margin = 1;     // pixels between the box's edge and its text
 
-WindowRecord* FindBox(HWND hEdit)
+Window* FindBox(HWND hEdit)
 {
-    WindowRecord* const window = Find(hEdit);
+    Window* const window = Find(hEdit);
     return window != nullptr && window->kind == WindowKind::EditBox ? window : nullptr;
 }
 
@@ -31,8 +31,7 @@ BOOL Replace(HWND hEdit, int nFrom, int nTo, const std::string& bytes)
 
 void MoveCaret(HWND hEdit, int nCaret)
 {
-    EditState& edit = FindBox(hEdit)->edit;
-    edit = {nCaret, '\0'};
+    SetCaret(*FindBox(hEdit), nCaret);
     Tell(hEdit, WindowChange::Caret);
 }
 
@@ -40,12 +39,12 @@ void MoveCaret(HWND hEdit, int nCaret)
 // one and notifies once.
 bool TypeByte(HWND hEdit, WPARAM typed)
 {
-    EditState& edit = FindBox(hEdit)->edit;
-    const char lead = edit.pendingLead;
-    edit.pendingLead = '\0';
+    Window& box = *FindBox(hEdit);
+    const char lead = box.pendingLead;
+    box.pendingLead = '\0';
     if (typed == VK_BACK) {
         if (lead == '\0') {
-            Replace(hEdit, PreviousCharacter(FindBox(hEdit)->text.View(), edit.caret), edit.caret, "");
+            Replace(hEdit, PreviousCharacter(box.text.View(), box.caret), box.caret, "");
         }
         return true;
     }
@@ -54,12 +53,12 @@ bool TypeByte(HWND hEdit, WPARAM typed)
     }
     const char byte = static_cast<char>(typed);
     if (lead == '\0' && IsGbkLead(byte)) {
-        edit.pendingLead = byte;
+        box.pendingLead = byte;
         return true;
     }
     // Half of a character and then another one come in together; a box for digits leaves the half out.
-    const bool drop = !IsGbkTrail(byte) && Has(FindBox(hEdit)->style, ControlStyle::DigitsOnly);
-    Replace(hEdit, edit.caret, edit.caret,
+    const bool drop = !IsGbkTrail(byte) && Has(box.style, ControlStyle::DigitsOnly);
+    Replace(hEdit, box.caret, box.caret,
             lead != '\0' && !drop ? std::string{lead, byte} : std::string{byte});
     return true;
 }
@@ -73,9 +72,9 @@ bool TypesText(WPARAM key)
 
 bool KeyDown(HWND hEdit, WPARAM key)
 {
-    const WindowRecord& box = *FindBox(hEdit);
+    const Window& box = *FindBox(hEdit);
     const std::string_view text = box.text.View();
-    const int caret = box.edit.caret;
+    const int caret = box.caret;
     switch (key) {
     case VK_LEFT:
     case VK_UP: MoveCaret(hEdit, PreviousCharacter(text, caret)); return true;
@@ -89,7 +88,7 @@ bool KeyDown(HWND hEdit, WPARAM key)
 }
 
 // The position between two characters that is nearest to a place across the box.
-int CaretAt(const WindowRecord& box, int x)
+int CaretAt(const Window& box, int x)
 {
     const std::string_view text = box.text.View();
     const int length = box.text.GetLength();
@@ -108,7 +107,7 @@ int CaretAt(const WindowRecord& box, int x)
 LRESULT Press(HWND hEdit, int x)
 {
     GiveFocus(hEdit);
-    const WindowRecord* const box = FindBox(hEdit);
+    const Window* const box = FindBox(hEdit);
     if (box != nullptr && TakesInput(*box)) {
         MoveCaret(hEdit, CaretAt(*box, x));
     }
@@ -150,7 +149,7 @@ std::optional<LRESULT> WindowLayer::EditBoxDefault(HWND hEdit, UINT message, WPA
 
 BOOL UserEditsText(HWND hEdit, const CString& strText, int nCaret)
 {
-    WindowRecord* const box = FindBox(hEdit);
+    Window* const box = FindBox(hEdit);
     if (box == nullptr || !TakesInput(*box)) {
         return FALSE;
     }
@@ -164,7 +163,7 @@ BOOL UserEditsText(HWND hEdit, const CString& strText, int nCaret)
     const int wanted = nCaret == -1 ? length : std::clamp(nCaret, 0, length);
     const std::string_view text = strText.View();
     box->text = strText;
-    box->edit = {wanted == 0 ? 0 : NextCharacter(text, PreviousCharacter(text, wanted)), '\0'};
+    SetCaret(*box, wanted == 0 ? 0 : NextCharacter(text, PreviousCharacter(text, wanted)));
     Tell(hEdit, bChanged ? WindowChange::Text : WindowChange::Caret);
     if (bChanged) {
         NotifyParent(hEdit, EN_CHANGE);

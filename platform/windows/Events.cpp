@@ -14,14 +14,14 @@ bool IsInput(UINT message) { return IsMouse(message) || (message >= WM_KEYDOWN &
 void NoteShift(const MSG& msg)
 {
     if (msg.wParam == VK_SHIFT && (msg.message == WM_KEYDOWN || msg.message == WM_KEYUP)) {
-        App().shiftDown = msg.message == WM_KEYDOWN;
+        State().shiftDown = msg.message == WM_KEYDOWN;
     }
 }
 
 // A control that takes no input leaves the event to its parent, whose client area begins elsewhere.
 void PassThrough(MSG& msg)
 {
-    const WindowRecord* window = Find(msg.hwnd);
+    const Window* window = Find(msg.hwnd);
     while (window != nullptr && window->IsControl() &&
            (!window->enabled || window->kind == WindowKind::Label)) {
         if (IsMouse(msg.message)) {
@@ -40,7 +40,7 @@ BOOL AfxPreTranslateMessage(MSG* pMsg)
     NoteShift(*pMsg);
     const InCall inCall;
     HWND hWnd = pMsg->hwnd;
-    while (const WindowRecord* const window = Find(hWnd)) {
+    while (const Window* const window = Find(hWnd)) {
         const HWND next = window->IsControl() ? window->parent : nullptr;
         if (window->attached != nullptr && window->attached->PreTranslateMessage(pMsg)) {
             return TRUE;
@@ -58,22 +58,22 @@ LRESULT DispatchMessage(const MSG* pMsg)
     }
     NoteShift(msg);
     PassThrough(msg);
-    const WindowRecord* const window = Find(msg.hwnd);
+    const Window* const window = Find(msg.hwnd);
     if (window == nullptr || !TakesInput(*window)) {
         return 0;
     }
-    const HWND pressed = App().pressedButton;
+    const HWND pressed = State().pressedButton;
     if (msg.message == WM_LBUTTONDOWN || (msg.message == WM_LBUTTONUP && pressed != msg.hwnd)) {
-        App().pressedButton = nullptr;
+        State().pressedButton = nullptr;
     }
     return Call(msg.hwnd, msg.message, msg.wParam, msg.lParam);
 }
 
 HWND WindowFromPoint(CPoint point)
 {
-    const std::vector<HWND>& order = App().windows.Order();
+    const std::vector<HWND>& order = State().windows.Order();
     for (std::size_t above = order.size(); above-- > 0;) {
-        const WindowRecord& holder = *Find(order[above]);
+        const Window& holder = *Find(order[above]);
         if (!holder.visible || !holder.place.PtInRect(point)) {
             continue;
         }
@@ -82,7 +82,7 @@ HWND WindowFromPoint(CPoint point)
         }
         const CPoint inside(point.x - holder.place.left, point.y - holder.place.top);
         for (const HWND child : holder.children) {
-            const WindowRecord& control = *Find(child);
+            const Window& control = *Find(child);
             if (control.visible && TakesInput(control) && control.place.PtInRect(inside)) {
                 return child;
             }

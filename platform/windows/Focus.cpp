@@ -9,7 +9,7 @@ namespace {
 
 bool IsTabStop(HWND hWnd)
 {
-    const WindowRecord* const window = Find(hWnd);
+    const Window* const window = Find(hWnd);
     return window != nullptr && window->visible && window->enabled && window->kind != WindowKind::Label;
 }
 
@@ -28,12 +28,12 @@ HWND TabStopFrom(const std::vector<HWND>& children, std::size_t start, bool bBac
 
 void SetAndTell(HWND hWnd)
 {
-    AppState& app = App();
-    const HWND before = app.focus;
+    LayerState& state = State();
+    const HWND before = state.focus;
     if (before == hWnd) {
         return;
     }
-    app.focus = hWnd;
+    state.focus = hWnd;
     Tell(hWnd != nullptr ? hWnd : before, WindowChange::Focus);
 }
 
@@ -41,7 +41,7 @@ void SetAndTell(HWND hWnd)
 
 void GiveFocus(HWND hWnd)
 {
-    const WindowRecord* const window = Find(hWnd);
+    const Window* const window = Find(hWnd);
     if (window == nullptr || !TakesInput(*window)) {
         return;
     }
@@ -53,7 +53,7 @@ void GiveFocus(HWND hWnd)
 
 void EnterFocus(HWND hHolder)
 {
-    const WindowRecord* const holder = Find(hHolder);
+    const Window* const holder = Find(hHolder);
     if (holder == nullptr) {
         return;
     }
@@ -64,10 +64,10 @@ void EnterFocus(HWND hHolder)
 
 void ReturnFocus(HWND hParent)
 {
-    const WindowRecord* const parent = Find(hParent);
+    const Window* const parent = Find(hParent);
     if (parent == nullptr || !IsShown(*parent) || !TakesInput(*parent)) {
         SetAndTell(nullptr);
-        App().shiftDown = false;  // nobody will see it go up
+        State().shiftDown = false;  // nobody will see it go up
     } else if (parent->IsControl()) {
         GiveFocus(hParent);
     } else {
@@ -77,9 +77,9 @@ void ReturnFocus(HWND hParent)
 
 void LeaveFocus(HWND hWnd)
 {
-    const HWND focus = App().focus;
-    const WindowRecord* const window = Find(hWnd);
-    const WindowRecord* const holder = HolderOf(focus);
+    const HWND focus = State().focus;
+    const Window* const window = Find(hWnd);
+    const Window* const holder = HolderOf(focus);
     if (window != nullptr && holder != nullptr && (focus == hWnd || holder->handle == hWnd)) {
         ReturnFocus(window->parent);
     }
@@ -87,7 +87,7 @@ void LeaveFocus(HWND hWnd)
 
 void StepFocus(HWND hHolder, HWND hFrom, bool bBackwards)
 {
-    const WindowRecord* const holder = Find(hHolder);
+    const Window* const holder = Find(hHolder);
     if (holder == nullptr || holder->children.empty()) {
         return;
     }

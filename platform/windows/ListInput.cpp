@@ -4,19 +4,19 @@
 
 #include "platform/windows/CListBox.h"
 #include "platform/windows/UserInput.h"
-#include "platform/windows/private/ListRows.h"
+#include "platform/windows/private/ListBox.h"
 
 namespace {
 
 using namespace WindowLayer;
-using namespace ListRows;
+using namespace ListBox;
 
 constexpr int WheelRows = 3;  // rows a notch
 
 // The row that a key moves to, -1 for a key that moves none.
-int RowForKey(const WindowRecord& list, WPARAM key)
+int RowForKey(const Window& list, WPARAM key)
 {
-    const int last = CountOf(list) - 1;
+    const int last = list.RowCount() - 1;
     const int now = list.list.selection;
     const auto moved = [&](int by) { return now == -1 ? 0 : std::clamp(now + by, 0, last); };
     switch (key) {
@@ -24,8 +24,8 @@ int RowForKey(const WindowRecord& list, WPARAM key)
     case VK_LEFT: return moved(-1);
     case VK_DOWN:
     case VK_RIGHT: return moved(1);
-    case VK_PRIOR: return moved(-RowsInView(list));
-    case VK_NEXT: return moved(RowsInView(list));
+    case VK_PRIOR: return moved(-list.RowsInView());
+    case VK_NEXT: return moved(list.RowsInView());
     case VK_HOME: return 0;
     case VK_END: return last;
     default: return -1;
@@ -34,8 +34,8 @@ int RowForKey(const WindowRecord& list, WPARAM key)
 
 std::optional<LRESULT> KeyDown(HWND hList, WPARAM key)
 {
-    const WindowRecord& list = *FindList(hList);
-    if (CountOf(list) == 0 || !TakesInput(list)) {
+    const Window& list = *FindList(hList);
+    if (list.RowCount() == 0 || !TakesInput(list)) {
         return std::nullopt;
     }
     const int row = RowForKey(list, key);
@@ -52,28 +52,28 @@ std::optional<LRESULT> KeyDown(HWND hList, WPARAM key)
 LRESULT Press(HWND hList, CPoint point)
 {
     GiveFocus(hList);
-    if (const WindowRecord* const list = FindList(hList)) {
-        UserPicksRow(hList, RowAt(*list, point));
+    if (const Window* const list = FindList(hList)) {
+        UserPicksRow(hList, list->RowAt(point));
     }
     return 0;
 }
 
 LRESULT Wheel(HWND hList, WPARAM wParam)
 {
-    WindowRecord& list = *FindList(hList);
-    const int inView = RowsInView(list);
+    Window& list = *FindList(hList);
+    const int inView = list.RowsInView();
     const int step = WHEEL_DELTA / std::min(WheelRows, inView);
-    const int turn = list.list.wheelRest + static_cast<std::int16_t>(HIWORD(wParam));
-    list.list.wheelRest = turn % step;
-    const int lowest = std::max({CountOf(list) - inView, list.list.top, 0});
+    const int turn = list.wheelRest + static_cast<std::int16_t>(HIWORD(wParam));
+    list.wheelRest = turn % step;
+    const int lowest = std::max({list.RowCount() - inView, list.list.top, 0});
     SetTop(hList, std::clamp(list.list.top - turn / step, 0, lowest));
     return 0;
 }
 
 LRESULT RowText(HWND hList, WPARAM row, char* buffer)
 {
-    const WindowRecord& list = *FindList(hList);
-    if (!HasRow(list, static_cast<int>(row))) {
+    const Window& list = *FindList(hList);
+    if (!list.HasRow(static_cast<int>(row))) {
         return LB_ERR;
     }
     const CString& text = list.list.rows[row];
@@ -86,7 +86,7 @@ LRESULT RowText(HWND hList, WPARAM row, char* buffer)
 // The operations by message; parameters as Messages.h tells.
 std::optional<LRESULT> RowMessage(HWND hList, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const WindowRecord& list = *FindList(hList);
+    const Window& list = *FindList(hList);
     const int row = static_cast<int>(wParam);
     const auto* const text = reinterpret_cast<const char*>(lParam);  // NOLINT: as the messages say
     switch (message) {
@@ -98,15 +98,15 @@ std::optional<LRESULT> RowMessage(HWND hList, UINT message, WPARAM wParam, LPARA
     case LB_GETCURSEL: return list.list.selection;
     case LB_GETTEXT: return RowText(hList, wParam, const_cast<char*>(text));
     case LB_GETTEXTLEN: return RowText(hList, wParam, nullptr);
-    case LB_GETCOUNT: return CountOf(list);
+    case LB_GETCOUNT: return list.RowCount();
     case LB_GETTOPINDEX: return list.list.top;
     case LB_SETTOPINDEX: return SetTop(hList, row);
     case LB_SETCOLUMNWIDTH: SetColumnWidth(hList, row); return LB_OKAY;
     case LB_GETITEMRECT:
-        if (!HasRow(list, row)) {
+        if (!list.HasRow(row)) {
             return LB_ERR;
         }
-        *reinterpret_cast<RECT*>(lParam) = RectOf(list, row);  // NOLINT
+        *reinterpret_cast<RECT*>(lParam) = list.RectOfRow(row);  // NOLINT
         return LB_OKAY;
     default: return std::nullopt;
     }
@@ -126,8 +126,8 @@ std::optional<LRESULT> WindowLayer::ListBoxDefault(HWND hList, UINT message, WPA
 
 BOOL UserPicksRow(HWND hList, int nRow)
 {
-    WindowRecord* const list = FindList(hList);
-    if (list == nullptr || !TakesInput(*list) || !HasRow(*list, nRow)) {
+    Window* const list = FindList(hList);
+    if (list == nullptr || !TakesInput(*list) || !list->HasRow(nRow)) {
         return FALSE;
     }
     list->list.selection = nRow;

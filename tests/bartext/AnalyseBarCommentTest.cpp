@@ -33,6 +33,8 @@ constexpr Reading Readings[] = {
     // the letter that a digit follows is the grade
     {"DB10@100", true, 2, 10, 100, 0, 0},
     {"WALL A8@200", true, 1, 8, 200, 0, 0},
+    {"DB16", true, 2, 16, 0, 0, 0},
+    {"KZ1 C20", true, 3, 20, 0, 0, 0},
     // the number in front of the spacings is the diameter
     {"LB1 C10@150", true, 3, 10, 150, 0, 0},
     {"C25 A8@100/200", true, 1, 8, 100, 200, 0},

@@ -14,7 +14,7 @@
 #include "desk/reading/TextsFile.h"
 #include "tests/reading/Readings.h"
 
-namespace Desk::Import {
+namespace Desk {
 namespace {
 
 namespace fs = std::filesystem;
@@ -141,4 +141,4 @@ TEST(Report, WritesLinesAsRanges)
 }
 
 }  // namespace
-}  // namespace Desk::Import
+}  // namespace Desk

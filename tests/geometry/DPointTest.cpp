@@ -30,6 +30,9 @@ TEST(DPoint, MovesTurnsAndTransforms)
     EXPECT_TRUE(point == DPoint(0.0F, 1.0F));
     point.RotateMe(1.0, 1.0, -90.0);
     EXPECT_TRUE(point == DPoint(1.0F, 2.0F));
+    DPoint far(1000.0F, 0.0F);
+    far.RotateMe(0.0, 0.0, 180.0);
+    EXPECT_TRUE(far == DPoint(-1000.0F, 0.0F));
     point.AdjustCoord(2.0F, -3.0F);
     EXPECT_TRUE(point == DPoint(3.0F, -1.0F));
 

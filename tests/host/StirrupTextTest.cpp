@@ -51,6 +51,14 @@ TEST(StirrupText, DecomposesWhatItReaches)
         EXPECT_EQ(StirrupText::Decompose(c.text, fields), c.reachesLegs) << c.text;
         EXPECT_EQ(fields, c.fields) << c.text;
     }
+    const Fields whole{"A", "10", "100", "4", "200", "2"};
+    for (CString Fields::*const field :
+         {&Fields::grade, &Fields::diameter, &Fields::tightSpacing, &Fields::spacing, &Fields::legs}) {
+        Fields fields = untouched;
+        fields.*field = "A10@100(4)/200(2)";
+        EXPECT_TRUE(StirrupText::Decompose(fields.*field, fields));
+        EXPECT_EQ(fields, whole);
+    }
 }
 
 TEST(StirrupText, MeasuresForTheOrder)
@@ -94,7 +102,7 @@ TEST(StirrupText, ComposesFromBoxesOrLeavesTheText)
         {{"A", "8", " ", "4", "180", "2"}, "A8@180(2)"},
         {{"", "8", "", "", "200", "2"}, nullptr},
         {{"A", " ", "", "", "200", "2"}, nullptr},
-        {{"A", "8", "", "", "", "2"}, nullptr},
+        {{"A", "8", "", "4", "", "2"}, nullptr},
         {{"A", "8", "", "", "200", " "}, nullptr},
     };
     for (const Case& c : cases) {
@@ -102,6 +110,9 @@ TEST(StirrupText, ComposesFromBoxesOrLeavesTheText)
         CString text("old");
         EXPECT_EQ(StirrupText::ComposeFromBoxes(boxes, text), c.text != nullptr);
         EXPECT_EQ(text, c.text != nullptr ? c.text : "old");
+        if (!boxes.diameter.IsEmpty() && boxes.tightSpacing.IsEmpty()) {
+            EXPECT_EQ(boxes.tightLegs, "");
+        }
     }
 }
 

@@ -1,8 +1,11 @@
 // What all panels share: dragging, confirming, dismissing, and receivers that change everything meanwhile.
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "tests/panels/Panels.h"
 #include "tests/support/FakeHost.h"
+#include "tests/support/Watched.h"
 
 namespace {
 
@@ -18,7 +21,10 @@ TYPED_TEST(PanelFrameTest, RightPressAnywhereHidesAndDeliversOnce)
     CWnd* control = stage.panel->GetTopWindow();
     for (; control != nullptr; control = control->GetNextWindow()) {
         stage.Show(TypeParam::Text);
+        bool hiddenBefore = false;
+        stage.receiver.m_answer = [&] { hiddenBefore = stage.panel->IsWindowVisible() == FALSE; };
         stage.hands.RightClick(Hands::MiddleOf(*control));
+        EXPECT_TRUE(hiddenBefore);
         EXPECT_FALSE(stage.panel->IsWindowVisible());
         // The same press from a shell that names the control itself, label or disabled as it may be.
         Hands::Send({control->m_hWnd, WM_RBUTTONDOWN, 0, 0, 0, Hands::MiddleOf(*control)});
@@ -29,6 +35,26 @@ TYPED_TEST(PanelFrameTest, RightPressAnywhereHidesAndDeliversOnce)
     EXPECT_TRUE(stage.hands.RightClick(stage.BareSurface()));
     EXPECT_EQ(stage.receiver.m_items, Texts{TypeParam::Text});
     EXPECT_TRUE(stage.receiver.m_calls.empty());
+}
+
+// What takes no input leaves a press to the panel, which has had this one already.
+TYPED_TEST(PanelFrameTest, ReceiverDisablesOrHidesWhatWasPressed)
+{
+    Stage<TypeParam> stage;
+    CWnd* control = stage.panel->GetTopWindow();
+    for (; control != nullptr; control = control->GetNextWindow()) {
+        for (const bool hides : {true, false}) {
+            stage.receiver.m_answer = [&] {
+                hides ? control->ShowWindow(SW_HIDE) : control->EnableWindow(FALSE);
+            };
+            stage.Show(TypeParam::Text);
+            stage.hands.RightClick(Hands::MiddleOf(*control));
+            EXPECT_EQ(stage.receiver.Count(), 1U) << control->GetDlgCtrlID() << hides;
+            stage.receiver.Forget();
+            control->ShowWindow(SW_SHOW);
+            control->EnableWindow();
+        }
+    }
 }
 
 TYPED_TEST(PanelFrameTest, GoesToParentHostDataOrNobody)
@@ -137,6 +163,15 @@ TYPED_TEST(PanelFrameTest, DragsByPressAndReleaseAnywhere)
     stage.hands.Click(*stage.panel, TypeParam::Edit);
     EXPECT_EQ(stage.Place().left, start.left - 170);
     EXPECT_EQ(stage.receiver.Count(), 0U);
+
+    // Positions that no screen has: the panel goes as far as a window can.
+    constexpr int Lowest = std::numeric_limits<int>::min();
+    constexpr int Highest = std::numeric_limits<int>::max();
+    Hands::Send({window, WM_LBUTTONDOWN, 0, 0, 0, {Lowest, Highest}});
+    Hands::Send({window, WM_LBUTTONUP, 0, 0, 0, {Highest, Lowest}});
+    EXPECT_EQ(stage.Place().TopLeft(), CPoint(1 << 28, -(1 << 28)));
+    EXPECT_EQ(stage.Place().Width(), start.Width());
+    EXPECT_EQ(stage.panel->m_nDownX, Lowest);
 }
 
 TYPED_TEST(PanelFrameTest, ReceiverDestroysTheWindowOrThePanel)
@@ -213,20 +248,27 @@ TYPED_TEST(PanelFrameTest, ReceiverUsesPanelsRankersAndSlots)
     EXPECT_EQ(stage.receiver.m_calls.size(), 2U);
 }
 
-TYPED_TEST(PanelFrameTest, TranslateMessageSendsARightPressAlone)
+template <class Panel>
+void ExpectForwarding(int control, std::size_t presses)
 {
-    Stage<TypeParam> stage;
-    MSG msg{nullptr, WM_LBUTTONDOWN, 0, 0, 0, {}};
-    if constexpr (requires { stage.panel->TranslateMessage(&msg); }) {
-        stage.panel->TranslateMessage(&msg);
-        EXPECT_TRUE(stage.panel->IsWindowVisible());
-        msg.message = WM_RBUTTONDOWN;
-        stage.panel->TranslateMessage(&msg);
-        const bool forwards = !std::is_same_v<TypeParam, NameKit>;
-        EXPECT_EQ(stage.receiver.m_items, Texts(forwards ? 1 : 0, TypeParam::Text));
-    } else {
-        EXPECT_TRUE((std::is_same_v<TypeParam, LevelKit>));
-    }
+    Watched<Panel> panel;
+    panel.Create(Panel::IDD);
+    panel.ShowWindow(SW_SHOW);
+    Hands().RightClick(panel, control);
+    EXPECT_EQ(panel.m_presses.size(), 1U);
+    MSG msg{panel.m_hWnd, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(3, 4), 0, {5, 6}};
+    panel.TranslateMessage(&msg);
+    msg.message = WM_LBUTTONDOWN;
+    panel.TranslateMessage(&msg);
+    EXPECT_EQ(panel.m_presses, std::vector(presses, typename Watched<Panel>::Press{0, 0, 0}));
+}
+
+TEST(PanelFrame, ARightPressReachesThePanelWithoutItsParameters)
+{
+    ExpectForwarding<CBeamNameDlg>(NameKit::Edit, 1);  // its TranslateMessage does nothing
+    ExpectForwarding<CBeamSecDlg>(SectionKit::Edit, 2);
+    ExpectForwarding<CBeamGujinDlg>(StirrupKit::Edit, 2);
+    ExpectForwarding<CBeamSteelDlg>(1338, 2);
 }
 
 TYPED_TEST(PanelFrameTest, WithoutAWindow)

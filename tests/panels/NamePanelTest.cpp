@@ -107,7 +107,10 @@ TEST_F(NamePanel, PickListsComposeFromRows)
     EXPECT_EQ(panel->m_strResult, "KL0(B)");
     EXPECT_EQ(Now(), "KL,,,B,|KL,0,0,B,");
     EXPECT_TRUE(receiver.m_messages.empty());
+    std::string atTheMessage;
+    receiver.m_answer = [&] { atTheMessage = Now(); };
     hands.ClickRow(*panel, XuantiaoList, 0);
+    EXPECT_EQ(atTheMessage, "KL,,,,|KL,0,0,none,");
     EXPECT_EQ(panel->m_strResult, "KL0");
     EXPECT_EQ(receiver.m_messages, Texts{NoSpan()});
 
@@ -132,7 +135,10 @@ TEST_F(NamePanel, TypingComposesFromBoxes)
 
     hands.Retype(*panel, KuaEdit, "0");
     EXPECT_EQ(panel->m_strResult, "XL35(A)");
+    std::string atTheMessage;
+    receiver.m_answer = [&] { atTheMessage = Now(); };
     hands.Retype(*panel, XuantiaoEdit, "");
+    EXPECT_EQ(atTheMessage, "XL,35,0,,|XL,-,0,none,");
     EXPECT_EQ(panel->m_strResult, "XL35");
     EXPECT_EQ(receiver.m_messages, Texts{NoSpan()});
     hands.TypeInto(*panel, KuaEdit, "1");  // "01"
@@ -159,6 +165,17 @@ TEST_F(NamePanel, ConfirmsWhatStandsInTheBoxes)
     panel->SetFocusBeamname("Z1");
     hands.RightClick(*panel, TypeList);
     EXPECT_EQ(receiver.m_items, Texts{"KL7(4)"});
+}
+
+TEST_F(NamePanel, TheTypeOfTheFieldDecidesThatOfTheBoxIsComposed)
+{
+    panel->GetDlgItem(TypeEdit)->SetWindowText("");  // by the program: no change is told
+    EXPECT_TRUE(panel->IntegrateNameFromEdit());
+    EXPECT_EQ(panel->m_strResult, "3(2A)");
+    panel->GetDlgItem(TypeEdit)->SetWindowText("LL");
+    EXPECT_FALSE(panel->IntegrateNameFromEdit());
+    EXPECT_EQ(panel->m_strResult, "3(2A)");
+    EXPECT_TRUE(receiver.m_messages.empty());
 }
 
 TEST_F(NamePanel, MessageThatDestroysThePanel)

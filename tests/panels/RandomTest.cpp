@@ -6,11 +6,9 @@
 #include <cstdlib>
 #include <random>
 
-#include "host/StirrupText.h"
-#include "panels/NameText.h"
-#include "panels/SectionText.h"
 #include "platform/windows/WindowRecord.h"
 #include "tests/panels/Panels.h"
+#include "tests/support/Seed.h"
 
 namespace {
 
@@ -48,36 +46,55 @@ private:
     std::mt19937 m_engine;
 };
 
-// What the boxes, or the rows, make of a text; a changed text is one of them.
+// What the boxes, or the rows, make of a text; a changed text is one of them. Written down once more here,
+// as a person would put it, so that the panels' own rules do not vouch for themselves.
+std::string NameOf(std::string type, const std::string& serial, std::string span,
+                   const std::string& cantilever)
+{
+    if (span == "0") {
+        span.clear();
+    }
+    const std::string suffix = span + cantilever;
+    return type + serial + (suffix.empty() ? "" : "(" + suffix + ")");
+}
+
 bool MayCompose(const CBeamNameDlg& panel)
 {
-    CString fromBoxes;
-    CString fromRows;
-    NameText::Compose({BoxText(panel, 1316).c_str(), BoxText(panel, 1643).c_str(),
-                       BoxText(panel, 1654).c_str(), BoxText(panel, 1658).c_str()},
-                      fromBoxes);
-    const std::string cantilever = RowText(panel, 549);
-    NameText::Compose({RowText(panel, 552).c_str(), RowText(panel, 1062).c_str(),
-                       RowText(panel, 547).c_str(), cantilever == "none" ? "" : cantilever.c_str()},
-                      fromRows);
-    return panel.m_strResult == fromBoxes || panel.m_strResult == fromRows;
+    const std::string mark = RowText(panel, 549);
+    const std::string result(panel.m_strResult.View());
+    return result == NameOf(BoxText(panel, 1316), BoxText(panel, 1643), BoxText(panel, 1654),
+                            BoxText(panel, 1658)) ||
+           result == NameOf(RowText(panel, 552), RowText(panel, 1062), RowText(panel, 547),
+                            mark == "none" ? "" : mark);
 }
 
 bool MayCompose(const CBeamSecDlg& panel)
 {
-    return panel.m_strResult == SectionText::Compose({panel.m_strSeparator, BoxText(panel, 1320).c_str(),
-                                                      BoxText(panel, 1321).c_str()});
+    const std::string result(panel.m_strResult.View());
+    const std::string width = BoxText(panel, 1320);
+    return result.starts_with(width) && result.ends_with(BoxText(panel, 1321)) &&
+           result.size() == width.size() + 1 + BoxText(panel, 1321).size() &&
+           std::string("xX*").find(result[width.size()]) != std::string::npos;
 }
 
 bool MayCompose(const CBeamLevelDlg& panel) { return panel.m_strResult == BoxText(panel, 1320).c_str(); }
 
 bool MayCompose(const CBeamGujinDlg& panel)
 {
-    StirrupText::Fields boxes{BoxText(panel, 1321).c_str(), BoxText(panel, 1653).c_str(),
-                              BoxText(panel, 1654).c_str(), BoxText(panel, 1658).c_str(),
-                              BoxText(panel, 1662).c_str(), BoxText(panel, 1665).c_str()};
-    CString text;
-    return StirrupText::ComposeFromBoxes(boxes, text) && panel.m_strResult == text;
+    std::string parts[6];
+    std::size_t part = 0;
+    for (const int id : {1321, 1653, 1654, 1658, 1662, 1665}) {
+        const std::string box = BoxText(panel, id);
+        const std::size_t first = box.find_first_not_of(' ');
+        parts[part++] =
+            first == std::string::npos ? "" : box.substr(first, box.find_last_not_of(' ') - first + 1);
+    }
+    const auto& [grade, diameter, tight, tightLegs, spacing, legs] = parts;
+    const auto bracketed = [](const std::string& count) {
+        return count.empty() || count.find('(') != std::string::npos ? count : "(" + count + ")";
+    };
+    const std::string tightZone = tight.empty() ? "" : tight + bracketed(tightLegs) + "/";
+    return panel.m_strResult == (grade + diameter + "@" + tightZone + spacing + bracketed(legs)).c_str();
 }
 
 // Whether each selected row stands for its box. Boxes and lists in template order belong together.
@@ -270,8 +287,9 @@ TYPED_TEST_SUITE(PanelRandomTest, Kits);
 
 TYPED_TEST(PanelRandomTest, StaysInStep)
 {
-    for (unsigned seed = 1; seed <= 20; ++seed) {
-        SCOPED_TRACE(seed);
+    const unsigned first = FirstSeed(1);
+    for (unsigned seed = first; seed < first + 20; ++seed) {
+        SCOPED_TRACE(SeedName(seed));
         Run<TypeParam>(seed).Steps(2000);
     }
 }

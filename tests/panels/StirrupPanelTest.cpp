@@ -117,6 +117,7 @@ TEST_F(StirrupPanel, TightZoneByTyping)
     Retype(TightSpacing, "");
     EXPECT_EQ(panel->m_strResult, "A8@200(2)");
     EXPECT_EQ(Now(), "A,8,,4,200,2,|A,8,none,(4),200,(2),");
+    EXPECT_EQ(panel->m_strJiamiZhishu, "");
     Retype(TightSpacing, " 90 ");
     EXPECT_EQ(panel->m_strResult, "A8@90(4)/200(2)");
     Retype(TightLegs, " 3 ");

@@ -42,6 +42,10 @@ TEST(NameText, DecomposesWhatItReaches)
         // "A" wins over an earlier "B", and both count behind the bracket too.
         {"KL3(2BA)", true, {"KL", "3", "2B", "A"}},
         {"KL3(2)B", true, {"KL", "3", "2)", "B"}},
+        // A letter of the type is no cantilever mark.
+        {"AL3(2)", true, {"AL", "3", "2", ""}},
+        {"BKL3(2)", true, {"BKL", "3", "2", ""}},
+        {"BAL3(2B)", true, {"BAL", "3", "2", "B"}},
         // Parts that stand the wrong way round are empty.
         {"K(2)L3", true, {"K(2)L", "", "2", ""}},
         {"KL)3(2", true, {"KL", ")3", "", ""}},
@@ -52,6 +56,12 @@ TEST(NameText, DecomposesWhatItReaches)
         NameText::Fields fields = untouched;
         EXPECT_EQ(NameText::Decompose(c.name, fields), c.reads) << c.name;
         EXPECT_EQ(fields, c.fields) << c.name;
+    }
+    for (CString NameText::Fields::*const field : {&NameText::Fields::type, &NameText::Fields::serial}) {
+        NameText::Fields fields = untouched;
+        fields.*field = "KL3(2A)";
+        NameText::Decompose(fields.*field, fields);
+        EXPECT_EQ(fields, (NameText::Fields{"KL", "3", "2", "A"}));
     }
 }
 
@@ -73,6 +83,9 @@ TEST(NameText, ComposesAndSaysWhetherTheNameIsWhole)
         EXPECT_EQ(NameText::Compose(c.fields, name), c.whole) << c.name;
         EXPECT_EQ(name, c.name);
     }
+    NameText::Fields fields{"KL", "3", "2", "A"};
+    NameText::Compose(fields, fields.span);
+    EXPECT_EQ(fields.span, "KL3(2A)");
 }
 
 TEST(SectionText, DecomposesAndCutsTheTail)
@@ -87,6 +100,7 @@ TEST(SectionText, DecomposesAndCutsTheTail)
         {"300X600", "300X600", {"X", "300", "600"}},
         {"300*600", "300*600", {"*", "300", "600"}},
         {"300", "300", {"*", "", "300"}},
+        {"x600", "x600", {"s", "", "600"}},
         {"300x600/500", "300x600", {"s", "300", "600"}},
         {"300x600 Y500x250", "300x600", {"s", "300", "600"}},
         {"300/1 x600", "300", {"*", "", "300"}},
@@ -102,6 +116,9 @@ TEST(SectionText, DecomposesAndCutsTheTail)
         EXPECT_EQ(text, c.cut);
         EXPECT_EQ(fields, c.fields) << c.text;
     }
+    SectionText::Fields own{"s", "300x600 Y500x250", "h"};
+    SectionText::Decompose(own.width, own);
+    EXPECT_EQ(own, (SectionText::Fields{"s", "300", "600"}));
     CString empty;
     SectionText::Fields fields{"s", "w", "h"};
     EXPECT_FALSE(SectionText::Decompose(empty, fields));
@@ -133,6 +150,7 @@ TEST(LevelText, Keys)
     };
     const Case cases[] = {
         {"", "0.3.", "0.3"},
+        {"", "..", "."},
         {"", "3--", "-3"},
         {"", "0.3b", "(0.3)"},
         {"", "0.3b-", "(-0.3)"},

@@ -1,4 +1,4 @@
-// Texts read for the section, and bars laid where they belong.
+// Bars laid where they belong in a section.
 #include <gtest/gtest.h>
 
 #include "desk/plan/SectionSketch.h"
@@ -6,50 +6,6 @@
 namespace {
 
 using namespace Desk;
-
-std::string Rows(std::string_view text)
-{
-    const std::optional<BarRows> read = ReadBars(text);
-    std::string rows = read ? "" : "no bars";
-    for (const std::vector<int>& row : read ? read->rows : std::vector<std::vector<int>>()) {
-        for (const int diameter : row) {
-            rows += std::to_string(diameter) + " ";
-        }
-        rows += "| ";
-    }
-    return rows;
-}
-
-TEST(Section, ReadsWhatTheTextsSay)
-{
-    EXPECT_EQ(Rows("2B25+1B22"), "25 22 25 | ");
-    EXPECT_EQ(Rows("3B20+2B16"), "20 20 16 16 20 | ");
-    EXPECT_EQ(Rows("5B20 3/2"), "20 20 20 | 20 20 | ");
-    EXPECT_EQ(Rows("6B25(2/4)"), "25 25 | 25 25 25 25 | ");
-    EXPECT_EQ(Rows("6B25/4B25"), "25 25 25 25 25 25 | 25 25 25 25 | ");
-    EXPECT_EQ(Rows("2B22+3B25/2B22"), "22 25 25 25 22 | 22 22 | ");
-    EXPECT_EQ(Rows("6B25 4/2+2B22 1/1 "), "25 25 22 25 25 | 25 22 25 | ");
-    EXPECT_EQ(Rows("2B25+3B22 3/2"), "25 22 22 | 22 25 | ");
-    EXPECT_EQ(Rows("+(2B12+2B14),"), "12 14 14 12 | ");
-    EXPECT_EQ(Rows("G4B12"), "12 12 12 12 | ");
-    EXPECT_EQ(Rows("2B25;4B20"), "25 25 | ");
-    for (const char* const text : {"", "2B", "B25", "2E25", "5B20 3/3", "2B25+", "2B25/", "2B25/2",
-                                   "+(2B12", "2B25)", "2B25 x", "-2B25", "999B25", "2B9999"}) {
-        EXPECT_EQ(Rows(text), "no bars") << text;
-    }
-    EXPECT_NEAR(ReadBars("2B25+1B22")->Area(), 1361.9, 0.1);
-    EXPECT_EQ(ReadSize("300X700")->height, 700);
-    EXPECT_EQ(ReadSize("300\xC3\x97"
-                       "650")
-                  ->width,
-              300);
-    EXPECT_EQ(ReadSize("300x500/350")->height, 500);
-    EXPECT_FALSE(ReadSize("300x500/") || ReadSize("300") || ReadSize("300x") || ReadSize("0x700") ||
-                 ReadSize("300x700x"));
-    EXPECT_EQ(ReadStirrup("A8@100(2)/200(4)")->legs, 4);
-    EXPECT_EQ(ReadStirrup("A10@150")->legs, 2);
-    EXPECT_FALSE(ReadStirrup("8@100(2)") || ReadStirrup("A8@100()"));
-}
 
 Beam Whole()
 {

@@ -5,7 +5,9 @@
 #include <random>
 #include <thread>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -14,6 +16,7 @@
 #include "desk/project/Failure.h"
 #include "desk/project/ProjectFile.h"
 #include "tests/support/Folder.h"
+#include "tests/support/Seed.h"
 
 namespace Desk {
 namespace {
@@ -66,7 +69,6 @@ TEST(Save, ReplacesTheFileBehindALinkAndKeepsItsMode)
     chmod((folder / "deep/real.json").c_str(), 0640);
     fs::create_symlink("deep/real.json", folder / "link.json");
     fs::create_symlink("deep/new.json", folder / "dangling.json");
-    WriteFile(folder / "deep/.beamdesk-1", "left behind by a killed process");
 
     SaveProject(SampleProject(), folder / "link.json");
     SaveProject(SampleProject(), folder / "dangling.json");
@@ -75,7 +77,7 @@ TEST(Save, ReplacesTheFileBehindALinkAndKeepsItsMode)
         EXPECT_EQ(ContentOf(folder / name), FormatProject(SampleProject()));
     }
     EXPECT_EQ(fs::status(folder / "deep/real.json").permissions(), fs::perms(0640));
-    EXPECT_EQ(std::distance(fs::directory_iterator(folder / "deep"), {}), 3);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder / "deep"), {}), 2);
 
     fs::current_path(folder.Path());
     SaveProject(Other(), "plain.json");
@@ -152,7 +154,7 @@ TEST(Save, AKillLeavesTheOldFileOrTheNewOneWhole)
     SaveProject(first, file);
     const std::chrono::microseconds span = std::chrono::duration_cast<std::chrono::microseconds>(
         2 * (std::chrono::steady_clock::now() - begin));
-    std::mt19937 random(20240501);
+    std::mt19937 random(FirstSeed(20240501));
     std::uniform_int_distribution<long> when(0, span.count());
     int seen[] = {0, 0};
     for (int round = 0; round < 40 || (round < 400 && (seen[0] == 0 || seen[1] == 0)); ++round) {
@@ -174,6 +176,28 @@ TEST(Save, AKillLeavesTheOldFileOrTheNewOneWhole)
     EXPECT_GT(seen[1], 0);
     SaveProject(second, file);
     EXPECT_EQ(ContentOf(file), texts[1]);
+    EXPECT_EQ(folder.FileCount(), 1) << "what the killed saves left is gone";
+}
+
+TEST(Save, RemovesWhatKilledSavesLeftAndNothingElse)
+{
+    const Folder folder;
+    fs::create_directory(folder / ".beamdesk-7");
+    fs::create_symlink("p.json", folder / ".beamdesk-8");
+    WriteFile(folder / ".beamdesk-1", "left by a killed save");
+    WriteFile(folder / ".beamdesk-4294967295", "");
+    for (const char* const others : {".beamdesk-", ".beamdesk-1a", "beamdesk-1"}) {
+        WriteFile(folder / others, "not ours");
+    }
+    WriteFile(folder / ".beamdesk-2", "another program's save");
+    const int running = open((folder / ".beamdesk-2").c_str(), O_RDONLY | O_CLOEXEC);
+    ASSERT_EQ(flock(running, LOCK_EX), 0);
+    SaveProject(SampleProject(), folder / "p.json");
+    EXPECT_FALSE(fs::exists(folder / ".beamdesk-1") || fs::exists(folder / ".beamdesk-4294967295"));
+    EXPECT_EQ(folder.FileCount(), 7);
+    close(running);
+    SaveProject(SampleProject(), folder / "p.json");
+    EXPECT_EQ(folder.FileCount(), 6);
 }
 
 }  // namespace

@@ -75,7 +75,7 @@ Texts TraceOf(const Texts& project)
     host.m_texts = project;
     if (!project.empty()) {
         host.m_types = {"KL"};
-        host.m_names["KL"] = {{1, 5, 9, 13}, project};
+        host.m_names["KL"] = {{7}, project};  // two free serials
     }
     Traced<Ranker> ranker;
     CStringArray list;
@@ -92,15 +92,24 @@ TEST(RankerFrame, RunsThroughItsVirtualStepsInOrder)
     using Bars = CHABIAO_HITNESS_RANKER;
     using Stirrups = GUJIN_HITNESS_RANKER;
     const Texts nine = {"2B1", "2B2", "2B3", "2B4", "2B5", "2B6", "2B7", "2B8", "2B9"};
+    Texts ten = nine, eleven = nine;
+    ten.emplace_back("3B1");
+    eleven.insert(eleven.end(), {"3B1", "3B2"});
     EXPECT_EQ(TraceOf<Level>({}), (Texts{"select 0", "guess 3", "sort 3"}));
     EXPECT_EQ(TraceOf<Level>({"1", "1", "2"}), (Texts{"select 2", "sort 2"}));
     EXPECT_EQ(TraceOf<Name>({}), (Texts{"select 0", "guess 19", "adapt 19", "sort 16"}));
-    EXPECT_EQ(TraceOf<Name>({"(1)", "(2)"}), (Texts{"select 12", "adapt 12", "sort 12"}));
+    EXPECT_EQ(TraceOf<Name>({"(1)", "(2)", "(3)", "(4)", "(5)"}), (Texts{"select 10", "sort 10"}));
+    EXPECT_EQ(TraceOf<Name>({"(1)", "(2)", "(3)", "(4)", "(5)", "(6)"}),
+              (Texts{"select 12", "adapt 12", "sort 12"}));
+    EXPECT_EQ(TraceOf<Level>(ten), (Texts{"select 10", "sort 10"}));
+    EXPECT_EQ(TraceOf<Level>(eleven), (Texts{"select 11", "adapt 11", "sort 11"}));
     EXPECT_EQ(TraceOf<Size>({}), (Texts{"select 0", "guess 10"}));
     EXPECT_EQ(TraceOf<Size>({"250x500"}), (Texts{"select 1", "guess 11", "adapt 11", "sort 10"}));
     EXPECT_EQ(TraceOf<Bars>({}), (Texts{"select 0", "guess 0"}));
     EXPECT_EQ(TraceOf<Bars>({"2B20"}), (Texts{"select 1", "guess 1"}));
     EXPECT_EQ(TraceOf<Bars>(nine), (Texts{"select 9"}));
+    EXPECT_EQ(TraceOf<Bars>(ten), (Texts{"select 10"}));
+    EXPECT_EQ(TraceOf<Bars>(eleven), (Texts{"select 11", "adapt 11"}));
     EXPECT_EQ(TraceOf<Stirrups>({}), (Texts{"select 0", "guess 10"}));
     EXPECT_EQ(TraceOf<Stirrups>({"A8@200(2)"}), (Texts{"select 1", "guess 11", "adapt 11", "sort 10"}));
 }

@@ -50,25 +50,89 @@ std::string Told(const Ranking& ranking)
 TEST(Ranking, TellsWhereEachCandidateComesFrom)
 {
     const Project project = Small();
-    EXPECT_EQ(Told(RankBars(project, {.kind = "1"})),
+    EXPECT_EQ(Told(Rank(project, {.barKind = "1"})),
               "2B20 project 2 10\n>2B25 project 1 5\n2B12 guess\n2B14 guess\n2B16 guess\n2B18 guess\n"
               "2B22 guess\n2B28 guess\n");
-    EXPECT_EQ(Told(RankBars(project, {.kind = "5.2"})).substr(0, 40),
+    EXPECT_EQ(Told(Rank(project, {.barKind = "5.2"})).substr(0, 40),
               ">4B12 project 2 5 N4B12=1 G4B12=1\n3B12 g");
-    EXPECT_EQ(Told(RankBars(project, {.kind = "2B16", .width = 300, .area = 1000, .table = true})),
+    EXPECT_EQ(Told(Rank(project, {.barKind = "2B16", .width = 300, .area = 1000, .wantsTable = true})),
               "4B16 guess\n2B16+1B14 guess\n2B16+2B14 guess\n2B16+1B18 guess\n2B16+2B18 guess\n2B16 given\n"
               "5B16 table\n");
-    EXPECT_EQ(Told(RankNames(project)), ">KL3(3) project 2 0 KL(3)=2\nKL5(3) project 2 0 KL(3)=2\n"
-                                        "KL3 project 1 0 KL=1\nKL5 project 1 0 KL=1\n");
-    EXPECT_EQ(Told(RankElevations(project)), "       guess\n0.1500 guess\n0.3000 guess\n0.6000 guess\n");
-    const std::string sections = Told(RankSections(project));
+    EXPECT_EQ(Told(Rank(project, {.ranker = Ranker::Names})),
+              ">KL3(3) project 2 0 KL(3)=2\nKL5(3) project 2 0 KL(3)=2\n"
+              "KL3 project 1 0 KL=1\nKL5 project 1 0 KL=1\n");
+    EXPECT_EQ(Told(Rank(project, {.ranker = Ranker::Elevations})),
+              "       guess\n0.1500 guess\n0.3000 guess\n0.6000 guess\n");
+    const std::string sections = Told(Rank(project, {.ranker = Ranker::Sections}));
     EXPECT_NE(sections.find("300x600 project 2 0\n350x500 guess\n"), std::string::npos) << sections;
-    const std::string stirrups =
-        Told(RankStirrups(project, {.width = 300, .grade = 30, .seismicClass = 3, .table = true}));
+    const std::string stirrups = Told(Rank(
+        project,
+        {.ranker = Ranker::Stirrups, .width = 300, .grade = 30, .seismicClass = 3, .wantsTable = true}));
     EXPECT_TRUE(stirrups.starts_with(">A8@200(2) project 3 1\n")) << stirrups;
     EXPECT_TRUE(stirrups.ends_with("A10@250(3) table\nA10@100/250(3) table\n")) << stirrups;
-    EXPECT_EQ(Told(RankBars({}, {.kind = "1", .projectKind = 0})).substr(0, 22),
-              "4B20 guess\n2B12 guess\n");
+    EXPECT_EQ(Told(Rank({}, {.barKind = "1", .projectKind = 0})).substr(0, 22), "4B20 guess\n2B12 guess\n");
+}
+
+TEST(Question, ComesFromTheTableOfFieldsAndTheBeam)
+{
+    Beam beam;
+    beam.section = "300x600";
+    beam.area = {900, 1100, 1300, 1500};
+    const auto told = [&beam](Field field) {
+        const Question question = QuestionFor(beam, field, true);
+        return question.barKind + ' ' + std::to_string(question.width.value_or(-1)) + ' ' +
+               std::to_string(question.area.value_or(-1)) + ' ' +
+               (question.wantsTable ? "table" : "no table");
+    };
+    EXPECT_EQ(told(Field::LeftEnd), "2 300 1300 table");
+    EXPECT_EQ(told(Field::RightEnd), "3 300 1500 table");
+    beam.topBars = "2B25";
+    EXPECT_EQ(told(Field::LeftEnd), "2B25 300 1300 table");
+    EXPECT_EQ(told(Field::RightEnd), "2B25 300 1500 table");
+    EXPECT_EQ(told(Field::TopBars), "1 300 900 table");
+    EXPECT_EQ(told(Field::BottomBars), "5.1 300 1100 table");
+    EXPECT_EQ(told(Field::Erection), "4 300 -1 no table");
+    EXPECT_EQ(told(Field::Torsion), "5.2 300 -1 no table");
+    EXPECT_EQ(told(Field::Side), "5.2 300 -1 no table");
+    beam.topBars = "as KL1";
+    EXPECT_EQ(told(Field::LeftEnd), "2 300 1300 table");
+    beam.section = "";
+    EXPECT_EQ(told(Field::TopBars), "1 -1 900 no table");
+
+    beam.topBars = "2B25";
+    beam.leftEnd = "4B25";
+    beam.side = "G4B12";
+    const auto texts = [&beam](const char* kind) {
+        std::string all;
+        for (const std::string* const text : BarTexts(beam, kind)) {
+            all += *text + ';';
+        }
+        return all;
+    };
+    EXPECT_EQ(texts("2B25") + '|' + texts("2B22") + '|' + texts("2") + '|' + texts("5.2"),
+              "4B25;;||4B25;|;G4B12;");
+}
+
+TEST(Choices, CarryTheHeadThatTheFieldIsWrittenWith)
+{
+    Project project = Small();
+    project.walls.push_back({"Q1", 200, "A10@150", "", {}, {}, {}});
+    const auto first = [&project](Field field, bool isWall = false) {
+        const Ranking ranking = ChoicesFor(project, {isWall, 0, field}, false);
+        return ranking.candidates.empty() ? std::string("none")
+                                          : ranking.candidates.front().text + ' ' +
+                                                std::to_string(ranking.candidates.front().uses);
+    };
+    EXPECT_EQ(first(Field::Side), "G4B12 1");
+    EXPECT_EQ(first(Field::Torsion), "N4B12 1");
+    EXPECT_EQ(first(Field::TopBars), "2B20 2");
+    EXPECT_EQ(first(Field::HorizontalBars, true), "A10@150 1");
+    EXPECT_EQ(first(Field::Name, true), "none");
+    project.beams[0].torsion = "*4B12";
+    EXPECT_EQ(first(Field::Torsion), "*4B12 1");
+    project.beams[0].torsion.clear();
+    EXPECT_EQ(ChoicesFor(project, {false, 0, Field::Torsion}, false).candidates.front().source,
+              Source::Guess);
 }
 
 TEST(Tables, SayWhyTheyHaveNothing)

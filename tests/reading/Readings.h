@@ -7,7 +7,7 @@
 #include "desk/reading/DrawingText.h"
 #include "desk/reading/ReadText.h"
 
-namespace Desk::Import {
+namespace Desk {
 
 // "name KL1, section 250x600"; for a text that gives no annotation "-" or, when it belongs to no beam, "no
 // beam". In front of what was read in part stands "part: ".
@@ -56,4 +56,4 @@ inline std::string Fault(std::string_view drawn, const Reading& reading, const C
     return takes && Digits(given) != Digits(found) ? "digits lost or made up: " + Told(reading) : "";
 }
 
-}  // namespace Desk::Import
+}  // namespace Desk

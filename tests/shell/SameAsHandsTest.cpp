@@ -4,6 +4,8 @@
 #include <map>
 #include <random>
 
+#include "tests/support/Seed.h"
+
 namespace {
 
 // One random action; the numbers drawn do not depend on what the actions do.
@@ -87,8 +89,8 @@ void ExpectMirrored(const Stage& stage, const Desk::QtDisplay& display)
 
 TEST(ShellAndHands, GiveTheSameTextsAsHandsInMemory)
 {
-    const unsigned seed = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(seed));
+    const unsigned seed = FirstSeed(std::random_device{}());
+    SCOPED_TRACE(SeedName(seed));
     constexpr double Zooms[] = {1.0, 1.25, 1.5, 2.0};
     constexpr int Steps = 150;
     for (const Shown kind : AllShown) {

@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <set>
+#include <tuple>
 #include <utility>
 
 #include "platform/text/Numbers.h"
@@ -104,6 +105,17 @@ TEST(GuJinBiao, LookUp)
     Fill(list, {"A8@200(2)"});
     table.GetGuJin(200, 40, 2, list);
     EXPECT_EQ(TextsOf(list), (Texts{"A8@200(2)", "A8@100/200(2)", "A10@250(2)", "A10@100/250(2)"}));
+
+    // A row of the host's own: both texts are looked for before either comes in.
+    GuJinBiao own;
+    GuJinItem row;
+    row.Init(200, 40, 1.0, "A8@200(2)");
+    row.m_strGuJinJiaMi = "A8@200(2)";
+    own.m_arBiao40.Add(row);
+    list.RemoveAll();
+    own.GetGuJin(200, 40, 1, list);
+    own.GetGuJin(200, 40, 1, list);
+    EXPECT_EQ(TextsOf(list), Texts(2, "A8@200(2)"));
 }
 
 TEST(GuJinBiao, EveryWidthHasAnAnswerForEveryGradeAndClass)
@@ -118,6 +130,19 @@ TEST(GuJinBiao, EveryWidthHasAnAnswerForEveryGradeAndClass)
                 EXPECT_GE(list.GetSize(), 2) << width << ' ' << grade.grade << ' ' << seismic;
             }
         }
+    }
+}
+
+TEST(GuJinBiao, RowsAreCopiedWhole)
+{
+    GuJinItem row;
+    row.Init(350, 25, 0.27, "A6@200(4)");
+    GuJinItem copy;
+    copy = row;
+    for (const GuJinItem& same : {copy, GuJinItem(row)}) {
+        EXPECT_EQ(std::tie(same.m_nWidth, same.m_nGrade, same.m_dRatio), std::make_tuple(350, 25, 0.27));
+        EXPECT_EQ(same.m_strGuJin, "A6@200(4)");
+        EXPECT_EQ(same.m_strGuJinJiaMi, "A6@100/200(4)");
     }
 }
 

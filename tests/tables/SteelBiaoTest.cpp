@@ -4,6 +4,7 @@
 #include <climits>
 #include <cmath>
 #include <set>
+#include <tuple>
 #include <utility>
 
 #include "platform/text/Numbers.h"
@@ -87,9 +88,11 @@ TEST(SteelBiao, BottomBarsFollowTheArea)
         EXPECT_EQ(item.m_strDiJin, diJin) << area;
         SteelBiaoItem copy;
         copy = item;
-        EXPECT_EQ(copy.m_strDiJin, SteelBiaoItem(item).m_strDiJin);
-        EXPECT_EQ(copy.m_nArea, area);
-        EXPECT_EQ(copy.m_strTotalJin, "2B18+2B20");
+        for (const SteelBiaoItem& same : {copy, SteelBiaoItem(item)}) {
+            EXPECT_EQ(std::tie(same.m_nWidth, same.m_nArea), std::make_tuple(250, area));
+            EXPECT_EQ(std::tie(same.m_strTopJin, same.m_strTotalJin, same.m_strDiJin),
+                      std::make_tuple(CString("2B18"), CString("2B18+2B20"), CString(diJin)));
+        }
     }
 }
 

@@ -10,18 +10,6 @@ namespace Desk::Panels {
 
 namespace {
 
-int RowsInView(const WindowRecord& window)
-{
-    CRect row;
-    const auto* const list = dynamic_cast<const CListBox*>(CWnd::FromHandle(window.handle));
-    if (list == nullptr || list->GetItemRect(window.list.top, &row) != LB_OKAY) {
-        return 1;
-    }
-    const bool inColumns = Has(window.style, ControlStyle::MultiColumn);
-    return std::max(1,
-                    inColumns ? window.place.Width() / row.Width() : window.place.Height() / row.Height());
-}
-
 Control ReadControl(const WindowRecord& window, HWND focus)
 {
     Control control;
@@ -34,14 +22,14 @@ Control ReadControl(const WindowRecord& window, HWND focus)
     control.enabled = window.enabled;
     control.focused = window.handle == focus;
     if (control.focused && window.kind == WindowKind::EditBox) {
-        control.caret = static_cast<int>(Utf8FromGbk(window.text.Left(window.edit.caret)).size());
+        control.caret = static_cast<int>(Utf8FromGbk(window.text.Left(window.caret)).size());
     }
     for (const CString& row : window.list.rows) {
         control.rows.push_back(Utf8FromGbk(row));
     }
     control.selection = window.list.selection;
     control.top = window.list.top;
-    control.inView = RowsInView(window);
+    control.inView = window.RowsInView();
     return control;
 }
 

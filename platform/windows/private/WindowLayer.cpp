@@ -8,7 +8,6 @@
 #include "platform/windows/CEdit.h"
 #include "platform/windows/CListBox.h"
 #include "platform/windows/CStatic.h"
-#include "platform/windows/CWinApp.h"
 
 namespace WindowLayer {
 
@@ -30,7 +29,7 @@ std::unique_ptr<CWnd> MakeObject(WindowKind kind)
 // A window's pop-ups, its children and then itself, the same order for each of them.
 void Gather(HWND hWnd, std::vector<HWND>& found)
 {
-    const WindowRecord* const window = Find(hWnd);
+    const Window* const window = Find(hWnd);
     for (const HWND popUp : window->popUps) {
         Gather(popUp, found);
     }
@@ -42,11 +41,15 @@ void Gather(HWND hWnd, std::vector<HWND>& found)
 
 }  // namespace
 
-AppState& App() { return AfxGetApp()->State(); }
+LayerState& State()
+{
+    static auto* const state = new LayerState;  // windows of static objects may go after everything else
+    return *state;
+}
 
-WindowRecord* Find(HWND hWnd) { return App().windows.Find(hWnd); }
+Window* Find(HWND hWnd) { return State().windows.Find(hWnd); }
 
-CWnd* ObjectOf(WindowRecord& window)
+CWnd* ObjectOf(Window& window)
 {
     if (window.attached != nullptr) {
         return window.attached;
@@ -58,11 +61,11 @@ CWnd* ObjectOf(WindowRecord& window)
     return window.own.get();
 }
 
-WindowRecord* ChildWithId(HWND hWnd, int nID)
+Window* ChildWithId(HWND hWnd, int nID)
 {
-    if (const WindowRecord* const window = Find(hWnd)) {
+    if (const Window* const window = Find(hWnd)) {
         for (const HWND handle : window->children) {
-            WindowRecord* const child = Find(handle);
+            Window* const child = Find(handle);
             if (child->id == nID) {
                 return child;
             }
@@ -71,20 +74,35 @@ WindowRecord* ChildWithId(HWND hWnd, int nID)
     return nullptr;
 }
 
-WindowRecord* HolderOf(HWND hWnd)
+Window* HolderOf(HWND hWnd)
 {
-    WindowRecord* window = Find(hWnd);
+    Window* window = Find(hWnd);
     while (window != nullptr && window->IsControl()) {
         window = Find(window->parent);
     }
     return window;
 }
 
-CPoint ClientOrigin(const WindowRecord& window)
+CRect PlaceOf(int x, int y, std::int64_t nWidth, std::int64_t nHeight)
+{
+    const auto length = [](std::int64_t wanted) {
+        return static_cast<int>(std::clamp<std::int64_t>(wanted, 0, FarthestPixel));
+    };
+    const CPoint corner = Clamped(CPoint(x, y));
+    return {corner.x, corner.y, corner.x + length(nWidth), corner.y + length(nHeight)};
+}
+
+CRect PlaceOf(const RECT& rect)
+{
+    return PlaceOf(rect.left, rect.top, static_cast<std::int64_t>(rect.right) - rect.left,
+                   static_cast<std::int64_t>(rect.bottom) - rect.top);
+}
+
+CPoint ClientOrigin(const Window& window)
 {
     CPoint origin = window.place.TopLeft();
     if (window.IsControl()) {
-        if (const WindowRecord* const parent = Find(window.parent)) {
+        if (const Window* const parent = Find(window.parent)) {
             const CPoint outer = ClientOrigin(*parent);
             origin = CPoint(origin.x + outer.x, origin.y + outer.y);
         }
@@ -92,22 +110,22 @@ CPoint ClientOrigin(const WindowRecord& window)
     return origin;
 }
 
-bool IsShown(const WindowRecord& window)
+bool IsShown(const Window& window)
 {
-    const WindowRecord* const holder = HolderOf(window.handle);
+    const Window* const holder = HolderOf(window.handle);
     return window.visible && holder != nullptr && holder->visible;
 }
 
-bool TakesInput(const WindowRecord& window)
+bool TakesInput(const Window& window)
 {
-    const WindowRecord* const holder = HolderOf(window.handle);
+    const Window* const holder = HolderOf(window.handle);
     return window.enabled && window.kind != WindowKind::Label && holder != nullptr && holder->enabled;
 }
 
 void Tell(HWND hWnd, WindowChange change)
 {
-    Display* const display = App().display;
-    const WindowRecord* const window = Find(hWnd);
+    Display* const display = State().display;
+    const Window* const window = Find(hWnd);
     if (display != nullptr && window != nullptr) {
         display->WindowChanged(*window, change);
     }
@@ -115,45 +133,51 @@ void Tell(HWND hWnd, WindowChange change)
 
 void TellCreated(HWND hWnd)
 {
-    Display* const display = App().display;
-    const WindowRecord* const window = Find(hWnd);
+    Display* const display = State().display;
+    const Window* const window = Find(hWnd);
     if (display != nullptr && window != nullptr) {
         display->WindowCreated(*window);
     }
 }
 
-void PutText(WindowRecord& window, const CString& strText)
+void SetCaret(Window& box, int nCaret)
+{
+    box.caret = nCaret;
+    box.pendingLead = '\0';
+}
+
+void PutText(Window& window, const CString& strText)
 {
     window.text = strText;
-    window.edit = {strText.GetLength(), '\0'};
+    SetCaret(window, strText.GetLength());
     Tell(window.handle, WindowChange::Text);
 }
 
 void Destroy(HWND hWnd)
 {
-    AppState& app = App();
-    const WindowRecord* const root = Find(hWnd);
+    LayerState& state = State();
+    const Window* const root = Find(hWnd);
     if (root == nullptr) {
         return;
     }
     const HWND parent = root->parent;
     std::vector<HWND> gone;
     Gather(hWnd, gone);
-    const bool hadFocus = std::find(gone.begin(), gone.end(), app.focus) != gone.end();
+    const bool hadFocus = std::find(gone.begin(), gone.end(), state.focus) != gone.end();
     if (hadFocus) {
-        app.focus = nullptr;
+        state.focus = nullptr;
     }
     for (const HWND handle : gone) {
-        const std::unique_ptr<WindowRecord> window = app.windows.Take(handle);
+        const std::unique_ptr<Window> window = state.windows.Take(handle);
         if (window->attached != nullptr) {
             window->attached->m_hWnd = nullptr;
         }
         if (window->own != nullptr) {
             window->own->m_hWnd = nullptr;
-            app.retired.push_back(std::move(window->own));
+            state.retired.push_back(std::move(window->own));
         }
     }
-    if (Display* const display = app.display) {
+    if (Display* const display = state.display) {
         for (const HWND handle : gone) {
             display->WindowDestroyed(handle);
         }
@@ -165,23 +189,9 @@ void Destroy(HWND hWnd)
 
 void DropRetired()
 {
-    if (App().callDepth == 0) {
-        App().retired.clear();
+    if (State().callDepth == 0) {
+        State().retired.clear();
     }
 }
 
 }  // namespace WindowLayer
-
-const WindowRecord* FindWindowRecord(HWND hWnd) { return WindowLayer::Find(hWnd); }
-
-std::vector<HWND> AllWindows()
-{
-    std::vector<HWND> all;
-    for (const HWND holder : WindowLayer::App().windows.Order()) {
-        all.push_back(holder);
-        for (const HWND child : WindowLayer::Find(holder)->children) {
-            all.push_back(child);
-        }
-    }
-    return all;
-}

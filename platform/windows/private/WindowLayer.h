@@ -3,34 +3,39 @@
 
 #include <optional>
 
-#include "platform/windows/private/AppState.h"
+#include "platform/windows/private/LayerState.h"
 
 // Whatever may run a handler or the display may destroy windows: nothing here keeps a record over
 // such a call, only its handle.
 namespace WindowLayer {
 
-[[nodiscard]] AppState& App();
+[[nodiscard]] LayerState& State();
 // Null for a handle that names no window.
-[[nodiscard]] WindowRecord* Find(HWND hWnd);
+[[nodiscard]] Window* Find(HWND hWnd);
 // The attached object, or the window's own, made when there is none yet.
-[[nodiscard]] CWnd* ObjectOf(WindowRecord& window);
+[[nodiscard]] CWnd* ObjectOf(Window& window);
 // The first child with an id, null when there is none.
-[[nodiscard]] WindowRecord* ChildWithId(HWND hWnd, int nID);
+[[nodiscard]] Window* ChildWithId(HWND hWnd, int nID);
 // The pop-up or frame that holds a control; any other window itself. Null for no window.
-[[nodiscard]] WindowRecord* HolderOf(HWND hWnd);
+[[nodiscard]] Window* HolderOf(HWND hWnd);
+// The rectangle that a window gets for the one asked for: corner and size within the farthest pixel.
+[[nodiscard]] CRect PlaceOf(int x, int y, std::int64_t nWidth, std::int64_t nHeight);
+[[nodiscard]] CRect PlaceOf(const RECT& rect);
 // Where the client area begins on the screen.
-[[nodiscard]] CPoint ClientOrigin(const WindowRecord& window);
+[[nodiscard]] CPoint ClientOrigin(const Window& window);
 // Shown together with the window that holds it.
-[[nodiscard]] bool IsShown(const WindowRecord& window);
+[[nodiscard]] bool IsShown(const Window& window);
 // Enabled together with the window that holds it, and no label.
-[[nodiscard]] bool TakesInput(const WindowRecord& window);
+[[nodiscard]] bool TakesInput(const Window& window);
 
 // Tells the display, if there is one, of a change.
 void Tell(HWND hWnd, WindowChange change);
 void TellCreated(HWND hWnd);
 
+// Sets the caret and forgets a half typed character.
+void SetCaret(Window& box, int nCaret);
 // Sets a window's text by program.
-void PutText(WindowRecord& window, const CString& strText);
+void PutText(Window& window, const CString& strText);
 void Destroy(HWND hWnd);
 // Lets the objects of former windows go, unless a call into a window runs.
 void DropRetired();
@@ -61,10 +66,10 @@ std::optional<LRESULT> ButtonDefault(HWND hButton, UINT message, WPARAM wParam, 
 // Marks that a call into a window runs.
 class InCall {
 public:
-    InCall() { ++App().callDepth; }
+    InCall() { ++State().callDepth; }
     InCall(const InCall&) = delete;
     InCall& operator=(const InCall&) = delete;
-    ~InCall() { --App().callDepth; }
+    ~InCall() { --State().callDepth; }
 };
 
 // Shuts a window's ears to its controls for a scope; the window may be gone at its end.
@@ -78,7 +83,7 @@ public:
 private:
     void Change(int step) const
     {
-        if (WindowRecord* const window = Find(m_hWnd)) {
+        if (Window* const window = Find(m_hWnd)) {
             window->notificationLock += step;
         }
     }

@@ -1,45 +1,45 @@
-// Entering, finding and taking out window records.
+// Entering, finding and taking out windows.
 #include "platform/windows/private/WindowTable.h"
 
 #include <utility>
 
-WindowRecord* WindowTable::Find(HWND hWnd) const
+Window* WindowTable::Find(HWND hWnd) const
 {
-    const auto found = m_records.find(hWnd);
-    return found == m_records.end() ? nullptr : found->second.get();
+    const auto found = m_windows.find(hWnd);
+    return found == m_windows.end() ? nullptr : found->second.get();
 }
 
-WindowRecord& WindowTable::Add(WindowKind kind, HWND hParent)
+Window& WindowTable::Add(WindowKind kind, HWND hParent)
 {
-    auto record = std::make_unique<WindowRecord>();
-    WindowRecord& window = *record;
+    auto owner = std::make_unique<Window>();
+    Window& window = *owner;
     window.handle = reinterpret_cast<HWND>(++m_lastHandle);  // NOLINT: a number, never followed
     window.kind = kind;
     window.parent = hParent;
-    if (WindowRecord* const parent = Find(hParent)) {
+    if (Window* const parent = Find(hParent)) {
         (window.IsControl() ? parent->children : parent->popUps).push_back(window.handle);
     }
     if (!window.IsControl()) {
         m_order.push_back(window.handle);
     }
-    m_records.emplace(window.handle, std::move(record));
+    m_windows.emplace(window.handle, std::move(owner));
     return window;
 }
 
-std::unique_ptr<WindowRecord> WindowTable::Take(HWND hWnd)
+std::unique_ptr<Window> WindowTable::Take(HWND hWnd)
 {
-    const auto found = m_records.find(hWnd);
-    if (found == m_records.end()) {
+    const auto found = m_windows.find(hWnd);
+    if (found == m_windows.end()) {
         return nullptr;
     }
-    std::unique_ptr<WindowRecord> record = std::move(found->second);
-    m_records.erase(found);
+    std::unique_ptr<Window> window = std::move(found->second);
+    m_windows.erase(found);
     std::erase(m_order, hWnd);
-    if (WindowRecord* const parent = Find(record->parent)) {
+    if (Window* const parent = Find(window->parent)) {
         std::erase(parent->children, hWnd);
         std::erase(parent->popUps, hWnd);
     }
-    return record;
+    return window;
 }
 
 void WindowTable::Raise(HWND hWnd)

@@ -3,6 +3,9 @@
 
 #include "RankerModule.h"
 
+// The module makes its application object before any of the host's static objects.
+static const bool s_hadApplication = AfxGetApp() != nullptr;
+
 int main()
 {
     SteelBiao table;
@@ -19,7 +22,7 @@ int main()
     picker.m_pItem = &item;
     picker.UpdateValue();
     picker.OnRButtonDown(0, CPoint());
-    std::printf("%d %s\n", candidates.GetSize() > 0 && bCreated ? 1 : 0,
+    std::printf("%d %s\n", candidates.GetSize() > 0 && bCreated && s_hadApplication ? 1 : 0,
                 static_cast<const char*>(item.GetValue()));
     return 0;
 }

@@ -46,20 +46,10 @@ TEST(SteelPanel, ComposesAnAnnotationOfTwoDiameters)
     EXPECT_EQ(panel.Sent(), (Texts{"parent 1 20 2B22+2B25;"}));
 }
 
-TEST(SteelPanel, ListsAreFixedAndTheTypesGoByKind)
+TEST(SteelPanel, TypesGoByKind)
 {
     SteelPanel panel(-1);
     const CBeamSteelDlg& dlg = *panel.m_dlg;
-    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_SteelnumList), (Texts{"1", "2", "3", "4", "5", "6", "7", "8"}));
-    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_SteelsymList), (Texts{"A", "B", "C", "D"}));
-    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_SteeldiaList),
-              (Texts{"10", "12", "14", "16", "18", "20", "22", "25"}));
-    const Texts counts = {Gbk(u8"无").Text(), "1", "2", "3", "4", "5", "6", "7", "8"};
-    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_UpList), counts);
-    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_DownList), counts);
-    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_SlashList), (Texts{" ", "/", "/", "/", "/", "/", "/", "/", "/"}));
-    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_SepList), (Texts{";", ",", Gbk(u8"无").Text()}));
-    EXPECT_EQ(SteelPanel::RowsOf(dlg.m_VdiaList), (Texts{Gbk(u8"+不同直径").Text(), "   "}));
     const Texts standard = {Gbk(u8"上部贯通筋").Text(), Gbk(u8"下部贯通筋").Text(),
                             Gbk(u8"+(架立筋)").Text(),  Gbk(u8"*扭筋").Text(),
                             Gbk(u8"N扭筋").Text(),      Gbk(u8"G侧面构造筋").Text()};
@@ -268,6 +258,21 @@ TEST(SteelPanel, IsDraggedByAPressOnAnything)
     EXPECT_EQ(panel.Seen().count, Two);
 }
 
+TEST(SteelPanel, ADoubleClickIsTwoClicksAndNoConfirmation)
+{
+    SteelPanel panel(0);
+    panel.Pick(SteelnumList, Two);
+    panel.m_hands.DoubleClickRow(*panel.m_dlg, SteeldiaList, D25);
+    panel.m_hands.DoubleClickRow(*panel.m_dlg, PosList, 0);
+    EXPECT_EQ(panel.Text(0), "2B25 ");
+    EXPECT_EQ(panel.Sent(), Texts{});
+    EXPECT_TRUE(panel.m_dlg->IsWindowVisible());
+    bool hiddenBefore = false;
+    panel.m_receiver.m_answer = [&] { hiddenBefore = panel.m_dlg->IsWindowVisible() == FALSE; };
+    panel.Confirm();
+    EXPECT_TRUE(hiddenBefore);
+}
+
 // What a receiver may do to the panel while it is being told.
 TEST(SteelPanel, ReceiverMayTakeTheWindowOrThePanelAway)
 {
@@ -301,6 +306,17 @@ TEST(SteelPanel, ReceiverMayTakeTheWindowOrThePanelAway)
     EXPECT_EQ(panel->Sent(), (Texts{"host 2 0 2B12", "host 0 8 N2B14"}));
     EXPECT_TRUE(panel->m_dlg->IsWindowVisible());
     EXPECT_TRUE(panel->Seen().rows.empty());
+}
+
+TEST(SteelPanel, ReceiverDisablesWhatWasPressed)
+{
+    SteelPanel panel(-1);
+    panel.Compose(Two, D12);
+    panel.m_receiver.m_answer = [&panel] {
+        panel.m_dlg->GetDlgItem(BeamSteelTemplate::SepList)->EnableWindow(FALSE);
+    };
+    EXPECT_TRUE(panel.Confirm());
+    EXPECT_EQ(panel.Sent(), Texts{"parent 1 20 2B12 "});
 }
 
 void CallEverything(CBeamSteelDlg& dlg, int odd)

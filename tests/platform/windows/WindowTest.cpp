@@ -1,6 +1,8 @@
 // Windows, their objects and their places.
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "TestPanel.h"
 
 namespace {
@@ -83,6 +85,28 @@ TEST(Window, TheTemplateGivesSizesInPixelsAndControlsInOrder)
 
     static_assert(DialogUnitsAcross(97) == 146 && DialogUnitsDown(109) == 164);
     static_assert(DialogUnitsAcross(54) == 81 && DialogUnitsDown(93) == 140);
+}
+
+TEST(Window, PositionsThatNoScreenHasCountAsTheFarthest)
+{
+    constexpr int Far = 1 << 28;
+    constexpr int Low = std::numeric_limits<int>::min();
+    constexpr int High = std::numeric_limits<int>::max();
+    CWnd frame;
+    frame.CreateFrame(CRect(Low, High, High, Low));
+    CRect rect;
+    frame.GetWindowRect(&rect);
+    EXPECT_EQ(rect, CRect(-Far, Far, 0, Far));
+    const CRect asked(High, Low, High, High);
+    frame.MoveWindow(&asked);
+    frame.GetWindowRect(&rect);
+    EXPECT_EQ(rect, CRect(Far, -Far, Far, 0));
+    CPoint point(Low, High);
+    frame.ScreenToClient(&point);
+    EXPECT_EQ(point, CPoint(-2 * Far, 2 * Far));
+    point = CPoint(High, Low);
+    frame.ClientToScreen(&point);
+    EXPECT_EQ(point, CPoint(2 * Far, -2 * Far));
 }
 
 TEST(Window, GetDlgItemGivesTheAttachedObjectOrOneOfTheControlsClass)

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/rankers/random/MakeTexts.h"
+#include "tests/support/Seed.h"
 #include "tests/yardstick/Rules.h"
 
 using namespace Yardstick;
@@ -15,13 +16,14 @@ unsigned Trials(unsigned usual)
     return wanted != nullptr ? static_cast<unsigned>(std::strtoul(wanted, nullptr, 10)) : usual;
 }
 
-// Each trial has its number as seed, so a failure names what to run again.
+// Each trial has a seed of its own, so a failure names what to run again.
 template <class Trial>
 void Try(unsigned usual, Trial trial)
 {
-    for (unsigned seed = 1; seed <= Trials(usual); ++seed) {
+    const unsigned first = FirstSeed(1);
+    for (unsigned seed = first; seed < first + Trials(usual); ++seed) {
         Chance chance(seed);
-        ASSERT_EQ(trial(chance), "") << "seed " << seed;
+        ASSERT_EQ(trial(chance), "") << SeedName(seed);
     }
 }
 

@@ -1,0 +1,48 @@
+// What is asked of a ranker for an annotation, and the list that it gives. Window, console, tour and hit
+// rate ask here, so that all of them mean the same by a field.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "RankerModule.h"
+#include "desk/project/Fields.h"
+
+namespace Desk {
+
+// A number that is not known is left out; the ranker gets 0 for it and the table is not asked.
+struct Question {
+    Ranker ranker = Ranker::Bars;
+    std::string barKind = {};       // the bar ranker's kind text in UTF-8
+    std::string heads = {};         // head characters of the field's texts, which the bar ranker cuts
+    std::optional<int> width = {};  // of the beam, mm
+    std::optional<int> area = {};   // required steel, mm²
+    std::optional<int> grade = {};  // of the concrete
+    std::optional<int> seismicClass = {};  // 1 to 4
+    bool wantsTable = false;               // rows of the reference table after the candidates
+    int projectKind = 2;  // the host's selector: others change what an empty project is offered
+};
+
+// What the field of the beam asks: end bars go by the through bars that they lie on, where there are some,
+// and each end by its own required area. Table rows come only where the field has some and the beam says
+// what the table asks for.
+[[nodiscard]] Question QuestionFor(const Beam& beam, Field field, bool wantsTable);
+
+// The bar texts of a beam that a kind text asks for, empty ones included: those of the fields that have the
+// kind, else both end bars of a beam whose through bars are that text, of another beam none.
+[[nodiscard]] std::vector<const std::string*> BarTexts(const Beam& beam, const std::string& barKind);
+
+// A ranker's answer as it stands.
+struct List {
+    CStringArray texts;
+    CUIntArray stamps;  // parallel to the texts where the ranker stamps, else empty
+    int table = 0;      // the texts from here on are table rows
+    int focus = -1;     // index of the text to put the focus on, -1 for none
+    bool isStamped = false;
+};
+
+// Runs the question's ranker; a ProjectHost must live. Throws Failure for a kind that GBK does not hold.
+[[nodiscard]] List RunRanker(const Question& question);
+
+}  // namespace Desk
