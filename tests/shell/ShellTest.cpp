@@ -256,7 +256,7 @@ TEST_F(Shell, AMessageWaitsForItsAnswerAndLeavesThePanel)
 TEST_F(Shell, AHostMayDestroyThePanelInTheMiddleOfAnEvent)
 {
     struct Destroyer : NotedItem {
-        void SetValue(CString) override { stage->panel.reset(); }
+        void SetValue(CString) override { stage->Destroy(); }
         Stage* stage = nullptr;
     };
     for (const bool onLine : {false, true}) {

@@ -5,7 +5,7 @@
 
 #include "desk/window/MainWindow.h"
 #include "desk/window/ScreenReport.h"
-#include "tests/support/Hands.h"
+#include "platform/windows/Hands.h"
 
 namespace {
 
