@@ -193,7 +193,7 @@ Beam Reader::ReadItem(Json&& source, const Path& path) const
     ReadTexts(source, path, BeamTexts, beam);
     ReadNumbers(source, path, BeamNumbers, beam);
     if (const Json* const area = Member(source, "area")) {
-        RequireObject(*area, path / "area", std::string("\"area\""));
+        RequireObject(*area, path / "area", {Phrase("Desk", "\"%1\""), "area"});
         ReadNumbers(*area, path / "area", AreaNumbers, beam.area);
     }
     ReadPoints(source, path, BeamPoints, beam);

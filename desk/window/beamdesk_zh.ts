@@ -483,6 +483,10 @@
         <source>%1: the folder cannot be made</source>
         <translation>%1：无法建立文件夹</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>“%1”</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/project/ProjectFile.h"
 #include "desk/window/MainWindow.h"
 #include "desk/window/ScreenReport.h"
 #include "tests/support/Hands.h"
@@ -396,104 +395,6 @@ TEST_F(MainWindowTest, UnsavedWorkIsNeverLeftWithoutAQuestion)
     answer("Leave without saving");
     EXPECT_TRUE(window.close());
     EXPECT_EQ(asked.size(), 3);
-}
-
-// Words in Latin letters that are no keys, names or annotations.
-QStringList EnglishIn(QString text)
-{
-    static const QRegularExpression known(
-        "“[^”]*”|/\\S+|beamdesk|English|(Ctrl|Shift)\\+[\\w+]*|Esc|\\bmm\\b");
-    static const QRegularExpression word("[A-Za-z]?[a-z]{2,}");
-    QStringList words;
-    for (const QRegularExpressionMatch& match : word.globalMatch(text.remove(known))) {
-        words << match.captured() + " in " + text;
-    }
-    return words;
-}
-
-TEST_F(MainWindowTest, TheWindowIsAllChineseInChinese)
-{
-    window.SetLanguage(Language::Chinese);
-    QStringList shown;
-    const auto collect = [&](const FieldRef& chosen) {
-        window.Choose(chosen);
-        for (const auto* const action : window.findChildren<QAction*>()) {
-            shown << action->text() << action->iconText() << action->statusTip() << action->toolTip();
-        }
-        for (const auto* const widget : window.findChildren<QWidget*>()) {
-            shown << widget->windowTitle() << widget->toolTip() << widget->property("text").toString()
-                  << widget->property("title").toString() << widget->property("placeholderText").toString();
-        }
-        for (const auto* const tree : window.findChildren<QTreeWidget*>()) {
-            for (QTreeWidgetItemIterator at(const_cast<QTreeWidget*>(tree)); *at != nullptr; ++at) {
-                shown << (*at)->text(0) << (*at)->text(1) << (*at)->toolTip(0);
-            }
-        }
-    };
-    Find<QCheckBox>("table").click();
-    for (const Field field : BeamFields()) {
-        collect({false, 1, field});
-    }
-    collect({true, 0, Field::VerticalBars});
-    EXPECT_GT(shown.removeDuplicates(), 0);
-    EXPECT_GT(shown.filter(QRegularExpression("[一-龥]")).size(), 100);
-    for (const QString& text : shown) {
-        EXPECT_EQ(EnglishIn(text).join('|').toStdString(), "");
-    }
-    EXPECT_TRUE(Find<QAction>("save").text().startsWith("保存"));
-    EXPECT_EQ(Offer().first(), "[工程已有]");
-    window.SetLanguage(Language::English);
-    EXPECT_EQ(Find<QAction>("save").text(), "&Save");
-}
-
-TEST_F(MainWindowTest, FailuresAreToldInTheLanguageOfTheWindow)
-{
-    const std::string head = R"({"version": 1, "beams": [{"name": "L1", )";
-    const std::vector<std::string> wrong = {"",
-                                            "\xFF",
-                                            "{",
-                                            "{\"a\": tru}",
-                                            "[1e999]",
-                                            "[-]",
-                                            "[1 2]",
-                                            "[\"a\nb\"]",
-                                            "[\"\\u0g\"]",
-                                            "{\"a\": 1, \"a\": 2}",
-                                            std::string(100, '['),
-                                            "[]",
-                                            "{}",
-                                            "{\"version\": 2}",
-                                            "{\"version\": []}",
-                                            "{\"version\": 1, \"beams\": {}}",
-                                            "{\"version\": 1, \"walls\": [7]}",
-                                            "{\"version\": 1, \"walls\": [{}]}",
-                                            std::string("[\0]", 3),
-                                            head + "\"side\": 1}]}",
-                                            head + "\"side\": \"\\n\"}]}",
-                                            head + "\"side\": \"😀\"}]}",
-                                            head + "\"seismicClass\": \"\"}]}",
-                                            head + "\"seismicClass\": 9}]}",
-                                            head + "\"area\": 9}]}",
-                                            head + "\"end\": 9}]}"};
-    std::vector<std::function<void()>> failing = {
-        [] { static_cast<void>(ReadProject("/")); }, [] { static_cast<void>(ReadProject("/none")); },
-        [] { SaveProject(SampleProject(), "/"); }, [] { SaveProject(SampleProject(), "/none/p.json"); },
-        [] { SaveProject(SampleProject(), "/dev/null"); }};
-    for (const std::string& text : wrong) {
-        failing.emplace_back([&text] { static_cast<void>(ParseProject(text, "/f")); });
-    }
-    for (const auto& fail : failing) {
-        try {
-            fail();
-            ADD_FAILURE();
-        } catch (const Failure& failure) {
-            window.SetLanguage(Language::Chinese);
-            EXPECT_EQ(EnglishIn(Told(failure)).join('|').toStdString(), "");
-            EXPECT_TRUE(Told(failure).startsWith('/')) << "the file comes first";
-            window.SetLanguage(Language::English);
-            EXPECT_EQ(Told(failure), failure.what());
-        }
-    }
 }
 
 TEST_F(MainWindowTest, TheReportTellsWhatShowsAndWhere)
