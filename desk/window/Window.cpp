@@ -39,13 +39,13 @@ int RunWindow(const char* project, const char* report)
     MainWindow window(display);
     window.show();
     const QString file = QString::fromUtf8(project);
-    if (!window.OpenFile(file) && !file.isEmpty()) {
-        window.OpenFile(QString());
+    if (!window.Files().Open(file) && !file.isEmpty()) {
+        window.Files().OpenSample();
     }
     if (*report != '\0') {
         KeepScreenReport(window, QString::fromUtf8(report));
     }
-    QTimer::singleShot(0, &window, [&window] { window.OfferLostWork(); });
+    QTimer::singleShot(0, &window, [&window] { window.Files().OfferLostWork(); });
     return QApplication::exec();
 }
 
