@@ -1,6 +1,6 @@
 #include "desk/window/Docks.h"
 
-#include "desk/ranking/Choices.h"
+#include "desk/ranking/Ranking.h"
 #include "desk/window/FieldNames.h"
 #include "desk/window/Languages.h"
 
