@@ -1,6 +1,8 @@
 // The slots themselves, the only state of the module that outlives its objects.
 #include "host/HostLink.h"
 
+#include "host/private/AskHost.h"
+
 namespace {
 
 struct Slots {

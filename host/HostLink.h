@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/Export.h"
+#include "host/private/AskHost.h"
 #include "platform/text/Arrays.h"
 #include "platform/text/CString.h"
 
@@ -34,16 +35,3 @@ RANKER_API void SetBeamEleFunc(BeamEleFunc func);
 RANKER_API void SetBeamGujinFunc(BeamGujinFunc func);
 RANKER_API void SetBeamSteelFunc(BeamSteelFunc func);
 RANKER_API void SetBeamMouseInputFunc(BeamMouseInputFunc func);
-
-// How the module's own rooms call a slot: an empty slot does nothing. Not for hosts.
-namespace HostLink {
-
-void AskBeamTypes(CStringArray& arType);
-void AskBeamNumbers(CUIntArray& arXu, CStringArray& arSuffix, const CString& strType);
-void AskSections(CStringArray& arResult);
-void AskElevations(CStringArray& arResult);
-void AskStirrups(CStringArray& arResult);
-void AskBars(CStringArray& arResult, const CString& strKind);
-void DeliverText(void* pTarget, int nMode, const CString& strText, int nCode);
-
-}  // namespace HostLink

@@ -77,7 +77,7 @@ CString WithBrackets(const CString& legs) { return legs.Find('(') < 0 ? "(" + le
 
 }  // namespace
 
-bool Decompose(const CString& text, Fields& fields)
+bool Decompose(CString text, Fields& fields)
 {
     const Cut cut = CutText(text.View());
     if (!cut.hasGrade) {

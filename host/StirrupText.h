@@ -22,8 +22,9 @@ struct Fields {
 
 // Cuts a text into the fields and returns whether it reached the legs. Fields that the text does not
 // reach keep what they held: all of them for a text without spacing mark ("@", or "-" when there is
-// no "@") or without grade letter, spacing and legs for one without "(" behind the spacing.
-RANKER_API bool Decompose(const CString& text, Fields& fields);
+// no "@") or without grade letter, spacing and legs for one without "(" behind the spacing. The text
+// can be one of the fields.
+RANKER_API bool Decompose(CString text, Fields& fields);
 
 // What the order of stirrups goes by: numbers of diameter, spacing and tight spacing in mm and the
 // number of legs, 0 for what the text lacks. Of the legs only the one character behind the "("

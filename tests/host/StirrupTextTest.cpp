@@ -51,6 +51,14 @@ TEST(StirrupText, DecomposesWhatItReaches)
         EXPECT_EQ(StirrupText::Decompose(c.text, fields), c.reachesLegs) << c.text;
         EXPECT_EQ(fields, c.fields) << c.text;
     }
+    const Fields whole{"A", "10", "100", "4", "200", "2"};
+    for (CString Fields::*const field :
+         {&Fields::grade, &Fields::diameter, &Fields::tightSpacing, &Fields::spacing, &Fields::legs}) {
+        Fields fields = untouched;
+        fields.*field = "A10@100(4)/200(2)";
+        EXPECT_TRUE(StirrupText::Decompose(fields.*field, fields));
+        EXPECT_EQ(fields, whole);
+    }
 }
 
 TEST(StirrupText, MeasuresForTheOrder)
