@@ -23,7 +23,7 @@ add_library(RankerModule SHARED
   pickers/HBarPropertySheet.cpp
   pickers/ItemBinding.cpp
   pickers/VBarPropertySheet.cpp
-  rankers/BarOrder.cpp
+  rankers/private/BarOrder.cpp
   rankers/BeamLevelRanker.cpp
   rankers/BeamNameRanker.cpp
   rankers/BeamSizeRanker.cpp
@@ -31,7 +31,7 @@ add_library(RankerModule SHARED
   rankers/ChaBiaoRankerOrder.cpp
   rankers/GuJinRanker.cpp
   rankers/HitnessRanker.cpp
-  rankers/Repeats.cpp
+  rankers/private/Repeats.cpp
   tables/GuJinBiao.cpp
   tables/SteelBiao.cpp)
 target_include_directories(RankerModule PUBLIC

@@ -3,9 +3,10 @@
 
 #include <vector>
 
-#include "host/HostLink.h"
+#include "host/private/AskHost.h"
 #include "platform/text/Numbers.h"
-#include "rankers/Order.h"
+#include "rankers/private/Order.h"
+#include "rankers/private/RunSteps.h"
 
 void BEAMLEVEL_HITNESS_RANKER::ProcessController(CStringArray& arResult)
 {
@@ -14,11 +15,7 @@ void BEAMLEVEL_HITNESS_RANKER::ProcessController(CStringArray& arResult)
     if (arResult.IsEmpty()) {
         GuessFromScratch(arResult);
     }
-    if (arResult.GetSize() > 10) {
-        AdaptResultSize(arResult);
-    }
-    EliminateSameResult(arResult);
-    SortResult(arResult);
+    RunSteps::Finish(*this, arResult);
     arResult.InsertAt(0, "      ");
 }
 

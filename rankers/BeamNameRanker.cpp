@@ -9,8 +9,9 @@
 #include <string>
 #include <string_view>
 
-#include "host/HostLink.h"
+#include "host/private/AskHost.h"
 #include "platform/text/Numbers.h"
+#include "rankers/private/RunSteps.h"
 
 namespace {
 
@@ -32,11 +33,7 @@ void BEAMNAME_HITNESS_RANKER::ProcessController(CStringArray& arResult)
         GuessFromScratch(arResult);
     }
     StrangeFuncForKL(arResult);
-    if (arResult.GetSize() > 10) {
-        AdaptResultSize(arResult);
-    }
-    EliminateSameResult(arResult);
-    SortResult(arResult);
+    RunSteps::Finish(*this, arResult);
 }
 
 void BEAMNAME_HITNESS_RANKER::SelectFromProject(CStringArray& arResult)

@@ -6,9 +6,10 @@
 #include <string_view>
 #include <vector>
 
-#include "host/HostLink.h"
+#include "host/private/AskHost.h"
 #include "platform/text/Numbers.h"
-#include "rankers/Order.h"
+#include "rankers/private/Order.h"
+#include "rankers/private/RunSteps.h"
 
 namespace {
 
@@ -85,17 +86,9 @@ void BEAMSIZE_HITNESS_RANKER::ProcessController(CStringArray& arResult)
 {
     arResult.RemoveAll();
     SelectFromProject(arResult);
-    if (arResult.IsEmpty()) {
-        GuessFromScratch(arResult);
-        EliminateSameResult(arResult);
+    if (!RunSteps::FinishWithGuesses(*this, arResult)) {
         return;
     }
-    GuessFromScratch(arResult);
-    if (arResult.GetSize() > 10) {
-        AdaptResultSize(arResult);
-    }
-    EliminateSameResult(arResult);
-    SortResult(arResult);
     const auto isSpecial = [](CString text) {
         text.TrimLeft();
         return text.GetAt(0) == 'Y';

@@ -1,13 +1,17 @@
 // The run of the bar ranker: sources, stamps and focus.
 #include "rankers/ChaBiaoRanker.h"
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
 #include <utility>
 
 #include "host/BarText.h"
-#include "host/HostLink.h"
-#include "rankers/BarOrder.h"
-#include "rankers/Order.h"
-#include "rankers/Repeats.h"
+#include "host/private/AskHost.h"
+#include "rankers/private/BarOrder.h"
+#include "rankers/private/Order.h"
+#include "rankers/private/Repeats.h"
+#include "rankers/private/RunSteps.h"
 
 namespace {
 
@@ -22,6 +26,13 @@ Wanted WantedBy(const CString& kind)
         return Wanted::TopBars;
     }
     return kind == "5.1" || kind == "5.2" ? Wanted::BottomBars : Wanted::EndBars;
+}
+
+// The area that a look-up takes: cut to a whole number, the nearest one in range; 0 for what is none.
+int WholeArea(double area)
+{
+    using Range = std::numeric_limits<int>;
+    return std::isnan(area) ? 0 : static_cast<int>(std::clamp<double>(area, Range::min(), Range::max()));
 }
 
 }  // namespace
@@ -48,7 +59,7 @@ void CHABIAO_HITNESS_RANKER::ProcessController(CStringArray& arResult)
     if (arResult.GetSize() <= FewCandidates) {
         GuessFromScratch(arResult);
     }
-    if (arResult.GetSize() > 10) {
+    if (arResult.GetSize() > RunSteps::LongList) {
         AdaptResultSize(arResult);
     }
     CutHead(arResult);
@@ -65,7 +76,7 @@ void CHABIAO_HITNESS_RANKER::SelectFromProject(CStringArray& arResult)
 void CHABIAO_HITNESS_RANKER::StampFlags(CStringArray& arResult, int nStage)
 {
     if (nStage == 1 || nStage == 2) {
-        StampRest(arResult);
+        RunSteps::StampProposals(arResult, m_arFlags);
         return;
     }
     if (nStage != 0) {
@@ -85,13 +96,6 @@ void CHABIAO_HITNESS_RANKER::StampFlags(CStringArray& arResult, int nStage)
     }
 }
 
-void CHABIAO_HITNESS_RANKER::StampRest(const CStringArray& arResult)
-{
-    if (m_arFlags.GetSize() < arResult.GetSize()) {
-        m_arFlags.SetSize(arResult.GetSize());
-    }
-}
-
 void CHABIAO_HITNESS_RANKER::CutHead(CStringArray& arResult)
 {
     for (CString& text : arResult) {
@@ -105,7 +109,7 @@ void CHABIAO_HITNESS_RANKER::CutHead(CStringArray& arResult)
 void CHABIAO_HITNESS_RANKER::ChaBiao(CStringArray& arResult)
 {
     if (m_pSteelBiao != nullptr) {
-        const int area = static_cast<int>(m_dArea);
+        const int area = WholeArea(m_dArea);
         switch (WantedBy(m_strKind)) {
         case Wanted::TopBars: m_pSteelBiao->GetTopJin(m_nWidth, area, arResult); break;
         case Wanted::BottomBars: m_pSteelBiao->GetDiJin(m_nWidth, area, arResult); break;
@@ -117,11 +121,7 @@ void CHABIAO_HITNESS_RANKER::ChaBiao(CStringArray& arResult)
 
 int CHABIAO_HITNESS_RANKER::FindIndexOfFocusByArFlags()
 {
-    int index = 0;
-    while (index < m_arFlags.GetSize() && m_arFlags[index] != 0) {
-        ++index;
-    }
-    m_nFocusIndex = index - 1;
+    m_nFocusIndex = RunSteps::LastFromProject(m_arFlags);
     return m_nFocusIndex;
 }
 

@@ -64,7 +64,4 @@ public:
     CUIntArray m_arFlags;    // the stamps
     int m_nFocusIndex = 0;   // the focus as last worked out
     int m_nProjectKind = 2;  // written by the host; other than 2 adds a text to an empty project's list
-
-private:
-    void StampRest(const CStringArray& arResult);
 };

@@ -1,10 +1,11 @@
 // The orderings of the bar ranker.
 #include <vector>
 
-#include "rankers/BarOrder.h"
 #include "rankers/ChaBiaoRanker.h"
-#include "rankers/Order.h"
-#include "rankers/Repeats.h"
+#include "rankers/private/BarOrder.h"
+#include "rankers/private/Order.h"
+#include "rankers/private/Repeats.h"
+#include "rankers/private/RunSteps.h"
 
 int CHABIAO_HITNESS_RANKER::CompareSteel(CString strA, CString strB)
 {
@@ -31,7 +32,7 @@ void CHABIAO_HITNESS_RANKER::MixedSort(CStringArray& arResult)
     if (arResult.IsEmpty()) {
         return;
     }
-    StampRest(arResult);
+    RunSteps::StampProposals(arResult, m_arFlags);
     // Only proposals are compared by their bars; the others need no key.
     std::vector<BarOrder::Key> keys;
     std::vector<int> keyOf;

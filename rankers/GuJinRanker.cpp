@@ -5,10 +5,11 @@
 #include <compare>
 #include <vector>
 
-#include "host/HostLink.h"
 #include "host/StirrupText.h"
-#include "rankers/Order.h"
-#include "rankers/Repeats.h"
+#include "host/private/AskHost.h"
+#include "rankers/private/Order.h"
+#include "rankers/private/Repeats.h"
+#include "rankers/private/RunSteps.h"
 
 void GUJIN_HITNESS_RANKER::SetPara(int nWidth, int nSeismic, int nGrade, GuJinBiao* pBiao)
 {
@@ -24,17 +25,7 @@ void GUJIN_HITNESS_RANKER::ProcessController(CStringArray& arResult)
     m_arFlags.RemoveAll();
     SelectFromProject(arResult);
     StampFlags(arResult);
-    if (arResult.IsEmpty()) {
-        GuessFromScratch(arResult);
-        EliminateSameResult(arResult);
-        return;
-    }
-    GuessFromScratch(arResult);
-    if (arResult.GetSize() > 10) {
-        AdaptResultSize(arResult);
-    }
-    EliminateSameResult(arResult);
-    SortResult(arResult);
+    RunSteps::FinishWithGuesses(*this, arResult);
 }
 
 void GUJIN_HITNESS_RANKER::SelectFromProject(CStringArray& arResult) { HostLink::AskStirrups(arResult); }
@@ -44,13 +35,6 @@ void GUJIN_HITNESS_RANKER::StampFlags(CStringArray& arResult)
     m_arFlags.Reserve(m_arFlags.GetSize() + arResult.GetSize());
     for (int i = 0; i < arResult.GetSize(); ++i) {
         m_arFlags.Add(1);
-    }
-}
-
-void GUJIN_HITNESS_RANKER::StampRest(const CStringArray& arResult)
-{
-    if (m_arFlags.GetSize() < arResult.GetSize()) {
-        m_arFlags.SetSize(arResult.GetSize());
     }
 }
 
@@ -69,7 +53,7 @@ void GUJIN_HITNESS_RANKER::GuessFromScratch(CStringArray& arResult)
         arResult.InsertAt(0, "A10@200(2)");
         arResult.RemoveAt(6);
     }
-    StampRest(arResult);
+    RunSteps::StampProposals(arResult, m_arFlags);
 }
 
 void GUJIN_HITNESS_RANKER::ChaBiao(CStringArray& arResult)
@@ -77,7 +61,7 @@ void GUJIN_HITNESS_RANKER::ChaBiao(CStringArray& arResult)
     if (m_pGuJinBiao != nullptr) {
         m_pGuJinBiao->GetGuJin(m_nWidth, m_nGrade, m_nSeismic, arResult);
     }
-    StampRest(arResult);
+    RunSteps::StampProposals(arResult, m_arFlags);
 }
 
 void GUJIN_HITNESS_RANKER::EliminateSameResult(CStringArray& arResult)
@@ -87,7 +71,7 @@ void GUJIN_HITNESS_RANKER::EliminateSameResult(CStringArray& arResult)
 
 void GUJIN_HITNESS_RANKER::SortResult(CStringArray& arResult)
 {
-    StampRest(arResult);
+    RunSteps::StampProposals(arResult, m_arFlags);
     const int count = arResult.GetSize();
     std::vector<StirrupText::Measures> measures;
     measures.reserve(static_cast<std::size_t>(count));
@@ -121,10 +105,6 @@ int GUJIN_HITNESS_RANKER::CompareGujin(CString strA, CString strB)
 
 int GUJIN_HITNESS_RANKER::FindIndexOfFocusByArFlags()
 {
-    int index = 0;
-    while (index < m_arFlags.GetSize() && m_arFlags[index] != 0) {
-        ++index;
-    }
-    m_nFocusIndex = index - 1;
+    m_nFocusIndex = RunSteps::LastFromProject(m_arFlags);
     return m_nFocusIndex;
 }

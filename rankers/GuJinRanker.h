@@ -40,7 +40,4 @@ public:
     CUIntArray m_arFlags;               // the stamps
     int m_nFocusIndex = 0;              // the focus as last worked out
     int m_nProjectKind = 2;  // written by the host; other than 2 changes the head of the guess list
-
-private:
-    void StampRest(const CStringArray& arResult);
 };

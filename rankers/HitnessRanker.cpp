@@ -1,7 +1,7 @@
 // The empty steps of the frame.
 #include "rankers/HitnessRanker.h"
 
-#include "rankers/Repeats.h"
+#include "rankers/private/Repeats.h"
 
 HITNESS_RANKER::~HITNESS_RANKER() = default;
 

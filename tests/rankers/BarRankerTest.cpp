@@ -1,6 +1,9 @@
 // Runs of the bar ranker: stamps, focus, guesses and table rows.
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
+
 #include "tests/support/FakeHost.h"
 
 namespace {
@@ -165,6 +168,18 @@ TEST(BarRanker, TableRowsFollowARun)
     ranker.ChaBiao(list);
     EXPECT_EQ(TextsOf(list), (Texts{"2B16", "2B18", "2B20", "2B25"}));
     EXPECT_EQ(StampsOf(ranker.m_arFlags), Stamps(4, 0));
+
+    // An area that no int holds is the nearest one, no number is none at all.
+    const Texts rising = {"2B12", "2B14", "2B16", "2B18", "2B20", "2B22", "2B25"};
+    const Texts falling(rising.rbegin(), rising.rend());
+    constexpr double Infinity = std::numeric_limits<double>::infinity();
+    for (const double area : {1e300, Infinity, -1e300, -Infinity, std::nan("")}) {
+        ranker.m_dArea = area;
+        ranker.m_nWidth = 250;
+        list.RemoveAll();
+        ranker.ChaBiao(list);
+        EXPECT_EQ(TextsOf(list), area > 0 ? falling : rising) << area;
+    }
 }
 
 }  // namespace

@@ -1,13 +1,13 @@
 // Cutting at the joints and comparing piece by piece is the same as comparing whole texts with a
 // joint that sorts before every character and behind the end of a text.
-#include "rankers/BarOrder.h"
+#include "rankers/private/BarOrder.h"
 
 #include <algorithm>
 #include <numeric>
 #include <vector>
 
-#include "rankers/Order.h"
-#include "rankers/TextIndex.h"
+#include "rankers/private/Order.h"
+#include "rankers/private/TextIndex.h"
 
 namespace BarOrder {
 namespace {

@@ -1,10 +1,10 @@
 // One hash pass instead of a search through the list for every text; the outcome is the same.
-#include "rankers/Repeats.h"
+#include "rankers/private/Repeats.h"
 
 #include <utility>
 #include <vector>
 
-#include "rankers/TextIndex.h"
+#include "rankers/private/TextIndex.h"
 
 namespace Repeats {
 namespace {
