@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "host/StirrupText.h"
-#include "tables/GuJinRows.h"
-#include "tables/TakeText.h"
+#include "tables/private/GuJinRows.h"
+#include "tables/private/TakeText.h"
 
 namespace {
 
@@ -13,12 +13,6 @@ namespace {
 constexpr double MinimumRatios[] = {0.30, 0.28, 0.26, 0.24};
 
 }  // namespace
-
-GuJinItem::GuJinItem(const GuJinItem& other)
-    : m_nWidth(other.m_nWidth), m_nGrade(other.m_nGrade), m_strGuJin(other.m_strGuJin),
-      m_strGuJinJiaMi(other.m_strGuJinJiaMi), m_dRatio(other.m_dRatio)
-{
-}
 
 void GuJinItem::operator=(const GuJinItem& other)
 {
@@ -69,8 +63,15 @@ int GuJinBiao::GetGuJin(int nWidth, int nGrade, int nSeismic, CStringArray& arRe
     const double minimum = MinimumRatios[nSeismic - 1];
     for (const GuJinItem& row : *rows) {
         if (row.m_nWidth == nWidth && row.m_dRatio >= minimum) {
-            TakeText(row.m_strGuJin, arResult);
-            TakeText(row.m_strGuJinJiaMi, arResult);
+            // Both are looked for before either comes in.
+            const bool bHasPlain = HoldsText(arResult, row.m_strGuJin);
+            const bool bHasTight = HoldsText(arResult, row.m_strGuJinJiaMi);
+            if (!bHasPlain) {
+                arResult.Add(row.m_strGuJin);
+            }
+            if (!bHasTight) {
+                arResult.Add(row.m_strGuJinJiaMi);
+            }
         }
     }
     return nGrade == 40 ? 1 : 0;

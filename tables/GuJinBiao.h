@@ -9,7 +9,7 @@
 class RANKER_API GuJinItem {
 public:
     GuJinItem() = default;
-    GuJinItem(const GuJinItem& other);
+    GuJinItem(const GuJinItem& other) = default;
     virtual ~GuJinItem() = default;
     void operator=(const GuJinItem& other);
 

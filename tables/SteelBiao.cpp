@@ -6,8 +6,8 @@
 #include <iterator>
 #include <limits>
 
-#include "tables/SteelRows.h"
-#include "tables/TakeText.h"
+#include "tables/private/SteelRows.h"
+#include "tables/private/TakeText.h"
 
 namespace {
 
@@ -53,12 +53,6 @@ private:
 };
 
 }  // namespace
-
-SteelBiaoItem::SteelBiaoItem(const SteelBiaoItem& other)
-    : m_nWidth(other.m_nWidth), m_nArea(other.m_nArea), m_strTopJin(other.m_strTopJin),
-      m_strTotalJin(other.m_strTotalJin), m_strDiJin(other.m_strDiJin)
-{
-}
 
 void SteelBiaoItem::operator=(const SteelBiaoItem& other)
 {

@@ -9,7 +9,7 @@
 class RANKER_API SteelBiaoItem {
 public:
     SteelBiaoItem() = default;
-    SteelBiaoItem(const SteelBiaoItem& other);
+    SteelBiaoItem(const SteelBiaoItem& other) = default;
     virtual ~SteelBiaoItem() = default;
     void operator=(const SteelBiaoItem& other);
 

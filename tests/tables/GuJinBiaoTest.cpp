@@ -104,6 +104,17 @@ TEST(GuJinBiao, LookUp)
     Fill(list, {"A8@200(2)"});
     table.GetGuJin(200, 40, 2, list);
     EXPECT_EQ(TextsOf(list), (Texts{"A8@200(2)", "A8@100/200(2)", "A10@250(2)", "A10@100/250(2)"}));
+
+    // A row of the host's own: both texts are looked for before either comes in.
+    GuJinBiao own;
+    GuJinItem row;
+    row.Init(200, 40, 1.0, "A8@200(2)");
+    row.m_strGuJinJiaMi = "A8@200(2)";
+    own.m_arBiao40.Add(row);
+    list.RemoveAll();
+    own.GetGuJin(200, 40, 1, list);
+    own.GetGuJin(200, 40, 1, list);
+    EXPECT_EQ(TextsOf(list), Texts(2, "A8@200(2)"));
 }
 
 TEST(GuJinBiao, EveryWidthHasAnAnswerForEveryGradeAndClass)
