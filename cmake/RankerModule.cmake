@@ -21,7 +21,7 @@ add_library(RankerModule SHARED
   panels/SectionText.cpp
   pickers/ColSpecControls.cpp
   pickers/HBarPropertySheet.cpp
-  pickers/ItemBinding.cpp
+  pickers/private/ItemBinding.cpp
   pickers/VBarPropertySheet.cpp
   rankers/private/BarOrder.cpp
   rankers/BeamLevelRanker.cpp

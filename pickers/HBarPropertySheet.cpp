@@ -1,7 +1,8 @@
 #include "pickers/HBarPropertySheet.h"
 
 #include "bartext/AnalyseBarComment.h"
-#include "pickers/HBarTemplate.h"
+#include "pickers/private/HBarTemplate.h"
+#include "pickers/private/ItemBinding.h"
 #include "platform/windows/DataExchange.h"
 
 using namespace HBarTemplate;
@@ -9,17 +10,30 @@ using namespace ItemBinding;
 
 namespace {
 
-CString Number(int number)
-{
-    CString text;
-    text.Format("%d", number);
-    return text;
-}
-
 // Tenths 0 to 9; written out, since a real number's point depends on the locale.
 CString DiameterText(int whole, int tenths)
 {
-    return tenths == 0 ? Number(whole) : Number(whole) + "." + Number(tenths);
+    return tenths == 0 ? DecimalText(whole) : DecimalText(whole) + "." + DecimalText(tenths);
+}
+
+Column GradeColumn(CHBarPropertySheet& picker)
+{
+    return {picker.m_GradeList, picker.m_GradeEdit, picker.m_arrGrade};
+}
+
+Column DiameterColumn(CHBarPropertySheet& picker)
+{
+    return {picker.m_DiameterList, picker.m_DiameterEdit, picker.m_arrDiameter};
+}
+
+Column TightColumn(CHBarPropertySheet& picker)
+{
+    return {picker.m_TightList, picker.m_TightEdit, picker.m_arrTightSpace};
+}
+
+Column NormalColumn(CHBarPropertySheet& picker)
+{
+    return {picker.m_NonTightList, picker.m_NonTightEdit, picker.m_arrNonTightSpace};
 }
 
 }  // namespace
@@ -59,14 +73,10 @@ void CHBarPropertySheet::DoDataExchange(CDataExchange* pDX)
 BOOL CHBarPropertySheet::OnInitDialog()
 {
     CDialog::OnInitDialog();
-    m_GradeEdit.SetWindowText(m_arrGrade[0]);
-    m_DiameterEdit.SetWindowText(m_arrDiameter[0]);
-    m_TightEdit.SetWindowText(m_arrTightSpace[0]);
-    m_NonTightEdit.SetWindowText(m_arrNonTightSpace[0]);
-    Fill(m_GradeList, m_arrGrade);
-    Fill(m_DiameterList, m_arrDiameter);
-    Fill(m_TightList, m_arrTightSpace);
-    Fill(m_NonTightList, m_arrNonTightSpace);
+    for (const Column& column :
+         {GradeColumn(*this), DiameterColumn(*this), TightColumn(*this), NormalColumn(*this)}) {
+        Open(column);
+    }
     return TRUE;
 }
 
@@ -76,10 +86,7 @@ void CHBarPropertySheet::UpdateValue()
         return;
     }
     const CString value = m_pItem->GetValue();
-    const CString grade = GradeIn(value);
-    if (!grade.IsEmpty()) {
-        m_GradeEdit.SetWindowText(grade);
-    }
+    const CString grade = ShowGradeIn(value, m_GradeEdit);
     int gradeNumber = 0;
     int whole = 0;
     int tight = 0;
@@ -87,8 +94,8 @@ void CHBarPropertySheet::UpdateValue()
     int tenths = 0;
     AnalyseBarComment(value, gradeNumber, whole, tight, normal, &tenths);
     const CString diameterText = DiameterText(whole, tenths);
-    const CString tightText = Number(tight);
-    const CString normalText = normal == 0 ? CString() : Number(normal);
+    const CString tightText = DecimalText(tight);
+    const CString normalText = normal == 0 ? CString() : DecimalText(normal);
     m_DiameterEdit.SetWindowText(diameterText);
     m_NonTightEdit.SetWindowText(normalText);
     m_TightEdit.SetWindowText(tightText);
@@ -98,10 +105,10 @@ void CHBarPropertySheet::UpdateValue()
 void CHBarPropertySheet::SetSelectFlag(CString strGrade, CString strDiameter, CString strTight,
                                        CString strNonTight)
 {
-    Select(m_GradeList, m_arrGrade, strGrade);
-    Select(m_DiameterList, m_arrDiameter, strDiameter);
-    Select(m_TightList, m_arrTightSpace, strTight);
-    Select(m_NonTightList, m_arrNonTightSpace, strNonTight);
+    Select(GradeColumn(*this), strGrade);
+    Select(DiameterColumn(*this), strDiameter);
+    Select(TightColumn(*this), strTight);
+    Select(NormalColumn(*this), strNonTight);
 }
 
 void CHBarPropertySheet::OnRButtonDown(UINT /*nFlags*/, CPoint /*point*/)
@@ -121,19 +128,7 @@ void CHBarPropertySheet::OnKeyDown(UINT nChar, UINT /*nRepCnt*/, UINT /*nFlags*/
     }
 }
 
-void CHBarPropertySheet::OnSelchangeListHbarGrade() { TakeRow(m_GradeList, m_arrGrade, m_GradeEdit); }
-
-void CHBarPropertySheet::OnSelchangeListHbarDiameter()
-{
-    TakeRow(m_DiameterList, m_arrDiameter, m_DiameterEdit);
-}
-
-void CHBarPropertySheet::OnSelchangeListHbarTightspace()
-{
-    TakeRow(m_TightList, m_arrTightSpace, m_TightEdit);
-}
-
-void CHBarPropertySheet::OnSelchangeListHbarNontightspace()
-{
-    TakeRow(m_NonTightList, m_arrNonTightSpace, m_NonTightEdit);
-}
+void CHBarPropertySheet::OnSelchangeListHbarGrade() { TakeRow(GradeColumn(*this)); }
+void CHBarPropertySheet::OnSelchangeListHbarDiameter() { TakeRow(DiameterColumn(*this)); }
+void CHBarPropertySheet::OnSelchangeListHbarTightspace() { TakeRow(TightColumn(*this)); }
+void CHBarPropertySheet::OnSelchangeListHbarNontightspace() { TakeRow(NormalColumn(*this)); }

@@ -1,9 +1,13 @@
 // CHBarPropertySheet: the pop-up that sets a wall's horizontal bars, such as "A10@100/200".
 #pragma once
 
+#include <memory>
+
 #include "pickers/ColSpecControls.h"
-#include "pickers/ItemBinding.h"
+#include "platform/text/Arrays.h"
 #include "platform/windows/CDialog.h"
+
+class CPropertyGridItem;
 
 // Four edit boxes above four lists: grade, diameter, tight spacing and, if there is one, normal spacing.
 // The boxes count, with rows picked and digits typed alike. A right press hands the text to the property
@@ -50,7 +54,7 @@ protected:
 private:
     void SetSelectFlag(CString strGrade, CString strDiameter, CString strTight, CString strNonTight);
 
-    ItemBinding::Life m_life;
+    std::shared_ptr<const int> m_life = std::make_shared<const int>(0);  // ends with the picker
 
     DECLARE_MESSAGE_MAP()
 };

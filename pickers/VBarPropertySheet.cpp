@@ -1,11 +1,26 @@
 #include "pickers/VBarPropertySheet.h"
 
 #include "bartext/AnalyseBarComment.h"
-#include "pickers/VBarTemplate.h"
+#include "pickers/private/ItemBinding.h"
+#include "pickers/private/VBarTemplate.h"
 #include "platform/windows/DataExchange.h"
 
 using namespace VBarTemplate;
 using namespace ItemBinding;
+
+namespace {
+
+Column GradeColumn(CVBarPropertySheet& picker)
+{
+    return {picker.m_GradeList, picker.m_GradeEdit, picker.m_arrGrade};
+}
+
+Column DiameterColumn(CVBarPropertySheet& picker)
+{
+    return {picker.m_DiameterList, picker.m_DiameterEdit, picker.m_arrDiameter};
+}
+
+}  // namespace
 
 BEGIN_MESSAGE_MAP(CVBarPropertySheet, CDialog)
 ON_WM_RBUTTONDOWN()
@@ -34,10 +49,8 @@ void CVBarPropertySheet::DoDataExchange(CDataExchange* pDX)
 BOOL CVBarPropertySheet::OnInitDialog()
 {
     CDialog::OnInitDialog();
-    m_GradeEdit.SetWindowText(m_arrGrade[0]);
-    m_DiameterEdit.SetWindowText(m_arrDiameter[0]);
-    Fill(m_GradeList, m_arrGrade);
-    Fill(m_DiameterList, m_arrDiameter);
+    Open(GradeColumn(*this));
+    Open(DiameterColumn(*this));
     return TRUE;
 }
 
@@ -47,25 +60,21 @@ void CVBarPropertySheet::UpdateValue()
         return;
     }
     const CString value = m_pItem->GetValue();
-    const CString grade = GradeIn(value);
-    if (!grade.IsEmpty()) {
-        m_GradeEdit.SetWindowText(grade);
-    }
+    const CString grade = ShowGradeIn(value, m_GradeEdit);
     int gradeNumber = 0;
     int diameter = 0;
     int tight = 0;
     int normal = 0;
     AnalyseBarComment(value, gradeNumber, diameter, tight, normal, nullptr);
-    CString diameterText;
-    diameterText.Format("%d", diameter);
+    const CString diameterText = DecimalText(diameter);
     m_DiameterEdit.SetWindowText(diameterText);
     SetSelectFlag(grade, diameterText);
 }
 
 void CVBarPropertySheet::SetSelectFlag(CString strGrade, CString strDiameter)
 {
-    Select(m_GradeList, m_arrGrade, strGrade);
-    Select(m_DiameterList, m_arrDiameter, strDiameter);
+    Select(GradeColumn(*this), strGrade);
+    Select(DiameterColumn(*this), strDiameter);
 }
 
 void CVBarPropertySheet::OnRButtonDown(UINT /*nFlags*/, CPoint /*point*/)
@@ -86,17 +95,13 @@ void CVBarPropertySheet::OnSelchangeListVbarGrade()
     if (row < 0 || row >= m_arrGrade.GetSize()) {
         return;
     }
-    m_GradeEdit.SetWindowText(m_arrGrade[row]);
+    TakeRow(GradeColumn(*this));
     if (row == 0) {
         SetRows(m_arrDiameter, PlainRows);
     } else {
         SetRows(m_arrDiameter, RibbedRows);
     }
-    m_DiameterEdit.SetWindowText(m_arrDiameter[0]);
-    Fill(m_DiameterList, m_arrDiameter);
+    Open(DiameterColumn(*this));
 }
 
-void CVBarPropertySheet::OnSelchangeListVbarDiameter()
-{
-    TakeRow(m_DiameterList, m_arrDiameter, m_DiameterEdit);
-}
+void CVBarPropertySheet::OnSelchangeListVbarDiameter() { TakeRow(DiameterColumn(*this)); }

@@ -1,9 +1,13 @@
 // CVBarPropertySheet: the pop-up that sets a wall's vertical bars, such as "B16".
 #pragma once
 
+#include <memory>
+
 #include "pickers/ColSpecControls.h"
-#include "pickers/ItemBinding.h"
+#include "platform/text/Arrays.h"
 #include "platform/windows/CDialog.h"
+
+class CPropertyGridItem;
 
 // The twin of the horizontal picker for grade and diameter alone. A click on a grade puts the diameters
 // of that grade on offer; a new picker offers rows of its own until then.
@@ -37,7 +41,7 @@ protected:
 private:
     void SetSelectFlag(CString strGrade, CString strDiameter);
 
-    ItemBinding::Life m_life;
+    std::shared_ptr<const int> m_life = std::make_shared<const int>(0);  // ends with the picker
 
     DECLARE_MESSAGE_MAP()
 };
