@@ -15,9 +15,9 @@ add_library(RankerModule SHARED
   panels/BeamSteelDlgEdit.cpp
   panels/BeamSteelDlgLists.cpp
   panels/LevelText.cpp
-  panels/ListRows.cpp
+  panels/private/ListRows.cpp
   panels/NameText.cpp
-  panels/PanelFrame.cpp
+  panels/private/PanelFrame.cpp
   panels/SectionText.cpp
   pickers/ColSpecControls.cpp
   pickers/HBarPropertySheet.cpp

@@ -2,8 +2,9 @@
 #include "panels/BeamGujinDlg.h"
 
 #include "host/StirrupText.h"
-#include "panels/BeamGujinTemplate.h"
-#include "panels/ListRows.h"
+#include "panels/private/BeamGujinTemplate.h"
+#include "panels/private/ListRows.h"
+#include "panels/private/PanelFrame.h"
 #include "platform/windows/DataExchange.h"
 
 using namespace BeamGujinTemplate;
@@ -181,42 +182,22 @@ void CBeamGujinDlg::CoordinateEditWithList()
 
 void CBeamGujinDlg::TestMoveWnd(CPoint point)
 {
-    PanelFrame::MoveBy(*this, point.x - m_nDownX, point.y - m_nDownY);
+    PanelFrame::Move(*this, CPoint(m_nDownX, m_nDownY), point);
 }
 
-void CBeamGujinDlg::TranslateMessage(MSG* pMsg)
-{
-    if (pMsg->message == WM_RBUTTONDOWN) {
-        SendMessage(WM_RBUTTONDOWN);
-    }
-}
+void CBeamGujinDlg::TranslateMessage(MSG* pMsg) { PanelFrame::ForwardRightPress(*this, *pMsg); }
 
 BOOL CBeamGujinDlg::PreTranslateMessage(MSG* pMsg)
 {
-    const HWND hWnd = m_hWnd;
-    const bool bOwnPress = PanelFrame::IsOwnRightPress(*pMsg, hWnd);
-    m_drag.Follow(*this, *pMsg);
-    if (PanelFrame::IsEsc(*pMsg)) {
-        ShowWindow(SW_HIDE);
-        return TRUE;
-    }
-    TranslateMessage(pMsg);
-    if (!IsWindow(hWnd)) {
-        return FALSE;
-    }
-    return bOwnPress ? TRUE : CDialog::PreTranslateMessage(pMsg);
+    PanelFrame::Follow(*this, m_bPressed, *pMsg);
+    return PanelFrame::Translate(*this, pMsg, [&] { TranslateMessage(pMsg); });
 }
 
 void CBeamGujinDlg::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    const HWND hWnd = m_hWnd;
-    ShowWindow(SW_HIDE);
-    if (m_strResult.IsEmpty()) {
-        return;
-    }
-    PanelFrame::Deliver(*this, {m_bToItem, m_pItem, m_bInParent, m_pHostData, HostMode, StirrupCode},
-                        m_strResult);
-    if (IsWindow(hWnd)) {
+    const auto finish = [this] { return !m_strResult.IsEmpty(); };
+    if (PanelFrame::ConfirmResult(
+            *this, {m_bToItem, m_pItem, m_bInParent, m_pHostData, HostMode, StirrupCode}, finish)) {
         CDialog::OnRButtonDown(nFlags, point);
     }
 }

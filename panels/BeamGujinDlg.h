@@ -2,9 +2,10 @@
 #pragma once
 
 #include "host/Export.h"
-#include "panels/PanelFrame.h"
 #include "platform/windows/CDialog.h"
 #include "platform/windows/CListBox.h"
+
+class CPropertyGridItem;
 
 // The six fields of the annotation stand side by side, each as an edit box over a list. A click in a
 // list composes from the lists and rewrites the boxes; a keystroke moves the lists and composes from the
@@ -78,7 +79,7 @@ protected:
     void DoDataExchange(CDataExchange* pDX) override;
 
 private:
-    PanelFrame::Drag m_drag;
+    bool m_bPressed = false;  // a left press has been seen
 
     DECLARE_MESSAGE_MAP()
 };

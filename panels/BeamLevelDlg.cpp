@@ -1,8 +1,9 @@
 // The elevation panel: its keys, its one box and its confirmation.
 #include "panels/BeamLevelDlg.h"
 
-#include "panels/BeamLevelTemplate.h"
 #include "panels/LevelText.h"
+#include "panels/private/BeamLevelTemplate.h"
+#include "panels/private/PanelFrame.h"
 #include "platform/windows/DataExchange.h"
 
 using namespace BeamLevelTemplate;
@@ -66,42 +67,24 @@ void CBeamLevelDlg::ShowResult()
 
 void CBeamLevelDlg::TestMoveWnd(CPoint point)
 {
-    PanelFrame::MoveBy(*this, point.x - m_nDownX, point.y - m_nDownY);
+    PanelFrame::Move(*this, CPoint(m_nDownX, m_nDownY), point);
 }
 
 BOOL CBeamLevelDlg::PreTranslateMessage(MSG* pMsg)
 {
-    const HWND hWnd = m_hWnd;
-    const bool bOwnPress = PanelFrame::IsOwnRightPress(*pMsg, hWnd);
-    if (pMsg->message == WM_RBUTTONDOWN) {
-        OnRButtonDown(0, pMsg->pt);
-        if (!IsWindow(hWnd)) {
-            return FALSE;
-        }
-    }
-    m_drag.Follow(*this, *pMsg);
-    if (PanelFrame::IsEsc(*pMsg)) {
-        ShowWindow(SW_HIDE);
-        return TRUE;
-    }
-    if (!IsWindow(hWnd)) {
-        return FALSE;
-    }
-    return bOwnPress ? TRUE : CDialog::PreTranslateMessage(pMsg);
+    PanelFrame::Follow(*this, m_bPressed, *pMsg);
+    return PanelFrame::Translate(*this, pMsg, [&] { OnRButtonDown(0, pMsg->pt); });
 }
 
 void CBeamLevelDlg::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    const HWND hWnd = m_hWnd;
-    ShowWindow(SW_HIDE);
-    UpdateData(TRUE);
-    m_strResult = m_strEditText;
-    if (m_strResult.IsEmpty()) {
-        return;
-    }
-    PanelFrame::Deliver(*this, {m_bToItem, m_pItem, m_bInParent, m_pHostData, HostMode, LevelCode},
-                        m_strResult);
-    if (IsWindow(hWnd)) {
+    const auto finish = [this] {
+        UpdateData(TRUE);
+        m_strResult = m_strEditText;
+        return !m_strResult.IsEmpty();
+    };
+    if (PanelFrame::ConfirmResult(
+            *this, {m_bToItem, m_pItem, m_bInParent, m_pHostData, HostMode, LevelCode}, finish)) {
         CDialog::OnRButtonDown(nFlags, point);
     }
 }

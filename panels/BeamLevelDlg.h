@@ -2,9 +2,10 @@
 #pragma once
 
 #include "host/Export.h"
-#include "panels/PanelFrame.h"
 #include "platform/windows/CDialog.h"
 #include "platform/windows/CEdit.h"
+
+class CPropertyGridItem;
 
 // The keys work on m_strResult and write it over the box; the box counts at the confirmation, so that a
 // text typed last is delivered. A right press confirms, Esc dismisses, and the panel hides in both cases.
@@ -60,7 +61,7 @@ protected:
 private:
     void ShowResult();
 
-    PanelFrame::Drag m_drag;
+    bool m_bPressed = false;  // a left press has been seen
 
     DECLARE_MESSAGE_MAP()
 };

@@ -1,11 +1,13 @@
 // The beam name panel: moves texts between the name, the boxes and the lists.
 #include "panels/BeamNameDlg.h"
 
-#include "panels/BeamNameTemplate.h"
-#include "panels/ListRows.h"
 #include "panels/NameText.h"
+#include "panels/private/BeamNameTemplate.h"
+#include "panels/private/ListRows.h"
+#include "panels/private/PanelFrame.h"
 #include "platform/windows/DataExchange.h"
 #include "platform/windows/MessageBox.h"
+#include "platform/windows/WindowRecord.h"
 
 using namespace BeamNameTemplate;
 using ListRows::FieldOf;
@@ -15,7 +17,6 @@ using ListRows::SelectedText;
 namespace {
 
 constexpr int NameCode = 8;
-constexpr int RowHeight = 12;  // pixels, of a list with the template's font
 
 // The panel or its window may be gone when the message has been answered.
 void SayNoSpan() { AfxMessageBox(GbkLabel<u8"跨数有误">()); }
@@ -134,10 +135,7 @@ void CBeamNameDlg::CoordinateListWithEdit()
     UpdateData(FALSE);
 }
 
-void CBeamNameDlg::TestMoveWnd(CPoint point)
-{
-    PanelFrame::MoveBy(*this, point.x - m_nDownX, point.y - m_nDownY);
-}
+void CBeamNameDlg::TestMoveWnd(CPoint point) { PanelFrame::Move(*this, CPoint(m_nDownX, m_nDownY), point); }
 
 void CBeamNameDlg::TranslateMessage(MSG* /*pMsg*/) {}
 
@@ -162,36 +160,20 @@ bool CBeamNameDlg::PressDigit(const CListBox& list, CString& strNumber, const MS
 
 BOOL CBeamNameDlg::PreTranslateMessage(MSG* pMsg)
 {
-    const HWND hWnd = m_hWnd;
-    const bool bOwnPress = PanelFrame::IsOwnRightPress(*pMsg, hWnd);
-    m_drag.Follow(*this, *pMsg);
+    PanelFrame::Follow(*this, m_bPressed, *pMsg);
     if (pMsg->message == WM_LBUTTONDOWN || pMsg->message == WM_LBUTTONDBLCLK) {
         if (!PressDigit(m_KuaList, m_strKua, *pMsg) || !PressDigit(m_XuList, m_strXu, *pMsg)) {
             return FALSE;
         }
     }
-    if (PanelFrame::IsEsc(*pMsg)) {
-        ShowWindow(SW_HIDE);
-        return TRUE;
-    }
-    if (pMsg->message == WM_RBUTTONDOWN) {
-        SendMessage(WM_RBUTTONDOWN);
-    }
-    if (!IsWindow(hWnd)) {
-        return FALSE;
-    }
-    return bOwnPress ? TRUE : CDialog::PreTranslateMessage(pMsg);
+    return PanelFrame::Translate(*this, pMsg, [this] { SendMessage(WM_RBUTTONDOWN); });
 }
 
 void CBeamNameDlg::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    const HWND hWnd = m_hWnd;
-    ShowWindow(SW_HIDE);
-    if (!IntegrateNameFromEdit()) {
-        return;
-    }
-    PanelFrame::Deliver(*this, {.toItem = m_bToItem, .item = m_pItem, .code = NameCode}, m_strResult);
-    if (IsWindow(hWnd)) {
+    const auto finish = [this] { return IntegrateNameFromEdit(); };
+    if (PanelFrame::ConfirmResult(*this, {.toItem = m_bToItem, .item = m_pItem, .code = NameCode},
+                                  finish)) {
         CDialog::OnRButtonDown(nFlags, point);
     }
 }

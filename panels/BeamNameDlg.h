@@ -2,9 +2,10 @@
 #pragma once
 
 #include "host/Export.h"
-#include "panels/PanelFrame.h"
 #include "platform/windows/CDialog.h"
 #include "platform/windows/CListBox.h"
+
+class CPropertyGridItem;
 
 // What counts are the four edit boxes. Type and cantilever are also picked from lists; serial and span
 // count have lists of digits, where a click adds a digit and a double click replaces the number. A right
@@ -69,7 +70,7 @@ protected:
 private:
     bool PressDigit(const CListBox& list, CString& strNumber, const MSG& msg);
 
-    PanelFrame::Drag m_drag;
+    bool m_bPressed = false;  // a left press has been seen
 
     DECLARE_MESSAGE_MAP()
 };

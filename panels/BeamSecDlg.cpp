@@ -1,9 +1,10 @@
 // The section panel: moves texts between the section, the boxes and the lists.
 #include "panels/BeamSecDlg.h"
 
-#include "panels/BeamSecTemplate.h"
-#include "panels/ListRows.h"
 #include "panels/SectionText.h"
+#include "panels/private/BeamSecTemplate.h"
+#include "panels/private/ListRows.h"
+#include "panels/private/PanelFrame.h"
 #include "platform/text/Numbers.h"
 #include "platform/windows/DataExchange.h"
 
@@ -105,48 +106,26 @@ void CBeamSecDlg::CoordinateListWithEdit()
     ListRows::SelectNumber(m_HeightList, NumberValue(m_strHeight.View()));
 }
 
-void CBeamSecDlg::TestMoveWnd(CPoint point)
-{
-    PanelFrame::MoveBy(*this, point.x - m_nDownX, point.y - m_nDownY);
-}
+void CBeamSecDlg::TestMoveWnd(CPoint point) { PanelFrame::Move(*this, CPoint(m_nDownX, m_nDownY), point); }
 
-void CBeamSecDlg::TranslateMessage(MSG* pMsg)
-{
-    if (pMsg->message == WM_RBUTTONDOWN) {
-        SendMessage(WM_RBUTTONDOWN);
-    }
-}
+void CBeamSecDlg::TranslateMessage(MSG* pMsg) { PanelFrame::ForwardRightPress(*this, *pMsg); }
 
 BOOL CBeamSecDlg::PreTranslateMessage(MSG* pMsg)
 {
-    const HWND hWnd = m_hWnd;
-    const bool bOwnPress = PanelFrame::IsOwnRightPress(*pMsg, hWnd);
-    m_drag.Follow(*this, *pMsg);
+    PanelFrame::Follow(*this, m_bPressed, *pMsg);
     if (pMsg->message == WM_LBUTTONDBLCLK) {
+        const HWND hWnd = m_hWnd;
         OnRButtonDown(0, pMsg->pt);
         return IsWindow(hWnd);
     }
-    if (PanelFrame::IsEsc(*pMsg)) {
-        ShowWindow(SW_HIDE);
-        return TRUE;
-    }
-    TranslateMessage(pMsg);
-    if (!IsWindow(hWnd)) {
-        return FALSE;
-    }
-    return bOwnPress ? TRUE : CDialog::PreTranslateMessage(pMsg);
+    return PanelFrame::Translate(*this, pMsg, [&] { TranslateMessage(pMsg); });
 }
 
 void CBeamSecDlg::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    const HWND hWnd = m_hWnd;
-    ShowWindow(SW_HIDE);
-    if (m_strResult.IsEmpty()) {
-        return;
-    }
-    PanelFrame::Deliver(*this, {m_bToItem, m_pItem, m_bInParent, m_pHostData, HostMode, SectionCode},
-                        m_strResult);
-    if (IsWindow(hWnd)) {
+    const auto finish = [this] { return !m_strResult.IsEmpty(); };
+    if (PanelFrame::ConfirmResult(
+            *this, {m_bToItem, m_pItem, m_bInParent, m_pHostData, HostMode, SectionCode}, finish)) {
         CDialog::OnRButtonDown(nFlags, point);
     }
 }

@@ -2,9 +2,10 @@
 #pragma once
 
 #include "host/Export.h"
-#include "panels/PanelFrame.h"
 #include "platform/windows/CDialog.h"
 #include "platform/windows/CListBox.h"
+
+class CPropertyGridItem;
 
 // Width and height are picked from lists or typed; the two ways keep each other in step. A right press
 // or a double click confirms, Esc dismisses, and the panel hides in both cases.
@@ -61,7 +62,7 @@ protected:
     void DoDataExchange(CDataExchange* pDX) override;
 
 private:
-    PanelFrame::Drag m_drag;
+    bool m_bPressed = false;  // a left press has been seen
 
     DECLARE_MESSAGE_MAP()
 };

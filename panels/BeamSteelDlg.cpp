@@ -1,10 +1,11 @@
 // The bar panel as a window: controls, start state, events, and what goes back at a confirmation.
 #include "panels/BeamSteelDlg.h"
 
-#include "host/HostLink.h"
+#include "host/private/AskHost.h"
 #include "panels/BarPiece.h"
-#include "panels/BeamSteelTemplate.h"
-#include "panels/ListRows.h"
+#include "panels/private/BeamSteelTemplate.h"
+#include "panels/private/ListRows.h"
+#include "panels/private/PanelFrame.h"
 #include "platform/windows/DataExchange.h"
 
 using namespace BeamSteelTemplate;
@@ -108,30 +109,15 @@ void CBeamSteelDlg::WashToScratch()
 
 void CBeamSteelDlg::TestMoveWnd(CPoint point)
 {
-    PanelFrame::MoveBy(*this, point.x - m_nDownX, point.y - m_nDownY);
+    PanelFrame::Move(*this, CPoint(m_nDownX, m_nDownY), point);
 }
 
-void CBeamSteelDlg::TranslateMessage(MSG* pMsg)
-{
-    if (pMsg->message == WM_RBUTTONDOWN) {
-        SendMessage(WM_RBUTTONDOWN, 0, 0);
-    }
-}
+void CBeamSteelDlg::TranslateMessage(MSG* pMsg) { PanelFrame::ForwardRightPress(*this, *pMsg); }
 
 BOOL CBeamSteelDlg::PreTranslateMessage(MSG* pMsg)
 {
-    const HWND window = m_hWnd;
-    const bool ownPress = PanelFrame::IsOwnRightPress(*pMsg, window);
-    if (PanelFrame::IsEsc(*pMsg)) {
-        ShowWindow(SW_HIDE);
-        return TRUE;
-    }
-    m_drag.Follow(*this, *pMsg);
-    TranslateMessage(pMsg);
-    if (!IsWindow(window)) {
-        return FALSE;  // the receiver of a confirmed text took the window away, and maybe the panel
-    }
-    return ownPress ? TRUE : CDialog::PreTranslateMessage(pMsg);
+    PanelFrame::Follow(*this, m_bPressed, *pMsg);
+    return PanelFrame::Translate(*this, pMsg, [&] { TranslateMessage(pMsg); });
 }
 
 void CBeamSteelDlg::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
@@ -141,20 +127,24 @@ void CBeamSteelDlg::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
 
 void CBeamSteelDlg::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    const HWND window = m_hWnd;
-    ShowWindow(SW_HIDE);
+    if (PanelFrame::Confirm(*this, [this] { return DeliverTexts(); })) {
+        CDialog::OnRButtonDown(nFlags, point);
+    }
+}
+
+// False when there is no row to deliver.
+bool CBeamSteelDlg::DeliverTexts()
+{
     if (m_bToItem) {
         ConfirmToItem();
     } else if (m_PosList.GetCount() <= 0) {
-        return;  // no row to join
+        return false;
     } else if (m_bInParent) {
         ConfirmToParent();
     } else {
         ConfirmToHostData();
     }
-    if (IsWindow(window)) {
-        CDialog::OnRButtonDown(nFlags, point);
-    }
+    return true;
 }
 
 // The stored texts lose their ends here and no longer equal their pieces: Init comes next.

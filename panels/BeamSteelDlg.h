@@ -5,9 +5,10 @@
 
 #include "host/Export.h"
 #include "panels/BarGroup.h"
-#include "panels/PanelFrame.h"
 #include "platform/windows/CDialog.h"
 #include "platform/windows/CListBox.h"
+
+class CPropertyGridItem;
 
 // An annotation has up to five groups, each a text cut into pieces ("2B22", "+2B25;"). One list along
 // the foot (the Pos list) shows the pieces of all groups, each on a row of its own; the column lists
@@ -113,12 +114,13 @@ private:
     [[nodiscard]] int FindRow(int nGroup, int nPos) const;
     [[nodiscard]] bool IsPiece(int nType, int nPos) const;
     void ClearRowTables();
+    bool DeliverTexts();
     void ConfirmToItem();
     void ConfirmToParent();
     void ConfirmToHostData();
     void StripGroups(std::initializer_list<int> groups);
 
-    PanelFrame::Drag m_drag;
+    bool m_bPressed = false;  // a left press has been seen
 
     DECLARE_MESSAGE_MAP()
 };

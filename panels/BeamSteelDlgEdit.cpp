@@ -5,7 +5,7 @@
 #include "host/BarText.h"
 #include "panels/BarPiece.h"
 #include "panels/BeamSteelDlg.h"
-#include "panels/ListRows.h"
+#include "panels/private/ListRows.h"
 
 using ListRows::SelectedText;
 

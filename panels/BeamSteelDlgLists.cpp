@@ -1,7 +1,7 @@
 // The bar panel's lists: set from a stored piece, and what a click outside the column lists opens.
 #include "panels/BarPiece.h"
 #include "panels/BeamSteelDlg.h"
-#include "panels/BeamSteelTemplate.h"
+#include "panels/private/BeamSteelTemplate.h"
 
 using namespace BeamSteelTemplate;
 

@@ -9,7 +9,7 @@ CString Between(const CString& text, int left, int right) { return text.Mid(left
 
 }  // namespace
 
-bool Decompose(const CString& name, Fields& fields)
+bool Decompose(CString name, Fields& fields)
 {
     const int typeEnd = name.ReverseFind('L');
     if (typeEnd < 0) {
@@ -37,14 +37,10 @@ bool Decompose(const CString& name, Fields& fields)
 
 bool Compose(const Fields& fields, CString& name)
 {
-    name = fields.type + fields.serial;
     const bool hasSpan = !fields.span.IsEmpty() && fields.span != "0";
-    if (hasSpan) {
-        name += "(" + fields.span + fields.cantilever + ")";
-    } else if (!fields.cantilever.IsEmpty()) {
-        name += "(" + fields.cantilever + ")";
-    }
-    return hasSpan || !fields.cantilever.IsEmpty();
+    const CString inBrackets = (hasSpan ? fields.span : CString()) + fields.cantilever;
+    name = fields.type + fields.serial + (inBrackets.IsEmpty() ? CString() : "(" + inBrackets + ")");
+    return !inBrackets.IsEmpty();
 }
 
 CString DigitOfRow(int row) { return row >= 0 && row <= 9 ? CString("1234567890").Mid(row, 1) : CString(); }

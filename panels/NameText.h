@@ -18,7 +18,8 @@ struct Fields {
 
 // Cuts a name into the fields. False, with nothing changed, when it holds no "L". A name without "(" or
 // without ")" leaves span and cantilever as they were. Pieces that stand the wrong way round are empty.
-RANKER_API bool Decompose(const CString& name, Fields& fields);
+// Here and in Compose the name can be one of the fields.
+RANKER_API bool Decompose(CString name, Fields& fields);
 
 // Writes type and serial, and behind them the bracket with span and cantilever. False when there is
 // neither a span nor a cantilever, which is no complete name: then type and serial stand alone.

@@ -21,18 +21,19 @@ bool Decompose(CString& text, Fields& fields)
     }
     CutFrom(text, ' ');
     CutFrom(text, '/');
-    int sign = text.Find('x');
+    const CString section = text;  // the text can be one of the fields
+    int sign = section.Find('x');
     if (sign < 0) {
-        sign = text.Find('X');
+        sign = section.Find('X');
         if (sign < 0) {
-            sign = text.Find('*');
+            sign = section.Find('*');
             fields.separator = "*";
         } else {
             fields.separator = "X";
         }
     }
-    fields.width = text.Left(sign);
-    fields.height = text.Mid(sign + 1);
+    fields.width = section.Left(sign);
+    fields.height = section.Mid(sign + 1);
     return true;
 }
 

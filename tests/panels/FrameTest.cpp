@@ -1,6 +1,8 @@
 // What all panels share: dragging, confirming, dismissing, and receivers that change everything meanwhile.
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "tests/panels/Panels.h"
 #include "tests/support/FakeHost.h"
 
@@ -29,6 +31,26 @@ TYPED_TEST(PanelFrameTest, RightPressAnywhereHidesAndDeliversOnce)
     EXPECT_TRUE(stage.hands.RightClick(stage.BareSurface()));
     EXPECT_EQ(stage.receiver.m_items, Texts{TypeParam::Text});
     EXPECT_TRUE(stage.receiver.m_calls.empty());
+}
+
+// What takes no input leaves a press to the panel, which has had this one already.
+TYPED_TEST(PanelFrameTest, ReceiverDisablesOrHidesWhatWasPressed)
+{
+    Stage<TypeParam> stage;
+    CWnd* control = stage.panel->GetTopWindow();
+    for (; control != nullptr; control = control->GetNextWindow()) {
+        for (const bool hides : {true, false}) {
+            stage.receiver.m_answer = [&] {
+                hides ? control->ShowWindow(SW_HIDE) : control->EnableWindow(FALSE);
+            };
+            stage.Show(TypeParam::Text);
+            stage.hands.RightClick(Hands::MiddleOf(*control));
+            EXPECT_EQ(stage.receiver.Count(), 1U) << control->GetDlgCtrlID() << hides;
+            stage.receiver.Forget();
+            control->ShowWindow(SW_SHOW);
+            control->EnableWindow();
+        }
+    }
 }
 
 TYPED_TEST(PanelFrameTest, GoesToParentHostDataOrNobody)
@@ -137,6 +159,15 @@ TYPED_TEST(PanelFrameTest, DragsByPressAndReleaseAnywhere)
     stage.hands.Click(*stage.panel, TypeParam::Edit);
     EXPECT_EQ(stage.Place().left, start.left - 170);
     EXPECT_EQ(stage.receiver.Count(), 0U);
+
+    // Positions that no screen has: the panel goes as far as a window can.
+    constexpr int Lowest = std::numeric_limits<int>::min();
+    constexpr int Highest = std::numeric_limits<int>::max();
+    Hands::Send({window, WM_LBUTTONDOWN, 0, 0, 0, {Lowest, Highest}});
+    Hands::Send({window, WM_LBUTTONUP, 0, 0, 0, {Highest, Lowest}});
+    EXPECT_EQ(stage.Place().TopLeft(), CPoint(1 << 28, -(1 << 28)));
+    EXPECT_EQ(stage.Place().Width(), start.Width());
+    EXPECT_EQ(stage.panel->m_nDownX, Lowest);
 }
 
 TYPED_TEST(PanelFrameTest, ReceiverDestroysTheWindowOrThePanel)

@@ -53,6 +53,12 @@ TEST(NameText, DecomposesWhatItReaches)
         EXPECT_EQ(NameText::Decompose(c.name, fields), c.reads) << c.name;
         EXPECT_EQ(fields, c.fields) << c.name;
     }
+    for (CString NameText::Fields::*const field : {&NameText::Fields::type, &NameText::Fields::serial}) {
+        NameText::Fields fields = untouched;
+        fields.*field = "KL3(2A)";
+        NameText::Decompose(fields.*field, fields);
+        EXPECT_EQ(fields, (NameText::Fields{"KL", "3", "2", "A"}));
+    }
 }
 
 TEST(NameText, ComposesAndSaysWhetherTheNameIsWhole)
@@ -73,6 +79,9 @@ TEST(NameText, ComposesAndSaysWhetherTheNameIsWhole)
         EXPECT_EQ(NameText::Compose(c.fields, name), c.whole) << c.name;
         EXPECT_EQ(name, c.name);
     }
+    NameText::Fields fields{"KL", "3", "2", "A"};
+    NameText::Compose(fields, fields.span);
+    EXPECT_EQ(fields.span, "KL3(2A)");
 }
 
 TEST(SectionText, DecomposesAndCutsTheTail)
@@ -102,6 +111,9 @@ TEST(SectionText, DecomposesAndCutsTheTail)
         EXPECT_EQ(text, c.cut);
         EXPECT_EQ(fields, c.fields) << c.text;
     }
+    SectionText::Fields own{"s", "300x600 Y500x250", "h"};
+    SectionText::Decompose(own.width, own);
+    EXPECT_EQ(own, (SectionText::Fields{"s", "300", "600"}));
     CString empty;
     SectionText::Fields fields{"s", "w", "h"};
     EXPECT_FALSE(SectionText::Decompose(empty, fields));

@@ -5,7 +5,7 @@
 #include <memory>
 #include <ostream>
 
-#include "panels/BeamSteelTemplate.h"
+#include "panels/private/BeamSteelTemplate.h"
 #include "tests/panels/Receiver.h"
 #include "tests/panels/steel/SteelModel.h"
 #include "tests/support/Hands.h"

@@ -303,6 +303,17 @@ TEST(SteelPanel, ReceiverMayTakeTheWindowOrThePanelAway)
     EXPECT_TRUE(panel->Seen().rows.empty());
 }
 
+TEST(SteelPanel, ReceiverDisablesWhatWasPressed)
+{
+    SteelPanel panel(-1);
+    panel.Compose(Two, D12);
+    panel.m_receiver.m_answer = [&panel] {
+        panel.m_dlg->GetDlgItem(BeamSteelTemplate::SepList)->EnableWindow(FALSE);
+    };
+    EXPECT_TRUE(panel.Confirm());
+    EXPECT_EQ(panel.Sent(), Texts{"parent 1 20 2B12 "});
+}
+
 void CallEverything(CBeamSteelDlg& dlg, int odd)
 {
     dlg.ModiPieceSteel();

@@ -1,5 +1,5 @@
 // Filling lists and finding rows.
-#include "panels/ListRows.h"
+#include "panels/private/ListRows.h"
 
 #include "platform/text/Gbk.h"
 #include "platform/text/Numbers.h"

@@ -1,29 +1,37 @@
 // Moving panels and delivering what they confirm.
-#include "panels/PanelFrame.h"
+#include "panels/private/PanelFrame.h"
 
 #include "griditem/PropertyGridItem.h"
-#include "host/HostLink.h"
+#include "host/private/AskHost.h"
 #include "platform/windows/CStatic.h"
 
 namespace PanelFrame {
 
-void MoveBy(CWnd& panel, int x, int y)
+void Move(CWnd& panel, CPoint from, CPoint to)
 {
+    from = Clamped(from);
+    to = Clamped(to);
     CRect rect;
     panel.GetWindowRect(&rect);
-    panel.MoveWindow(rect.left + x, rect.top + y, rect.Width(), rect.Height(), TRUE);
+    panel.MoveWindow(rect.left + to.x - from.x, rect.top + to.y - from.y, rect.Width(), rect.Height(),
+                     TRUE);
 }
 
-bool IsEsc(const MSG& msg) { return msg.message == WM_KEYDOWN && msg.wParam == VK_ESCAPE; }
-
-bool IsOwnRightPress(const MSG& msg, HWND hWnd)
+bool IsOwnRightPress(const MSG& msg, HWND hPanel)
 {
-    if (msg.message != WM_RBUTTONDOWN || msg.hwnd == hWnd) {
+    if (msg.message != WM_RBUTTONDOWN || msg.hwnd == hPanel) {
         return msg.message == WM_RBUTTONDOWN;
     }
     const CWnd* const target = CWnd::FromHandle(msg.hwnd);
     return target != nullptr &&
            (target->IsWindowEnabled() == FALSE || dynamic_cast<const CStatic*>(target) != nullptr);
+}
+
+void ForwardRightPress(CWnd& panel, const MSG& msg)
+{
+    if (msg.message == WM_RBUTTONDOWN) {
+        panel.SendMessage(WM_RBUTTONDOWN);
+    }
 }
 
 void Deliver(const CWnd& panel, const Route& route, CString strText)
