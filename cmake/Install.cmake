@@ -22,7 +22,7 @@ install(TARGETS platform griditem bartext RankerModule EXPORT RankerModule
 install(FILES RankerModule.h DESTINATION ${headers_dir} COMPONENT module)
 foreach(room platform griditem bartext host tables rankers panels pickers geometry)
   install(DIRECTORY ${room} DESTINATION ${headers_dir} COMPONENT module FILES_MATCHING PATTERN "*.h"
-          PATTERN "AppState.h" EXCLUDE PATTERN "WindowLayer.h" EXCLUDE PATTERN "WindowTable.h" EXCLUDE)
+          PATTERN "private" EXCLUDE)
 endforeach()
 
 install(EXPORT RankerModule NAMESPACE RankerModule:: FILE RankerModuleTargets.cmake

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "host/Export.h"
-#include "host/private/AskHost.h"
 #include "platform/text/Arrays.h"
 #include "platform/text/CString.h"
 
