@@ -68,16 +68,10 @@ void Reset(HWND hList)
 
 int Select(HWND hList, int nRow)
 {
-    Window* list = FindList(hList);
+    ScrollTo(hList, nRow);
+    Window* const list = FindList(hList);
     if (list == nullptr || (nRow != -1 && !list->HasRow(nRow))) {
         return LB_ERR;
-    }
-    if (nRow != -1) {
-        ScrollTo(hList, nRow);
-    }
-    list = FindList(hList);
-    if (list == nullptr) {
-        return LB_ERR;  // the display took it away
     }
     list->list.selection = nRow;
     WindowLayer::Tell(hList, WindowChange::Selection);
@@ -109,7 +103,7 @@ void SetColumnWidth(HWND hList, int nWidth)
 void ScrollTo(HWND hList, int nRow)
 {
     const Window* const list = FindList(hList);
-    if (list == nullptr) {
+    if (list == nullptr || !list->HasRow(nRow)) {
         return;
     }
     const int inView = list->RowsInView();

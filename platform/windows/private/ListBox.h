@@ -15,7 +15,7 @@ int Select(HWND hList, int nRow);
 int SetTop(HWND hList, int nRow);
 void SetColumnWidth(HWND hList, int nWidth);
 
-// Scrolls as little as it takes to show a row whole.
+// Scrolls as little as it takes to show a row whole; nothing for a row that does not exist.
 void ScrollTo(HWND hList, int nRow);
 
 }  // namespace ListBox
