@@ -1,4 +1,5 @@
 #include "desk/window/Shots.h"
+#include "desk/project/Encoding.h"
 
 #include <iostream>
 
@@ -97,7 +98,7 @@ void TakeShots(const std::string& folder, const ShotOptions& options)
     char* arguments[] = {name, nullptr};
     QApplication application(count, arguments);
     QCoreApplication::setApplicationName(QStringLiteral("beamdesk"));
-    QtDisplay display;
+    QtDisplay display{{Utf8FromGbk, GbkFromUtf8}};
     MainWindow window(display);
     window.SetAppearance(options.dark ? Appearance::Dark : Appearance::Light);
     window.SetLanguage(options.chinese ? Language::Chinese : Language::English);

@@ -1,4 +1,5 @@
 #include "desk/window/Window.h"
+#include "desk/project/Encoding.h"
 
 #include <cstdlib>
 
@@ -35,7 +36,7 @@ int RunWindow(const char* project, const char* report)
     QApplication application(count, arguments);
     QCoreApplication::setApplicationName(QStringLiteral("beamdesk"));
     QCoreApplication::setOrganizationName(QStringLiteral("beamdesk"));
-    QtDisplay display;
+    QtDisplay display{{Utf8FromGbk, GbkFromUtf8}};
     MainWindow window(display);
     window.show();
     const QString file = QString::fromUtf8(project);
