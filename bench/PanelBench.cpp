@@ -2,7 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include "RankerModule.h"
-#include "tests/support/Hands.h"
+#include "platform/windows/Hands.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "RankerModule.h"
-#include "tests/support/Hands.h"
+#include "platform/windows/Hands.h"
 
 namespace {
 

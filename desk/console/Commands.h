@@ -3,6 +3,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <string>
 
 namespace CLI {
 class App;
@@ -10,6 +11,7 @@ class App;
 
 namespace Desk {
 
+void AddTourCommand(CLI::App& program, std::ostream& out);
 void AddRankCommand(CLI::App& program, std::ostream& out);
 void AddTableCommand(CLI::App& program, std::ostream& out);
 void AddImportCommand(CLI::App& program, std::ostream& out);
@@ -19,5 +21,9 @@ void AddEventsCommand(CLI::App& program, std::ostream& out);
 void AddGenerateCommand(CLI::App& program, std::ostream& out);
 void AddWindowCommand(CLI::App& program);
 void AddShotCommand(CLI::App& program);
+
+// What the tour command prints. An empty file name stands for the sample, an empty beam name for the beam
+// with the most annotations.
+void PrintTour(const std::string& projectFile, const std::string& beamName, std::ostream& out);
 
 }  // namespace Desk

@@ -1,4 +1,4 @@
-// The generate command: a large project into a file.
+// beamdesk generate: writes a large project.
 #include <filesystem>
 #include <memory>
 #include <ostream>
@@ -15,7 +15,7 @@ namespace Desk {
 
 namespace {
 
-constexpr int MaxBeams = 100'000;  // what a project file may hold
+constexpr int MaxBeams = 100'000;  // the most that a project file holds
 
 struct GenerateOptions {
     int beams = 0;
@@ -30,22 +30,22 @@ void AddGenerateCommand(CLI::App& program, std::ostream& out)
 {
     const auto options = std::make_shared<GenerateOptions>();
     CLI::App& command =
-        *program.add_subcommand("generate", "A large project that looks like a real one, to try things on");
-    command.add_option("beams", options->beams, "How many beams")
+        *program.add_subcommand("generate", "Write a large project that looks like a real one, for trials");
+    command.add_option("beams", options->beams, "Number of beams")
         ->type_name("N")
         ->required()
         ->check(Whole(1, MaxBeams));
-    command.add_option("--seed", options->seed, "Another number gives another project; 1 without it")
+    command.add_option("--seed", options->seed, "Each number gives another project. Default 1")
         ->type_name("N")
         ->check(Whole(0, 1'000'000'000));
-    command.add_option("-o,--output", options->output, "Project file to write; needed")
+    command.add_option("-o,--output", options->output, "Project file to write")
         ->type_name("FILE")
         ->required();
-    command.add_flag("--force", options->force, "Write over a file that stands there already");
+    command.add_flag("--force", options->force, "Replace an existing file");
     command.footer("Examples:\n  beamdesk generate 20000 --output tower.json");
     command.callback([options, &out] {
         if (!options->force && std::filesystem::exists(options->output)) {
-            throw Failure(options->output + " stands there already; --force writes over it");
+            throw Failure(options->output + " already exists; --force replaces it");
         }
         const Project project = GenerateProject(options->beams, static_cast<unsigned>(options->seed));
         SaveProject(project, options->output);

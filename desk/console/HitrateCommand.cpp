@@ -64,9 +64,8 @@ void PrintKind(std::ostream& out, const KindTally& kind)
 void PrintTable(std::ostream& out, const std::string& title, const std::vector<KindTally>& kinds)
 {
     out << title << '\n'
-        << "How often each text stood at which place of the list made from the others; a name: from the "
-           "names "
-           "before it.\n\n"
+        << "The place of each text in the list made from the other texts; of a name, from the names before "
+           "it.\n\n"
         << PadRight("kind", 14) << PadLeft("uses", 6) << "  " << PadRight("order", 13);
     for (const Column& column : Columns) {
         out << PadLeft(column.head, CountWidth + PercentWidth);
@@ -87,7 +86,7 @@ void PrintTable(std::ostream& out, const std::string& title, const std::vector<K
     PrintKind(out, sum);
 }
 
-Json Told(const Tally& tally)
+Json JsonOf(const Tally& tally)
 {
     return Json{{"place1", tally.first},
                 {"within3", tally.within3},
@@ -96,17 +95,17 @@ Json Told(const Tally& tally)
                 {"notInList", tally.missing}};
 }
 
-void PrintJson(std::ostream& out, const Project& project, const std::vector<KindTally>& kinds)
+void PrintTalliesJson(std::ostream& out, const Project& project, const std::vector<KindTally>& kinds)
 {
     Json list = Json::array();
     for (const KindTally& kind : kinds) {
         list.push_back(Json{{"kind", kind.kind},
                             {"uses", kind.ranker.uses},
-                            {"ranker", Told(kind.ranker)},
-                            {"alphabetical", Told(kind.alphabetical)},
-                            {"frequency", Told(kind.frequency)}});
+                            {"ranker", JsonOf(kind.ranker)},
+                            {"alphabetical", JsonOf(kind.alphabetical)},
+                            {"frequency", JsonOf(kind.frequency)}});
     }
-    out << Json{{"title", project.title}, {"beams", project.beams.size()}, {"kinds", list}}.dump(2) << "\n";
+    PrintJson({{"title", project.title}, {"beams", project.beams.size()}, {"kinds", list}}, out);
 }
 
 }  // namespace
@@ -114,20 +113,20 @@ void PrintJson(std::ostream& out, const Project& project, const std::vector<Kind
 void AddHitrateCommand(CLI::App& program, std::ostream& out)
 {
     CLI::App* const command = program.add_subcommand(
-        "hitrate", "What the ranking is worth: the place at which each text of a project stands");
+        "hitrate", "Measure the ranking: at which place each text of a project is proposed");
     const auto options = std::make_shared<Options>();
     AddProjectOption(*command, options->project);
     command->add_flag("--json", options->json, "Print JSON for programs");
     command->footer(
-        "Each text is hidden in turn, its ranker runs on the rest, and the place of the hidden text\n"
-        "counts; names are looked for in what the names before them propose. Beside the rankers\n"
-        "stand the remaining texts by alphabet and by how often they are used.\n\n"
+        "Each text is hidden in turn, its ranker runs on the other texts, and the place of the hidden\n"
+        "text is counted; a name is searched among the proposals from the names before it. For\n"
+        "comparison, the other texts are also ordered by alphabet and by frequency.\n\n"
         "Examples:\n  beamdesk hitrate\n  beamdesk hitrate --project tower.json --json");
     command->callback([options, &out] {
         const Project project = LoadProject(options->project);
         const std::vector<KindTally> kinds = ReplayProject(project);
         if (options->json) {
-            PrintJson(out, project, kinds);
+            PrintTalliesJson(out, project, kinds);
         } else {
             PrintTable(out,
                        TitleOf(project, options->project) + ": " + std::to_string(project.beams.size()) +

@@ -1,4 +1,4 @@
-// beamdesk import: its options, and the order in which faults are found.
+// beamdesk import: a project from the texts of a drawing.
 #include <algorithm>
 #include <filesystem>
 #include <memory>
@@ -32,23 +32,23 @@ struct Options {
     bool all = false;
 };
 
-// Faults of the target that can be found before any work is done.
+// Faults of the target file that can be found before the texts are read.
 void CheckTarget(const Options& options)
 {
     const fs::path target = options.project;
     std::error_code error;
     if (fs::equivalent(options.texts, target, error)) {
-        throw Failure(options.project + ": the project would take the place of the texts");
+        throw Failure(options.project + ": the project would replace the texts");
     }
     if (fs::is_directory(target, error)) {
-        throw Failure(options.project + ": a folder; -o takes the project's file");
+        throw Failure(options.project + ": a folder; -o needs a file name");
     }
     if (fs::exists(target, error) && !options.force) {
-        throw Failure(options.project + ": stands there already; --force writes over it");
+        throw Failure(options.project + ": already exists; --force replaces it");
     }
 }
 
-// The name of the texts' file, where a project can hold it.
+// The name of the texts' file where it can be a project's title.
 std::string TitleFor(const fs::path& texts)
 {
     const std::string title = texts.stem().string();
@@ -73,7 +73,7 @@ void Run(const Options& options, std::ostream& out)
     const Project project = ProjectOf(texts, TitleFor(options.texts));
     if (project.beams.empty() && project.walls.empty()) {
         out.flush();
-        throw Failure(options.texts + ": holds no annotation that could be read; no project is written");
+        throw Failure(options.texts + ": no annotation could be read; no project is written");
     }
     SaveProject(project, options.project);
     out << "\nwritten to " << options.project << ": " << Plural(project.beams.size(), "beam") << ", "
@@ -85,31 +85,31 @@ void Run(const Options& options, std::ostream& out)
 void AddImportCommand(CLI::App& program, std::ostream& out)
 {
     CLI::App* const command = program.add_subcommand(
-        "import", "Make a project out of annotation texts as drawings hold them, one a line");
+        "import", "Make a project from the annotation texts of a drawing, one a line");
     const auto options = std::make_shared<Options>();
     command->add_option("TEXTS", options->texts, "The file of texts")->required()->option_text("FILE");
-    command->add_option("-o,--output", options->project, "Project file to write; needed")
+    command->add_option("-o,--output", options->project, "Project file to write")
         ->required()
         ->type_name("FILE");
-    command->add_option("--encoding", options->encoding, "Encoding of the texts; utf-8 without it")
+    command->add_option("--encoding", options->encoding, "Encoding of the texts. Default utf-8")
         ->type_name("NAME")
         ->check(CLI::IsMember({"utf-8", "gbk"}));
     command
         ->add_option("--grade", options->grade,
-                     "Grade, A to D, for signs that do not say it; without it B for bars and A for\n"
-                     "stirrups and wall bars, as in the module's own tables")
+                     "Grade, A to D, for grade signs that name none. Default B for bars and A for\n"
+                     "stirrups and wall bars, as in the module's tables")
         ->type_name("LETTER")
         ->check(CLI::IsMember({"A", "B", "C", "D"}));
     command
         ->add_option("--legs", options->legs,
-                     "Legs of stirrups that are written without; 0 leaves those unread. 2 without it")
+                     "Legs of stirrups that are written without legs; 0 leaves those unread. Default 2")
         ->type_name("N")
         ->check(Whole(0, 9));
-    command->add_flag("--force", options->force, "Write over a project that stands there already");
-    command->add_flag("--all", options->all, "List every text with what became of it");
+    command->add_flag("--force", options->force, "Replace an existing project");
+    command->add_flag("--all", options->all, "List every text with what it was read as");
     command->footer(
-        "The file holds one text a line: plain lines, or lines of kind, tab and text under the\n"
-        "heading \"kind<TAB>text\". Every text that is not read is listed with its line.\n\n"
+        "The file has one text a line: plain lines, or lines of kind, tab and text below the\n"
+        "heading \"kind<TAB>text\". Every text that is not read is listed with its line number.\n\n"
         "Examples:\n  beamdesk import drawing.txt -o drawing.json\n"
         "  beamdesk import drawing.txt -o drawing.json --encoding gbk --grade C --force");
     command->callback([options, &out] { Run(*options, out); });

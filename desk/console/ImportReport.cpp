@@ -27,7 +27,7 @@ std::string Right(std::size_t number, std::size_t width)
     return std::string(width - std::min(width, text.size()), ' ').append(text);
 }
 
-// A text as one line of a list: no control characters, cut off where it gets too long to look at.
+// A text as one line of a list: without control characters, long ones cut off.
 std::string Shown(const std::string& text)
 {
     constexpr std::size_t Longest = 120;  // bytes
@@ -103,7 +103,7 @@ public:
             if (lines.empty()) {
                 continue;
             }
-            m_out << (hasHead ? "" : "\nfilled in or taken as it stands\n");
+            m_out << (hasHead ? "" : "\nfilled in or kept as written\n");
             hasHead = true;
             m_out << "  " << FilledWords(filled, choices) << "\n    " << Plural(lines.size(), "text")
                   << (lines.size() == 1 ? ", line " : ", lines ") << Ranges(lines) << "\n";
@@ -160,9 +160,9 @@ private:
         return counts;
     }
 
-    void PrintLine(const ImportedText& text, const std::string& behind) const
+    void PrintLine(const ImportedText& text, const std::string& result) const
     {
-        m_out << "  line " << text.drawn.line << ": " << Shown(text.drawn.text) << ": " << behind << "\n";
+        m_out << "  line " << text.drawn.line << ": " << Shown(text.drawn.text) << ": " << result << "\n";
     }
 
     std::ostream& m_out;

@@ -1,4 +1,4 @@
-// The import's account for a person: what was read, what was filled in, and every text that was not read.
+// The report of an import: what was read, what was filled in, and every text that was not read.
 #pragma once
 
 #include <iosfwd>
@@ -9,7 +9,7 @@
 
 namespace Desk {
 
-// file is the name of the texts' file. With all true every text is listed with what became of it.
+// name is that of the texts' file. With all true every text is listed with what it was read as.
 void PrintReport(std::ostream& out, const std::string& name, const TextsFile& file,
                  const std::vector<ImportedText>& texts, const Choices& choices, bool all);
 

@@ -1,4 +1,4 @@
-// beamdesk: a small drafting host on the command line.
+// beamdesk: the commands, and what is printed for wrong usage and failures.
 #include <algorithm>
 #include <exception>
 #include <iostream>
@@ -7,16 +7,14 @@
 #include <CLI/CLI.hpp>
 
 #include "desk/console/Commands.h"
-#include "desk/console/Options.h"
-#include "desk/console/Tour.h"
+#include "desk/console/Print.h"
 #include "desk/project/Failure.h"
-#include "desk/window/Window.h"
 
 namespace {
 
-constexpr int WrongUse = 2;  // wrong usage, and every failure that a person is told about
+constexpr int WrongUse = 2;  // exit status for wrong usage and every failure
 
-// The command that was in work when the command line went wrong.
+// The command that was being read when the command line went wrong.
 const CLI::App& Deepest(const CLI::App& program)
 {
     const CLI::App* command = &program;
@@ -32,30 +30,27 @@ std::string FullName(const CLI::App& command)
     return parent == nullptr ? command.get_name() : FullName(*parent) + " " + command.get_name();
 }
 
-// The commands that a command can go on with, empty for none.
-std::string Forms(const CLI::App& command)
+// "name, section, elevation", empty for a command without subcommands.
+std::string Subcommands(const CLI::App& command)
 {
-    std::string forms;
-    for (const CLI::App* const form : command.get_subcommands([](const CLI::App*) { return true; })) {
-        forms += (forms.empty() ? "" : ", ") + form->get_name();
-    }
-    return forms;
+    return Desk::Joined(command.get_subcommands([](const CLI::App*) { return true; }),
+                        [](const CLI::App* one) { return one->get_name(); });
 }
 
-// The parser's message in plain words, where it has better ones than its own.
+// The parser's message, in other words where the parser's own are hard to understand.
 std::string PlainMessage(const CLI::App& program, const CLI::App& command, const CLI::ParseError& error)
 {
     const auto code = static_cast<CLI::ExitCodes>(error.get_exit_code());
     const std::vector<std::string> rest = program.remaining(true);
-    const bool needsForm = code == CLI::ExitCodes::RequiredError && !Forms(command).empty();
-    if (!rest.empty() && (needsForm || code == CLI::ExitCodes::ExtrasError)) {
+    const bool needsSubcommand = code == CLI::ExitCodes::RequiredError && !Subcommands(command).empty();
+    if (!rest.empty() && (needsSubcommand || code == CLI::ExitCodes::ExtrasError)) {
         const auto option = std::find_if(rest.begin(), rest.end(),
                                          [](const std::string& word) { return word.starts_with('-'); });
-        return option != rest.end() ? "there is no option " + *option
-                                    : "nothing is known of \"" + rest.front() + "\"";
+        return option != rest.end() ? "unknown option " + *option
+                                    : "unknown argument " + Desk::Quoted(rest.front());
     }
-    if (needsForm) {
-        return "one word more is needed";
+    if (needsSubcommand) {
+        return "a subcommand is required";
     }
     const std::string what = error.what();
     if (code == CLI::ExitCodes::ArgumentMismatch) {
@@ -65,48 +60,41 @@ std::string PlainMessage(const CLI::App& program, const CLI::App& command, const
     return what;
 }
 
-// What is wrong, and how it is right: the commands there are, and an example.
+// What is wrong, the subcommands, and an example.
 void ExplainWrongUse(const CLI::App& program, const CLI::ParseError& error, std::ostream& err)
 {
     const CLI::App& command = Deepest(program);
     const std::string name = FullName(command);
     err << name << ": " << PlainMessage(program, command, error) << '\n';
-    const std::string forms = Forms(command);
-    if (!forms.empty()) {
-        err << "  it goes on with one of: " << forms << '\n';
+    if (const std::string subcommands = Subcommands(command); !subcommands.empty()) {
+        err << "  subcommands: " << subcommands << '\n';
     }
     const std::string footer = command.get_footer();
     if (const std::size_t example = footer.find("  beamdesk "); example != std::string::npos) {
-        err << "  for example: " << footer.substr(example + 2, footer.find('\n', example) - example - 2)
+        err << "  example: " << footer.substr(example + 2, footer.find('\n', example) - example - 2)
             << '\n';
     }
-    err << "  more: " << name << " --help\n";
+    err << "  help: " << name << " --help\n";
 }
 
 int RunDesk(int argc, char** argv)
 {
     CLI::App program(
-        "The annotations of reinforced-concrete beams and walls, picked instead of typed: in a window, or "
+        "Annotations of reinforced-concrete beams and walls, picked instead of typed: in a window, or "
         "ranked on the command line by what a project already holds.",
         "beamdesk");
-    std::string project;
-    std::string beam;
     program.set_version_flag("--version", "beamdesk " BEAMDESK_VERSION);
     program.set_help_all_flag("--help-all", "Print the help of all commands and exit");
     program.require_subcommand(0, 1);
-    program.footer("Without a command: the tour.\n\nExamples:\n"
+    program.footer("Without a command it prints the tour.\n\nExamples:\n"
                    "  beamdesk\n"
                    "  beamdesk window\n"
                    "  beamdesk rank bars --kind 1 --width 300 --area 1000 --table\n"
                    "  beamdesk rank name --project tower.json\n"
                    "  beamdesk table bars --width 300 --area 1000\n\n"
-                   "Exit status: 0 when it is done, 2 for wrong usage and every failure.");
+                   "Exit status: 0 on success, 2 for wrong usage and every failure.");
 
-    CLI::App& tour = *program.add_subcommand("tour", "One beam and the candidates for its annotations");
-    Desk::AddProjectOption(tour, project);
-    tour.add_option("--beam", beam, "The beam; without it the one with the most annotations")
-        ->type_name("NAME");
-    tour.footer("Examples:\n  beamdesk tour\n  beamdesk tour --beam KL6");
+    Desk::AddTourCommand(program, std::cout);
     Desk::AddRankCommand(program, std::cout);
     Desk::AddTableCommand(program, std::cout);
     Desk::AddImportCommand(program, std::cout);
@@ -119,8 +107,8 @@ int RunDesk(int argc, char** argv)
 
     try {
         program.parse(argc, argv);
-        if (program.get_subcommands().empty() || tour.parsed()) {
-            Desk::PrintTour(project, beam, std::cout);
+        if (program.get_subcommands().empty()) {
+            Desk::PrintTour({}, {}, std::cout);
         }
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {

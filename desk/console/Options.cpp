@@ -5,6 +5,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "desk/console/Print.h"
 #include "desk/project/Failure.h"
 #include "desk/reading/Bars.h"
 
@@ -12,7 +13,7 @@ namespace Desk {
 
 void AddProjectOption(CLI::App& command, std::string& file)
 {
-    command.add_option("--project", file, "Project file to work on; without it the embedded sample")
+    command.add_option("--project", file, "Project file. Default: the embedded sample")
         ->type_name("FILE")
         ->check([](const std::string& name) { return std::string(name.empty() ? "no file name" : ""); });
 }
@@ -25,7 +26,7 @@ CLI::Validator Whole(int least, int most)
         const char* const end = text.data() + text.size();
         const auto [stop, error] = std::from_chars(text.data(), end, number);
         const bool good = error == std::errc() && stop == end && number >= least && number <= most;
-        return good ? std::string() : "a whole number from " + range + " is wanted, not \"" + text + "\"";
+        return good ? std::string() : "a whole number from " + range + " is required, not " + Quoted(text);
     };
     return CLI::Validator(check, "");
 }

@@ -12,7 +12,7 @@ namespace Desk {
 
 void AddProjectOption(CLI::App& command, std::string& file);
 
-// Lets only a whole number inside the range through and says so otherwise.
+// Accepts whole numbers inside the range only.
 [[nodiscard]] CLI::Validator Whole(int least, int most);
 
 // Throws Failure for a text that is no bars such as 2B25.

@@ -1,8 +1,11 @@
-// Widths by the blocks of wide characters, which is enough for annotation texts and titles.
+// Widths by the blocks of wide characters, which suffices for annotation texts and titles.
 #include "desk/console/Print.h"
 
 #include <algorithm>
 #include <array>
+#include <ostream>
+
+#include <nlohmann/json.hpp>
 
 namespace Desk {
 
@@ -55,10 +58,17 @@ std::string PadLeft(std::string_view text, int width)
     return Blanks(width - DisplayWidth(text)) + std::string(text);
 }
 
+std::string Quoted(const std::string& text) { return '"' + text + '"'; }
+
 std::string Visible(const std::string& text)
 {
     const bool seen = !text.empty() && text.front() != ' ' && text.back() != ' ';
-    return seen ? text : '"' + text + '"';
+    return seen ? text : Quoted(text);
+}
+
+void PrintJson(const nlohmann::ordered_json& json, std::ostream& out)
+{
+    out << json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
 }
 
 std::string Times(int count)

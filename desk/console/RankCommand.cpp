@@ -21,10 +21,11 @@ CLI::App& AddForm(CLI::App& rank, const Options& options, const char* name, cons
 {
     CLI::App& form = *rank.add_subcommand(name, description);
     AddProjectOption(form, options->project);
-    form.add_option("--beam", options->beam, "A beam of the project: takes its parameters, marks its text")
+    form.add_option("--beam", options->beam,
+                    "A beam of the project: its parameters are used, its text is marked")
         ->type_name("NAME");
     form.add_option("--limit", options->limit,
-                    "Candidates to show at most, 0 for all; else 25, with --json all")
+                    "Candidates to show at most, 0 for all. Default 25, with --json 0")
         ->type_name("N")
         ->check(Whole(0, 1'000'000'000));
     form.add_flag("--json", options->json, "Print JSON for programs");
@@ -35,7 +36,7 @@ CLI::App& AddForm(CLI::App& rank, const Options& options, const char* name, cons
 void AddProjectKind(CLI::App& form, const Options& options)
 {
     form.add_option("--project-kind", options->projectKind,
-                    "The host's selector; another one than 2 changes what an empty project is offered")
+                    "The host's kind of project. Default 2; others change what an empty project gets")
         ->type_name("N")
         ->check(Whole(std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
@@ -50,7 +51,7 @@ void AddBars(CLI::App& rank, std::ostream& out)
 {
     const auto options = std::make_shared<RankOptions>();
     CLI::App& form = AddForm(rank, options, "bars", "Longitudinal bars", &RankRun::Bars, out);
-    form.add_option("--kind", options->kind, "Which bars, see below; 1 without it")->type_name("KIND");
+    form.add_option("--kind", options->kind, "Which bars, see below. Default 1")->type_name("KIND");
     form.add_option("--top", options->top, "Through bars, for the complete top bars on them")
         ->type_name("BARS");
     form.add_option("--width", options->width, "Beam width in mm, for the table")
@@ -106,7 +107,7 @@ void AddRankCommand(CLI::App& program, std::ostream& out)
 
     const auto name = std::make_shared<RankOptions>();
     CLI::App& names =
-        AddForm(rank, name, "name", "Names that the project does not hold yet", &RankRun::Names, out);
+        AddForm(rank, name, "name", "Names that are free in the project", &RankRun::Names, out);
     AddProjectKind(names, name);
     names.footer("Examples:\n  beamdesk rank name\n  beamdesk rank name --limit 0 --json");
 
@@ -117,7 +118,7 @@ void AddRankCommand(CLI::App& program, std::ostream& out)
     sections.footer("Examples:\n  beamdesk rank section\n  beamdesk rank section --beam KL2");
 
     const auto elevation = std::make_shared<RankOptions>();
-    AddForm(rank, elevation, "elevation", "Elevations, in rising order", &RankRun::Elevations, out)
+    AddForm(rank, elevation, "elevation", "Elevations, in ascending order", &RankRun::Elevations, out)
         .footer("Examples:\n  beamdesk rank elevation\n  beamdesk rank elevation --beam XL1");
 
     AddBars(rank, out);

@@ -2,10 +2,12 @@
 #include "desk/console/RankRun.h"
 
 #include <algorithm>
+#include <functional>
 
 #include <CLI/CLI.hpp>
 
 #include "desk/console/Options.h"
+#include "desk/console/Print.h"
 #include "desk/project/Failure.h"
 #include "desk/project/FindBeam.h"
 #include "desk/project/ProjectFile.h"
@@ -148,11 +150,11 @@ std::optional<int> RankRun::Number(const std::optional<int>& typed, const char* 
         return typed ? typed : ofBeam;
     }
     if (m_options.table && m_beam != nullptr) {
-        throw CLI::ValidationError("beam " + m_beam->name + " does not say it, so --table needs " + option);
+        throw CLI::ValidationError("beam " + m_beam->name + " does not have it: --table needs " + option);
     }
     if (m_options.table) {
         throw CLI::ValidationError(std::string("--table needs ") + option +
-                                   " as well, or --beam NAME to take it from a beam");
+                                   ", or --beam NAME to take it from a beam");
     }
     return std::nullopt;
 }
@@ -161,7 +163,7 @@ std::optional<int> RankRun::Number(const std::optional<int>& typed, const char* 
 Question RankRun::BarQuestion() const
 {
     if (m_options.kind && m_options.top) {
-        throw CLI::ValidationError("--kind and --top both say which bars are wanted; give one of them");
+        throw CLI::ValidationError("--kind and --top exclude each other");
     }
     const std::string kind = m_options.top.value_or(m_options.kind.value_or("1"));
     const bool isEnd = !m_options.top && EndOf(kind, Beam()).has_value();
@@ -201,15 +203,15 @@ void RankRun::Head(const char* what, const std::string& heading)
     }
 }
 
-void RankRun::Say(const char* key, const std::optional<int>& number, const char* before, const char* behind)
+void RankRun::Say(const char* key, const std::optional<int>& number, const char* before, const char* after)
 {
     if (number) {
-        m_view.heading += before + std::to_string(*number) + behind;
+        m_view.heading += before + std::to_string(*number) + after;
         m_view.question[key] = *number;
     }
 }
 
-// When the table added no row: that it has none, or that the list holds them already.
+// When the table added no row: that it has none, or that they are in the list already.
 void RankRun::RemarkOnTable(const Ranking& ranking, const TableAnswer& rows)
 {
     const auto isRow = [](const Candidate& candidate) { return candidate.source == Source::Table; };
@@ -217,11 +219,8 @@ void RankRun::RemarkOnTable(const Ranking& ranking, const TableAnswer& rows)
         return;
     }
     m_view.tableRemark = rows.remark;
-    if (rows.remark.empty()) {
-        for (const std::string& text : rows.texts) {
-            m_view.tableRemark += m_view.tableRemark.empty() ? "the list holds its rows already: " : ", ";
-            m_view.tableRemark += text;
-        }
+    if (rows.remark.empty() && !rows.texts.empty()) {
+        m_view.tableRemark = "its rows are in the list already: " + Joined(rows.texts, std::identity());
     }
 }
 

@@ -11,7 +11,7 @@
 
 namespace Desk {
 
-// What the five forms of the command take, each a part of it.
+// The options of the five subcommands; each uses a part of them.
 struct RankOptions {
     std::string project;
     std::string beam;
@@ -27,8 +27,8 @@ struct RankOptions {
     std::optional<int> seismicClass;
 };
 
-// Loads the project, finds the beam in work if one was named, and prints one answer. Wrong combinations of
-// options are thrown as CLI::ValidationError, everything else that fails as Failure.
+// Loads the project, finds the beam if one was named, and prints one answer. Throws CLI::ValidationError
+// for wrong combinations of options and Failure for everything else.
 class RankRun {
 public:
     RankRun(const RankOptions& options, std::ostream& out);
@@ -40,12 +40,12 @@ public:
     void Stirrups();
 
 private:
-    // The number that was typed, else the beam's; nothing where there is neither and no table wants it.
+    // The number that was typed, else the beam's; nothing where there is neither and no table needs it.
     [[nodiscard]] std::optional<int> Number(const std::optional<int>& typed, const char* option,
                                             const std::optional<int>& ofBeam) const;
     [[nodiscard]] Question BarQuestion() const;
     void Head(const char* what, const std::string& heading);
-    void Say(const char* key, const std::optional<int>& number, const char* before, const char* behind);
+    void Say(const char* key, const std::optional<int>& number, const char* before, const char* after);
     void RemarkOnTable(const Ranking& ranking, const TableAnswer& rows);
     void Print(const Question& question, std::string Beam::*member = nullptr);
     void Print(const Ranking& ranking);

@@ -168,7 +168,7 @@ void PrintRankingJson(const Ranking& ranking, const RankingView& view, std::ostr
     if (!view.tableRemark.empty()) {
         answer["tableRemark"] = view.tableRemark;
     }
-    out << answer.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
+    PrintJson(answer, out);
 }
 
 }  // namespace Desk

@@ -23,8 +23,8 @@ struct RankingView {
 void PrintRanking(const Ranking& ranking, const RankingView& view, std::ostream& out);
 void PrintRankingJson(const Ranking& ranking, const RankingView& view, std::ostream& out);
 
-// Whether the candidate is one of the texts. Side bars stand in the list without their "G", and blanks
-// stand for no text at all.
+// Whether the candidate is one of the texts. Side bars are in the list without their "G"; blanks mean no
+// text.
 [[nodiscard]] bool IsAmong(const Candidate& candidate, const std::vector<std::string>& texts);
 
 // Where a candidate comes from, in a few words.

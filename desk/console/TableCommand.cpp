@@ -1,4 +1,4 @@
-// beamdesk table: what the reference tables hold for a beam.
+// beamdesk table: the rows of the reference tables for a beam.
 #include "desk/console/Commands.h"
 
 #include <algorithm>
@@ -36,7 +36,7 @@ struct Section {
     TableAnswer answer;
 };
 
-void PrintJson(Json answer, const std::vector<Section>& sections, std::ostream& out)
+void PrintSectionsJson(Json answer, const std::vector<Section>& sections, std::ostream& out)
 {
     for (const Section& section : sections) {
         answer[section.key] = section.answer.texts;
@@ -44,7 +44,7 @@ void PrintJson(Json answer, const std::vector<Section>& sections, std::ostream& 
             answer["remarks"][section.key] = section.answer.remark;
         }
     }
-    out << answer.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+    PrintJson(answer, out);
 }
 
 // In columns, as many a line as a terminal holds; pairs stay together.
@@ -99,7 +99,7 @@ void PrintBars(const TableOptions& options, std::ostream& out)
             {"Complete top bars on " + options.top, "completeOnTop", BarsOn(width, area, options.top)});
     }
     if (options.json) {
-        PrintJson({{"table", "bars"}, {"width", width}, {"area", area}}, sections, out);
+        PrintSectionsJson({{"table", "bars"}, {"width", width}, {"area", area}}, sections, out);
         return;
     }
     out << "Bar table, width " << width << " mm, area " << area << " mm²\n";
@@ -112,11 +112,11 @@ void PrintStirrups(const TableOptions& options, std::ostream& out)
         {"Plain, and with a tight zone", "stirrups",
          StirrupsFor(options.width, options.grade, options.seismicClass)}};
     if (options.json) {
-        PrintJson({{"table", "stirrups"},
-                   {"width", options.width},
-                   {"grade", options.grade},
-                   {"seismic", options.seismicClass}},
-                  sections, out);
+        PrintSectionsJson({{"table", "stirrups"},
+                           {"width", options.width},
+                           {"grade", options.grade},
+                           {"seismic", options.seismicClass}},
+                          sections, out);
         return;
     }
     out << "Stirrup table, width " << options.width << " mm, concrete grade " << options.grade
@@ -128,7 +128,7 @@ void PrintStirrups(const TableOptions& options, std::ostream& out)
 
 void AddTableCommand(CLI::App& program, std::ostream& out)
 {
-    CLI::App& table = *program.add_subcommand("table", "Look a reference table up");
+    CLI::App& table = *program.add_subcommand("table", "Look up a reference table");
     table.require_subcommand(1);
     table.footer("Examples:\n"
                  "  beamdesk table bars --width 300 --area 1000 --top 2B16\n"
@@ -163,7 +163,7 @@ void AddTableCommand(CLI::App& program, std::ostream& out)
         ->type_name("N")
         ->required()
         ->check(Whole(1, 1000));
-    stirrups.add_option("--seismic", options->seismicClass, "Seismic class 1 to 4; 1 asks for the most")
+    stirrups.add_option("--seismic", options->seismicClass, "Seismic class 1 to 4; 1 requires the most")
         ->type_name("N")
         ->required()
         ->check(Whole(1, 4));

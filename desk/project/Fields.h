@@ -32,7 +32,17 @@ enum class Field {
 // What ranks the texts of a field. The module ranks no wall bars: those are the other walls' texts.
 enum class Ranker { Names, Sections, Elevations, Stirrups, Bars, OtherWalls, None };
 
-enum class PanelKind { Name, Section, Elevation, Stirrup, Bars, HorizontalBars, VerticalBars, None };
+// The panel or picker that composes a text, by the id of its template in the module.
+enum class PanelKind {
+    None = 0,
+    Name = 540,
+    Section = 364,
+    Elevation = 542,
+    Stirrup = 367,
+    Bars = 543,
+    HorizontalBars = 363,
+    VerticalBars = 365
+};
 
 struct FieldRow {
     Field field;

@@ -6,13 +6,13 @@
 
 namespace Desk {
 
-// 0 for a key that the window layer has no number for.
+// 0 for a key without a code in the window layer.
 [[nodiscard]] UINT KeyCode(const QKeyEvent& key);
 
-// A line edit has a use of its own for the key: letters, caret, deletion, clipboard.
+// A line edit handles the key itself: letters, caret, deletion, clipboard.
 [[nodiscard]] bool IsForLineEdit(const QKeyEvent& key);
 
-// What stands for the right button where there is no mouse: the menu key, Shift+F10, Ctrl+Enter.
+// The keys that replace the right button: the menu key, Shift+F10, Ctrl+Enter.
 [[nodiscard]] bool IsRightPress(const QKeyEvent& key);
 
 }  // namespace Desk

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "desk/project/Encoding.h"
+#include "desk/shell/QtDisplay.h"
+#include "platform/windows/CWnd.h"
 #include "platform/windows/Events.h"
 
 namespace Desk {
@@ -81,7 +82,7 @@ void ListWidget::TakeRows(const WindowRecord& list, const Scale& scale)
         row->setSizeHint(size);
         rows.appendRow(row);
     }
-    // What does not fit is reached by a slim bar over the list's edge.
+    // A slim scroll bar over the list's edge reaches rows that do not fit.
     const QScopedValueRollback mirroring(m_isMirroring, true);
     const int count = list.RowCount();
     const int inView = list.RowsInView();
@@ -123,12 +124,12 @@ void ListWidget::TakeTop(const WindowRecord& list)
     if (model()->rowCount() > 0) {
         executeDelayedItemsLayout();
         QScrollBar& own = m_isMultiColumn ? *horizontalScrollBar() : *verticalScrollBar();
-        own.setMaximum(std::max(own.maximum(), list.list.top));  // the last row may stand alone at the top
+        own.setMaximum(std::max(own.maximum(), list.list.top));  // the last row may be alone at the top
         own.setValue(list.list.top);
     }
 }
 
-// A frame tells which list has the keyboard.
+// A frame marks the list that has the keyboard.
 void ListWidget::paintEvent(QPaintEvent* event)
 {
     QListView::paintEvent(event);
@@ -154,7 +155,7 @@ void Surface::paintEvent(QPaintEvent* /*event*/)
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-QString Shown(const CString& text) { return QString::fromStdString(Utf8FromGbk(text)); }
+QString Shown(const CString& text) { return QString::fromStdString(Texts().utf8FromGbk(text)); }
 
 int CaretInWidget(const WindowRecord& box)
 {
@@ -210,7 +211,7 @@ void TakeText(QWidget& widget, const WindowRecord& window)
 {
     const QString text = Shown(window.text);
     if (auto* const line = qobject_cast<QLineEdit*>(&widget)) {
-        const QSignalBlocker quiet(line);  // what the program does is no edit
+        const QSignalBlocker quiet(line);  // a change by the program is no edit
         if (line->text() != text) {
             line->setText(text);
         }

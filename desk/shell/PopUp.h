@@ -6,7 +6,7 @@
 
 namespace Desk {
 
-// A list box: shows the record's rows and leaves the mouse to the window layer.
+// A list box: shows the record's rows; the window layer handles the mouse.
 class ListWidget : public QListView {
     Q_OBJECT
 
@@ -39,11 +39,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-// The text of an edit box as Unicode; for byte positions of the caret the text before it counts.
+// The text of an edit box as Unicode, and its caret as a position in that.
 [[nodiscard]] QString Shown(const CString& text);
 [[nodiscard]] int CaretInWidget(const WindowRecord& box);
 
-// A widget for a control, inside its pop-up's surface and with all that its record says.
+// A widget for a control, inside its pop-up's surface, equal to its record.
 [[nodiscard]] QWidget* MakeControl(const WindowRecord& control, QWidget* surface);
 void TakePlace(QWidget& widget, const WindowRecord& window, const Scale& scale);
 // Caption, text of a box with its caret.

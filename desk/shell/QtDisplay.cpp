@@ -1,9 +1,9 @@
-// Records to widgets. What comes back from the widgets is in QtInput.cpp.
+// From records to widgets. The way back is in QtInput.cpp.
 #include "desk/shell/QtDisplay.h"
 
-#include "desk/project/Encoding.h"
 #include "desk/shell/PopUp.h"
 #include "desk/shell/QtInput.h"
+#include "platform/windows/CWnd.h"
 
 namespace Desk {
 
@@ -52,7 +52,7 @@ public:
         }
     }
 
-    // Shows or hides a pop-up, and hands the keyboard over and back.
+    // Shows or hides a pop-up, which takes the keyboard and returns it.
     void TakeVisible(QWidget& surface, const WindowRecord& window)
     {
         if (window.visible == surface.isVisible()) {
@@ -82,11 +82,12 @@ public:
     QtInput input;
     double zoom = 1.0;
     QHash<HWND, QWidget*> widgets;
-    QPointer<QWidget> before;    // had the keyboard when the pop-up came
+    QPointer<QWidget> before;    // had the keyboard when the pop-up was shown
     QPointer<QWidget> openOver;  // the pop-up that is open
 };
 
-QtDisplay::QtDisplay(QObject* parent) : QObject(parent), m_private(std::make_unique<Private>(*this))
+QtDisplay::QtDisplay(const TextCodec& codec, QObject* parent)
+    : QObject(parent), m_private(std::make_unique<Private>(*this)), m_codec(codec)
 {
     qApp->installEventFilter(&m_private->input);
     SetDisplay(this);
@@ -136,7 +137,7 @@ void QtDisplay::OpenBeside(HWND popUp, const QRect& field, QWidget* owner)
     CRect place;
     window->GetWindowRect(&place);
     if (owner != nullptr) {
-        surface->winId();  // makes the native window that the owner is told to
+        surface->winId();  // makes the native window, whose owner is set next
         owner->window()->winId();
         surface->windowHandle()->setTransientParent(owner->window()->windowHandle());
     }
@@ -213,7 +214,7 @@ void QtDisplay::WindowDestroyed(HWND hWnd)
     const bool shown = widget->isWindow() && widget->isVisible();
     m_private->input.Forget(*widget);
     widget->hide();
-    widget->deleteLater();  // an event may still be on its way through it
+    widget->deleteLater();  // it may be handling an event
     if (shown) {
         if (m_private->before != nullptr) {
             m_private->before->window()->activateWindow();
@@ -233,5 +234,7 @@ int QtDisplay::ShowMessageBox(const CString& text)
     box.exec();
     return IDOK;
 }
+
+const TextCodec& Texts() { return static_cast<const QtDisplay*>(GetDisplay())->Codec(); }
 
 }  // namespace Desk

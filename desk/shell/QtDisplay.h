@@ -2,6 +2,9 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
 
 #include "desk/Toolkit.h"
 #include "platform/windows/Display.h"
@@ -10,25 +13,34 @@ Q_DECLARE_OPAQUE_POINTER(HWND)  // so that signals carry handles
 
 namespace Desk {
 
-// There is one, made after the QApplication; it is the process's display for as long as it lives.
+// The module's GBK bytes as UTF-8 and back, by functions of whoever makes the display. Bytes that are no
+// character become U+FFFD; nothing comes back for a character that GBK lacks.
+struct TextCodec {
+    std::string (*utf8FromGbk)(const CString&);
+    std::optional<CString> (*gbkFromUtf8)(std::string_view);
+};
+
+// At most one, made after the QApplication; while it exists it is the process's display.
 class QtDisplay : public QObject, public Display {
     Q_OBJECT
 
 public:
-    explicit QtDisplay(QObject* parent = nullptr);
+    explicit QtDisplay(const TextCodec& codec, QObject* parent = nullptr);
     ~QtDisplay() override;
 
-    // How many of the toolkit's logical pixels a pixel of the windows is, across and down; 1 at first.
-    // Places on the screen are converted by it as well. Takes hold of pop-ups that exist at once.
+    // The toolkit's logical pixels per pixel of the windows, across and down; 1 at first.
+    // Screen positions are converted by it as well. Pop-ups that exist are resized at once.
     void SetZoom(double zoom);
     [[nodiscard]] double Zoom() const;
 
-    // Shows a pop-up below a field on the screen, or above it where there is no room, inside the screen,
-    // above the window of the owner; it takes the focus, and when it hides the widget that had the focus
-    // gets it back. A press elsewhere in the application dismisses it as Esc does.
+    // Shows a pop-up on top of the owner's window, below a field on the screen or above it where there is
+    // no room. It takes the focus and returns it when it hides. A press elsewhere in the application
+    // dismisses it as Esc does.
     void OpenBeside(HWND popUp, const QRect& field, QWidget* owner);
 
-    // The widget of a window or control; null for a handle that it does not show.
+    [[nodiscard]] const TextCodec& Codec() const { return m_codec; }
+
+    // The widget of a window or control; null for an unknown handle.
     [[nodiscard]] QWidget* WidgetOf(HWND hWnd) const;
 
     void WindowCreated(const WindowRecord& window) override;
@@ -37,13 +49,17 @@ public:
     int ShowMessageBox(const CString& text) override;
 
 signals:
-    // A pop-up has come or gone.
+    // A pop-up was shown or hidden.
     void Shown(HWND popUp);
     void Hidden(HWND popUp);
 
 private:
     class Private;
     std::unique_ptr<Private> m_private;
+    TextCodec m_codec;
 };
+
+// Of the display that exists.
+[[nodiscard]] const TextCodec& Texts();
 
 }  // namespace Desk

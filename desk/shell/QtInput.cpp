@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "desk/project/Encoding.h"
 #include "desk/shell/Keys.h"
 #include "desk/shell/PopUp.h"
 #include "desk/shell/QtDisplay.h"
 #include "platform/text/GbkWalk.h"
+#include "platform/windows/CWnd.h"
 #include "platform/windows/WindowRecord.h"
 
 namespace Desk {
@@ -36,8 +36,8 @@ struct EditedText {
     int caret = 0;  // byte position
 };
 
-// What a line edit makes of a text in GBK. Only what the user put in is turned, so that bytes which show
-// as a mark stay what they are. Nothing when it holds a character that GBK lacks.
+// The text of a line edit in GBK. Only what the user entered is converted; bytes that show as a replacement
+// mark keep their values. Nothing when it holds a character that GBK lacks.
 std::optional<EditedText> EditedFrom(const CString& before, const QLineEdit& line)
 {
     const QString shown = Shown(before);
@@ -65,7 +65,8 @@ std::optional<EditedText> EditedFrom(const CString& before, const QLineEdit& lin
     const auto byteAt = [&bytes](qsizetype character) {
         return bytes[static_cast<std::size_t>(character)];
     };
-    const std::optional<CString> typed = GbkFromUtf8(now.mid(head, now.size() - head - tail).toStdString());
+    const std::optional<CString> typed =
+        Texts().gbkFromUtf8(now.mid(head, now.size() - head - tail).toStdString());
     if (!typed) {
         return std::nullopt;
     }
@@ -79,7 +80,7 @@ std::optional<EditedText> EditedFrom(const CString& before, const QLineEdit& lin
     } else if (cursor >= now.size() - tail) {
         edited.caret = typedEnd + byteAt(cursor - now.size() + shown.size()) - tailStart;
     } else {
-        const std::optional<CString> part = GbkFromUtf8(now.mid(head, cursor - head).toStdString());
+        const std::optional<CString> part = Texts().gbkFromUtf8(now.mid(head, cursor - head).toStdString());
         edited.caret = byteAt(head) + (part ? part->GetLength() : 0);
     }
     return edited;
@@ -114,7 +115,7 @@ void QtInput::Follow(QLineEdit& line, HWND box)
     connect(&line, &QLineEdit::cursorPositionChanged, this, [this, &line, box] {
         const WindowRecord* const record = FindWindowRecord(box);
         if (m_reporting == nullptr && record != nullptr && line.text() == Shown(record->text)) {
-            Report(line, box);  // the text is the same: it moves the caret and notifies nobody
+            Report(line, box);  // the text is the same: only the caret moves
         }
     });
 }
@@ -183,7 +184,7 @@ bool QtInput::eventFilter(QObject* watched, QEvent* event)
     }
 }
 
-// Null targets are gone; a native control goes on with what the module left.
+// A null target no longer exists; a native control handles what the module did not take.
 bool QtInput::OnMouse(HWND window, UINT message, const QPointF& onScreen, WPARAM wParam, bool native)
 {
     CWnd* const target = CWnd::FromHandle(window);
@@ -211,11 +212,11 @@ bool QtInput::OnPress(QWidget& widget, HWND window, const QMouseEvent& mouse, bo
         return OnMouse(window, message, mouse.globalPosition(), MK_LBUTTON, native) || alive == nullptr;
     }
     if (mouse.button() == Qt::RightButton) {
-        // A line edit has no use for it: the class of the box may have. Two quick presses are two.
+        // A line edit ignores it, the class of the box may not. Two quick presses count as two.
         OnMouse(window, WM_RBUTTONDOWN, mouse.globalPosition(), MK_RBUTTON, false);
         return true;
     }
-    return !native;  // a line edit pastes by the middle button where that is the custom
+    return !native;  // a line edit pastes by the middle button on some systems
 }
 
 bool QtInput::OnRelease(QWidget& widget, HWND window, const QMouseEvent& mouse, bool native)
@@ -256,7 +257,7 @@ bool QtInput::OnKey(HWND window, const QKeyEvent& key, bool native)
         return Send({target, message, code, went, time, {}}, dispatch);
     };
     const bool shift = key.modifiers().testFlag(Qt::ShiftModifier) || key.key() == Qt::Key_Backtab;
-    if (key.key() != Qt::Key_Shift) {  // one may have been missed
+    if (key.key() != Qt::Key_Shift) {  // an event of the Shift key may have been missed
         send(shift ? WM_KEYDOWN : WM_KEYUP, VK_SHIFT, false);
     }
     const bool nativeKey = native && IsForLineEdit(key);
@@ -274,7 +275,7 @@ bool QtInput::OnKey(HWND window, const QKeyEvent& key, bool native)
         return true;
     }
     if (down && !taken && !key.text().isEmpty()) {
-        const std::optional<CString> typed = GbkFromUtf8(key.text().toStdString());
+        const std::optional<CString> typed = Texts().gbkFromUtf8(key.text().toStdString());
         for (int i = 0; typed && i < typed->GetLength() && IsWindow(target); ++i) {
             taken = send(WM_CHAR, static_cast<unsigned char>(typed->GetAt(i)), !nativeKey) || taken;
         }
@@ -282,7 +283,7 @@ bool QtInput::OnKey(HWND window, const QKeyEvent& key, bool native)
     return taken || !nativeKey || !IsWindow(window);
 }
 
-// A press, and any key that reaches another window, dismiss what is open.
+// A press or a key in another window dismisses the open pop-up.
 bool QtInput::OnEventElsewhere(const QWidget& target, const QEvent& event)
 {
     if (event.type() == QEvent::MouseButtonPress) {
@@ -303,8 +304,8 @@ bool QtInput::OnEventElsewhere(const QWidget& target, const QEvent& event)
     }
 }
 
-// As Esc: nothing is delivered. What was pressed gets its press all the same. A message box over the
-// panel is no other place. True when something was open.
+// As Esc: nothing is delivered. The widget that was pressed still gets its press. A message box over the
+// panel does not count as elsewhere. True when something was open.
 bool QtInput::DismissFor(const QWidget& pressed)
 {
     if (QApplication::activeModalWidget() != nullptr ||

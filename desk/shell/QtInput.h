@@ -9,9 +9,9 @@ namespace Desk {
 
 class QtDisplay;
 
-// One filter on the application. Each raw mouse and key event of a pop-up goes through the host's loop
-// before a control sees it. Only a line edit goes on with what the module has not taken, and reports what
-// came of it; everything else is handled by the window layer and mirrored.
+// One event filter on the application. Each raw mouse and key event of a pop-up goes through the host's
+// loop before a control sees it. Only a line edit handles natively what the module has not taken, and
+// reports the result; everything else is handled by the window layer and mirrored.
 class QtInput : public QObject {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ public:
     void Forget(QWidget& widget);
     // Reports the edits of a box's widget.
     void Follow(QLineEdit& line, HWND box);
-    // A report of this box is on its way: its widget is ahead of the record.
+    // A report of this box is being made: its widget is ahead of the record.
     [[nodiscard]] bool IsReporting(HWND box) const { return m_reporting == box; }
     // The window layer gave a window the focus.
     void TakeFocus(QWidget& widget);
@@ -39,7 +39,7 @@ private:
     bool OnEventElsewhere(const QWidget& target, const QEvent& event);
     bool DismissFor(const QWidget& pressed);
     void Report(QLineEdit& line, HWND box);
-    // Offers an event and dispatches it where nobody took it; true when the module has taken it.
+    // Offers an event and dispatches it unless it was taken; true when the module has taken it.
     static bool Send(const MSG& event, bool dispatch);
 
     const QtDisplay& m_display;

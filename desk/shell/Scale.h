@@ -1,4 +1,4 @@
-// Places between the windows' pixels and the toolkit's: converted here and nowhere else.
+// Positions in pixels of the windows and of the toolkit: converted here only.
 #pragma once
 
 #include <cmath>
@@ -14,7 +14,7 @@ public:
 
     [[nodiscard]] double Zoom() const { return m_zoom; }
 
-    // Edges are rounded each for itself, so that neighbours stay neighbours.
+    // Edges are rounded one by one: adjacent rectangles stay adjacent.
     [[nodiscard]] int ToWidget(int pixels) const { return qRound(pixels * m_zoom); }
     [[nodiscard]] QPoint ToWidget(const CPoint& point) const
     {
@@ -25,10 +25,10 @@ public:
         return {ToWidget(rect.TopLeft()), QPoint(ToWidget(rect.right) - 1, ToWidget(rect.bottom) - 1)};
     }
 
-    // The pixel that a place lies in.
-    [[nodiscard]] int FromWidget(double place) const
+    // The pixel that contains a position.
+    [[nodiscard]] int FromWidget(double position) const
     {
-        return static_cast<int>(std::floor(place / m_zoom));
+        return static_cast<int>(std::floor(position / m_zoom));
     }
     [[nodiscard]] CPoint FromWidget(const QPointF& point) const
     {

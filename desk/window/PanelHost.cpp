@@ -1,13 +1,33 @@
 #include "desk/window/PanelHost.h"
 
 #include "desk/project/Encoding.h"
-#include "desk/window/PresentBars.h"
+#include "desk/reading/Bars.h"
 
 namespace Desk {
 
 namespace {
 
 QString Shown(const CString& text) { return QString::fromStdString(Utf8FromGbk(text)); }
+
+// A text such as "2B25+1B22" or "G4B12" goes into the bar panel as bare pieces.
+PanelUse UseFor(Field field, const CString& present)
+{
+    constexpr int StarTorsion = 3;  // the type of pieces with the head "*"
+    const FieldRow& row = RowOf(field);
+    PanelUse use = {present, row.panelBars, row.pieceType, {}};
+    if (row.panel != PanelKind::Bars) {
+        return use;
+    }
+    std::string_view rest = present.View();
+    if (const std::string_view head = HeadOf(rest); *row.heads != '\0' && !head.empty()) {
+        rest.remove_prefix(head.size());
+        use.pieceType = field == Field::Torsion && head == "*" ? StarTorsion : use.pieceType;
+    }
+    for (const std::string& piece : BarPieces(rest)) {
+        use.pieces.emplace_back(piece);
+    }
+    return use;
+}
 
 }  // namespace
 
@@ -30,7 +50,7 @@ PanelHost::PanelHost(QtDisplay& display, QObject* parent)
 
 PanelHost::~PanelHost() = default;
 
-bool PanelHost::HasPanel(const FieldRef& place) { return !place.isWall || place.field != Field::Name; }
+bool PanelHost::HasPanel(const FieldRef& place) { return PanelOf(place) != PanelKind::None; }
 
 void PanelHost::Open(const FieldRef& place, const QString& present, const QRect& field, QWidget* owner)
 {
@@ -42,11 +62,11 @@ void PanelHost::Open(const FieldRef& place, const QString& present, const QRect&
     m_place = place;
     const qsizetype spacing = place.field == Field::VerticalBars ? present.indexOf(QLatin1Char('@')) : -1;
     m_tail = spacing >= 0 ? present.mid(spacing) : QString();
-    m_item.CPropertyGridItem::SetValue(*text);
     m_item.SetListShowFlag(TRUE);
-    CDialog& panel = Prepare(place, *text);
-    m_open = panel.m_hWnd;
-    m_display.OpenBeside(panel.m_hWnd, field, owner);
+    Panel& panel = PanelFor(PanelOf(place));
+    panel.Open(UseFor(place.field, *text));
+    m_open = panel.Window().m_hWnd;
+    m_display.OpenBeside(m_open, field, owner);
 }
 
 void PanelHost::Close()
@@ -63,67 +83,17 @@ std::optional<FieldRef> PanelHost::Serving() const
 
 HWND PanelHost::Window() const { return m_open; }
 
-// Panels are made anew for each use, so that nothing of an older text is left in them.
-template <class Dialog>
-Dialog& PanelHost::Make()
+// Panels are made anew for each use, so that nothing of an older text is left in them. A picker stays, and
+// with it what its boxes show where the item's text says nothing.
+Panel& PanelHost::PanelFor(PanelKind kind)
 {
-    auto made = std::make_unique<Dialog>();
-    Dialog& dialog = *made;
-    m_panel = std::move(made);
-    dialog.m_bToItem = true;
-    dialog.m_pItem = &m_item;
-    dialog.Create(Dialog::IDD);
-    return dialog;
-}
-
-CDialog& PanelHost::Prepare(const FieldRef& place, const CString& present)
-{
-    if (place.isWall) {
-        return place.field == Field::HorizontalBars ? Bound(m_horizontal) : Bound(m_vertical);
+    const bool isPicker = kind == PanelKind::HorizontalBars || kind == PanelKind::VerticalBars;
+    std::unique_ptr<Panel>& panel = isPicker ? m_pickers[kind] : m_panel;
+    if (panel == nullptr || !isPicker) {
+        panel = MakePanel(static_cast<UINT>(kind), {Receiver::Route::Item, &m_item, nullptr});
+        panel->Create(nullptr);
     }
-    switch (place.field) {
-    case Field::Name: {
-        auto& panel = Make<CBeamNameDlg>();
-        panel.m_strResult = present;
-        panel.Init();
-        return panel;
-    }
-    case Field::Section: {
-        auto& panel = Make<CBeamSecDlg>();
-        panel.Init(present);
-        return panel;
-    }
-    case Field::Elevation: {
-        auto& panel = Make<CBeamLevelDlg>();
-        panel.Init();
-        panel.SetFocusLevel(present);
-        return panel;
-    }
-    case Field::Stirrup: {
-        auto& panel = Make<CBeamGujinDlg>();
-        panel.m_strResult = present;
-        panel.Init();
-        return panel;
-    }
-    default: {
-        auto& panel = Make<CBeamSteelDlg>();
-        ShowBars(panel, place.field, present);
-        return panel;
-    }
-    }
-}
-
-// A picker stays, and with it what its boxes show where the item's text says nothing.
-template <class Picker>
-CDialog& PanelHost::Bound(std::unique_ptr<Picker>& picker)
-{
-    if (picker == nullptr) {
-        picker = std::make_unique<Picker>(nullptr);
-        picker->Create(Picker::IDD);
-    }
-    picker->m_pItem = &m_item;
-    picker->UpdateValue();
-    return *picker;
+    return *panel;
 }
 
 }  // namespace Desk

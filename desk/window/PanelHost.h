@@ -1,17 +1,15 @@
 // PanelHost: keeps the module's panels and pickers and opens the one that composes an annotation.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 
 #include <QtCore>
 
-#include "RankerModule.h"
 #include "desk/project/Fields.h"
+#include "desk/shell/Panel.h"
 #include "desk/shell/QtDisplay.h"
-
-class CHBarPropertySheet;
-class CVBarPropertySheet;
 
 namespace Desk {
 
@@ -49,20 +47,15 @@ private:
         PanelHost& m_host;
     };
 
-    CDialog& Prepare(const FieldRef& place, const CString& present);
-    template <class Dialog>
-    Dialog& Make();
-    template <class Picker>
-    CDialog& Bound(std::unique_ptr<Picker>& picker);
+    Panel& PanelFor(PanelKind kind);
 
     QtDisplay& m_display;
     Item m_item;
     FieldRef m_place;
-    QString m_tail;  // of a wall's vertical bars, behind what the picker composes: "@200"
+    QString m_tail;  // of a wall's vertical bars, after what the picker composes: "@200"
     HWND m_open = nullptr;
-    std::unique_ptr<CDialog> m_panel;  // the one that was open last
-    std::unique_ptr<CHBarPropertySheet> m_horizontal;
-    std::unique_ptr<CVBarPropertySheet> m_vertical;
+    std::unique_ptr<Panel> m_panel;  // the one that was open last
+    std::map<PanelKind, std::unique_ptr<Panel>> m_pickers;
 };
 
 }  // namespace Desk

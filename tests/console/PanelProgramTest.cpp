@@ -59,7 +59,7 @@ TEST(PanelProgram, RefusesWrongUseWithStatusTwo)
 {
     const Case cases[] = {
         {"panel", {"name, section, elevation, stirrup, bars"}},
-        {"panel name --to host", {"item or parent is wanted, not \"host\""}},
+        {"panel name --to host", {"item or parent is required, not \"host\""}},
         {"panel bars --kind 9", {"-1 to 8"}},
         {"panel bars --text 2B25", {"--text"}},
         {"panel vbars --to host", {"--to"}},
@@ -74,11 +74,11 @@ TEST(PanelProgram, RefusesWrongUseWithStatusTwo)
         {"panel name --do 'click 552'", {"which row of list 552? it has \"KL\", \"KZL\""}},
         {"panel name --do 'click 552 #9'", {"no row #9; the last one is #8"}},
         {"panel bars --do 'click 1346 x'", {"list 1346 has no row \"x\"; it has no rows"}},
-        {"panel name --do 'click 1316 x'", {"box 1316 has no rows; it is: click 1316"}},
+        {"panel name --do 'click 1316 x'", {"box 1316 has no rows; write: click 1316"}},
         {"panel name --do 'type 552 x'", {"list 552 takes no text"}},
         {"panel elevation --do 'click 77'", {"no control \"77\"; it has boxes 1320; buttons 1311 \"7\""}},
         {"panel name --do 'click 146,5'", {"outside the panel, which is 146,164 pixels"}},
-        {"events section --do 'double'", {"the place is missing"}},
+        {"events section --do 'double'", {"the control or position is missing"}},
     };
     for (const Case& one : cases) {
         SCOPED_TRACE(one.words);

@@ -9,7 +9,7 @@ namespace {
 
 using namespace Desk::Panels;
 
-TEST(Steps, PartAtSemicolonsAndLinesButNotInQuotes)
+TEST(Steps, EndAtSemicolonsAndLinesButNotInQuotes)
 {
     const std::vector<Step> steps =
         ReadSteps("\xEF\xBB\xBF# remark; click\r\n click 552 KL ;;\r\n"
@@ -19,16 +19,16 @@ TEST(Steps, PartAtSemicolonsAndLinesButNotInQuotes)
     ASSERT_EQ(steps.size(), 9U);
     EXPECT_EQ(steps[0].origin, "a.steps:2");
     EXPECT_EQ(steps[0].source, "click 552 KL");
-    EXPECT_EQ(steps[0].place.control, "552");
-    EXPECT_EQ(steps[0].place.rowText, "KL");
-    EXPECT_EQ(steps[1].place.rowText, ";");
+    EXPECT_EQ(steps[0].target.control, "552");
+    EXPECT_EQ(steps[0].target.rowText, "KL");
+    EXPECT_EQ(steps[1].target.rowText, ";");
     EXPECT_EQ(steps[2].origin, "a.steps:3");
-    EXPECT_EQ(steps[2].place.control, "(   )");
-    EXPECT_EQ(steps[3].place.rowText, "#1");
-    EXPECT_EQ(steps[4].place.rowNumber, 3);
+    EXPECT_EQ(steps[2].target.control, "(   )");
+    EXPECT_EQ(steps[3].target.rowText, "#1");
+    EXPECT_EQ(steps[4].target.rowNumber, 3);
     EXPECT_EQ(steps[5].distance, CPoint(-30, 4));
-    EXPECT_EQ(steps[5].place.control, "1316");
-    EXPECT_EQ(steps[6].place.point, CPoint(5, -6));
+    EXPECT_EQ(steps[5].target.control, "1316");
+    EXPECT_EQ(steps[6].target.point, CPoint(5, -6));
     EXPECT_TRUE(steps[7].shift);
     EXPECT_EQ(steps[7].number, 3);
     EXPECT_TRUE(steps[8].text.IsEmpty());
@@ -41,20 +41,20 @@ TEST(Steps, TellWhichIsWrongWhatAndHowItIsRight)
         const char* text;
         const char* said;
     } cases[] = {
-        {"show; clik 552 KL", "step 2: clik 552 KL: no step is called \"clik\"; there are click, double"},
-        {"click", "step 1: click: the place is missing; it is: click LIST ROW"},
-        {"click 552 #x", "a row by its number is #0, #1, ..., not \"#x\""},
-        {"click 552 KL 3", "\"3\" is too much; a text with blanks stands in quotes"},
-        {"click 552 \"KL\nshow", "step 1: click 552 \"KL: a word opens with this quote and does not end"},
-        {"click \"KL\"x", "a quoted word ends with its quote"},
-        {"drag 3", "the way down is missing"},
-        {"drag 3 99999", "the way down is a whole number from -10000 to 10000, not \"99999\""},
-        {"key F13", "no key is called \"F13\"; there are esc, tab"},
-        {"key tab 0", "how often is a whole number from 1 to 1000"},
+        {"show; clik 552 KL", "step 2: clik 552 KL: unknown step \"clik\"; steps: click, double"},
+        {"click", "step 1: click: the control or position is missing; write: click LIST ROW"},
+        {"click 552 #x", "a row's number is #0, #1, ..., not \"#x\""},
+        {"click 552 KL 3", "unexpected \"3\"; a text with blanks needs quotes"},
+        {"click 552 \"KL\nshow", "step 1: click 552 \"KL: the closing quote is missing: \""},
+        {"click \"KL\"x", "a blank is required after a closing quote"},
+        {"drag 3", "the distance down is missing"},
+        {"drag 3 99999", "the distance down is a whole number from -10000 to 10000, not \"99999\""},
+        {"key F13", "unknown key \"F13\"; keys: esc, tab"},
+        {"key tab 0", "the number of times is a whole number from 1 to 1000"},
         {"kind 9", "the kind is a whole number from -1 to 8, not \"9\""},
         {"type 1316 \xE2\x98\x83", "the text has a character that GBK lacks"},
-        {"type 1316", "the text is missing; it is: type BOX TEXT"},
-        {"show now", "it is: show"},
+        {"type 1316", "the text is missing; write: type BOX TEXT"},
+        {"show now", "write: show"},
     };
     for (const auto& [text, said] : cases) {
         try {

@@ -3,8 +3,8 @@
 
 #include <memory>
 
+#include "platform/windows/Hands.h"
 #include "tests/panels/Receiver.h"
-#include "tests/support/Hands.h"
 
 struct NameKit {
     using Panel = CBeamNameDlg;

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "RankerModule.h"
-#include "tests/support/Hands.h"
+#include "platform/windows/Hands.h"
 
 // Keeps what it was given, and can do something with it on the spot.
 class WallItem : public CPropertyGridItem {

@@ -17,7 +17,7 @@ protected:
         return std::string(text.View());
     }
 
-    Desk::QtDisplay display;
+    Desk::QtDisplay display{{Desk::Utf8FromGbk, Desk::GbkFromUtf8}};
 };
 
 constexpr int DiameterBox = 1311, DiameterList = 1112;  // of the horizontal picker
@@ -256,7 +256,7 @@ TEST_F(Shell, AMessageWaitsForItsAnswerAndLeavesThePanel)
 TEST_F(Shell, AHostMayDestroyThePanelInTheMiddleOfAnEvent)
 {
     struct Destroyer : NotedItem {
-        void SetValue(CString) override { stage->panel.reset(); }
+        void SetValue(CString) override { stage->Destroy(); }
         Stage* stage = nullptr;
     };
     for (const bool onLine : {false, true}) {

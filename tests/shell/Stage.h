@@ -11,9 +11,10 @@
 #include <QtTest/QtTest>
 
 #include "desk/project/Encoding.h"
+#include "desk/shell/Panel.h"
 #include "desk/shell/PopUp.h"
 #include "desk/shell/QtDisplay.h"
-#include "tests/support/Hands.h"
+#include "platform/windows/Hands.h"
 
 #include "RankerModule.h"
 
@@ -22,43 +23,52 @@ struct NotedItem : CPropertyGridItem {
     std::vector<std::string> taken;
 };
 
-// All seven pop-ups, each as a host opens it.
-enum class Shown { Name, Section, Elevation, Stirrup, Bars, Horizontal, Vertical };
+// All seven pop-ups, by their templates.
+enum class Shown : UINT {
+    Name = CBeamNameDlg::IDD,
+    Section = CBeamSecDlg::IDD,
+    Elevation = CBeamLevelDlg::IDD,
+    Stirrup = CBeamGujinDlg::IDD,
+    Bars = CBeamSteelDlg::IDD,
+    Horizontal = CHBarPropertySheet::IDD,
+    Vertical = CVBarPropertySheet::IDD
+};
 inline constexpr Shown AllShown[] = {Shown::Name, Shown::Section,    Shown::Elevation, Shown::Stirrup,
                                      Shown::Bars, Shown::Horizontal, Shown::Vertical};
 
 class Stage {
 public:
     explicit Stage(Shown kind)
+        : made(Desk::MakePanel(static_cast<UINT>(kind), {Desk::Receiver::Route::Item, &item, nullptr}))
     {
         item.SetHWnd(this);
-        switch (kind) {
-        case Shown::Name: Make<CBeamNameDlg>()->Init(); break;
-        case Shown::Section: Make<CBeamSecDlg>()->Init("300x600"); break;
-        case Shown::Elevation: Make<CBeamLevelDlg>()->Init(); break;
-        case Shown::Stirrup: Make<CBeamGujinDlg>()->Init(); break;
-        case Shown::Bars: {
-            auto* const bars = Make<CBeamSteelDlg>();
-            bars->m_nSteelKind = 0;
-            bars->Init();
-            break;
+        panel = &made->Window();
+        made->Create(nullptr);
+        Desk::PanelUse use;
+        use.barKind = 0;
+        if (kind == Shown::Section) {
+            use.text = "300x600";
         }
-        case Shown::Horizontal: Make<CHBarPropertySheet>(); break;
-        case Shown::Vertical: Make<CVBarPropertySheet>(); break;
-        }
+        made->Open(use);
         Rebind();
     }
 
     // A confirmed picker lets go of its item.
     void Rebind()
     {
-        if (auto* const horizontal = dynamic_cast<CHBarPropertySheet*>(panel.get())) {
-            horizontal->m_pItem = &item;
-        } else if (auto* const vertical = dynamic_cast<CVBarPropertySheet*>(panel.get())) {
-            vertical->m_pItem = &item;
+        if (made->Held().bound) {
+            made->Open({});
         }
-        panel->MoveWindow(100, 100, Width(), Height());
+        CRect rect;
+        panel->GetWindowRect(&rect);
+        panel->MoveWindow(100, 100, rect.Width(), rect.Height());
         panel->ShowWindow(SW_SHOW);
+    }
+
+    void Destroy()
+    {
+        panel = nullptr;
+        made.reset();
     }
 
     // Everything that a person sees, and what went out.
@@ -82,24 +92,8 @@ public:
     }
 
     NotedItem item;
-    std::unique_ptr<CDialog> panel;
-
-private:
-    template <class Dialog>
-    Dialog* Make()
-    {
-        auto made = std::make_unique<Dialog>();
-        Dialog* const dialog = made.get();
-        panel = std::move(made);
-        dialog->m_pItem = &item;
-        if constexpr (requires { dialog->m_bToItem; }) {
-            dialog->m_bToItem = true;
-        }
-        dialog->Create(Dialog::IDD);
-        return dialog;
-    }
-    [[nodiscard]] int Width() const { return FindWindowRecord(panel->m_hWnd)->place.Width(); }
-    [[nodiscard]] int Height() const { return FindWindowRecord(panel->m_hWnd)->place.Height(); }
+    std::unique_ptr<Desk::Panel> made;
+    CDialog* panel = nullptr;
 };
 
 // Hands on the widgets: places are pixels of the window layer, as those of Hands.

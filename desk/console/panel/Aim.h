@@ -1,18 +1,16 @@
-// Where on the screen a step's place is.
+// Where on the screen a step's target is.
 #pragma once
 
-#include "desk/console/panel/Hand.h"
+#include "desk/console/panel/Picture.h"
 #include "desk/console/panel/Step.h"
 
 namespace Desk::Panels {
 
 // The control that a step names by id or, a button, by its caption.
-[[nodiscard]] const WindowRecord& FindControl(const Step& step, HWND hPanel);
+[[nodiscard]] Control FindControl(const Step& step, HWND hPanel);
 
-// The screen position of a step's place. A list's row is brought into view with the wheel first. All
-// throw Failure for what the panel does not have, and say what it has.
-[[nodiscard]] CPoint Aim(const Step& step, HWND hPanel, Hand& hand);
-
-[[nodiscard]] CPoint MiddleOf(const WindowRecord& control);
+// The screen position of a step's target. A list's row is brought into view with the wheel first. Both
+// throw Failure with what the panel has instead.
+[[nodiscard]] CPoint Aim(const Step& step, HWND hPanel, Hands& hands);
 
 }  // namespace Desk::Panels

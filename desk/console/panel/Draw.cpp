@@ -1,8 +1,7 @@
-// Laying the controls out in character cells: edges keep their order, spans grow to their texts.
+// Layout of the controls in character cells: edges keep their order, spans grow with their texts.
 #include "desk/console/panel/Draw.h"
 
 #include <algorithm>
-#include <functional>
 #include <map>
 
 #include "desk/console/Print.h"
@@ -16,17 +15,13 @@ constexpr int Gap = 2;          // cells between two columns
 constexpr int PieceWidth = 10;  // cells of a column in a list that runs sideways
 constexpr const char* OutOfView = " ..";
 
-// A control's text, ready to be put somewhere.
+// A control as lines of text, not placed yet.
 struct Block {
     const Control* control = nullptr;
     std::vector<std::string> lines;
-    int width = 0;  // cells
+    int width = 0;   // cells, with the gap to the next column
+    int height = 0;  // lines
 };
-
-std::string Wrap(const char* before, const std::string& text, const char* after)
-{
-    return std::string(before).append(text).append(after);
-}
 
 std::string DrawBox(const Control& box)
 {
@@ -36,12 +31,12 @@ std::string DrawBox(const Control& box)
     }
     const int room = box.place.Width() / ByteWidth;
     const bool toTheRight = Has(box.style, ControlStyle::AlignRight);
-    return Wrap("[", toTheRight ? PadLeft(text, room) : PadRight(text, room), "]");
+    return "[" + (toTheRight ? PadLeft(text, room) : PadRight(text, room)) + "]";
 }
 
 std::string DrawRow(const Control& list, int row)
 {
-    return Wrap(row == list.selection ? ">" : " ", list.rows[static_cast<std::size_t>(row)], "");
+    return (row == list.selection ? '>' : ' ') + list.rows[static_cast<std::size_t>(row)];
 }
 
 std::vector<std::string> DrawList(const Control& list)
@@ -77,35 +72,33 @@ Block MakeBlock(const Control& control, bool withIds)
     switch (control.kind) {
     case WindowKind::ListBox:
         block.lines = DrawList(control);
-        if (withIds) {
-            block.lines.insert(block.lines.begin(), id);
-        }
+        block.lines.insert(block.lines.begin(), withIds ? 1 : 0, id);
         break;
     case WindowKind::EditBox: block.lines = {DrawBox(control) + id}; break;
-    case WindowKind::Button: block.lines = {Wrap("<", control.text, ">") + id}; break;
+    case WindowKind::Button: block.lines = {"<" + control.text + ">" + id}; break;
     default: block.lines = {control.text};
     }
     for (const std::string& line : block.lines) {
-        block.width = std::max(block.width, DisplayWidth(line));
+        block.width = std::max(block.width, DisplayWidth(line) + Gap);
     }
+    block.height = static_cast<int>(block.lines.size());
     return block;
 }
 
-// Where each edge goes when edges keep their order and every block gets what it needs between its own.
-std::map<int, int> Place(const std::vector<Block>& blocks,
-                         const std::function<std::pair<int, int>(const Block&)>& span,
-                         const std::function<int(const Block&)>& need)
+// The cell of each edge: edges keep their order, and every block gets what it needs between its edges.
+std::map<int, int> Place(const std::vector<Block>& blocks, LONG RECT::*first, LONG RECT::*second,
+                         int Block::*need)
 {
     std::map<int, int> places;
     for (const Block& block : blocks) {
-        places[span(block).first] = 0;
-        places[span(block).second] = 0;
+        places[block.control->place.*first] = 0;
+        places[block.control->place.*second] = 0;
     }
     int reached = 0;
     for (auto& [edge, place] : places) {
         for (const Block& block : blocks) {
-            if (span(block).second == edge) {
-                reached = std::max(reached, places[span(block).first] + need(block));
+            if (block.control->place.*second == edge) {
+                reached = std::max(reached, places[block.control->place.*first] + block.*need);
             }
         }
         place = reached;
@@ -121,23 +114,14 @@ std::vector<std::string> Draw(const Picture& picture, bool withIds)
     for (const Control& control : picture.controls) {
         blocks.push_back(MakeBlock(control, withIds));
     }
-    const auto across = [](const Block& block) {
-        return std::pair<int, int>(block.control->place.left, block.control->place.right);
-    };
-    const auto down = [](const Block& block) {
-        return std::pair<int, int>(block.control->place.top, block.control->place.bottom);
-    };
-    std::map<int, int> columns =
-        Place(blocks, across, [](const Block& block) { return block.width + Gap; });
-    std::map<int, int> rows =
-        Place(blocks, down, [](const Block& block) { return static_cast<int>(block.lines.size()); });
-
+    std::map<int, int> columns = Place(blocks, &RECT::left, &RECT::right, &Block::width);
+    std::map<int, int> rows = Place(blocks, &RECT::top, &RECT::bottom, &Block::height);
     std::sort(blocks.begin(), blocks.end(),
               [](const Block& a, const Block& b) { return a.control->place.left < b.control->place.left; });
     std::vector<std::string> lines;
     for (const Block& block : blocks) {
         const int left = columns[block.control->place.left];
-        const int room = columns[block.control->place.right] - Gap - left;
+        const int room = columns[block.control->place.right] - left;
         const int indent =
             Has(block.control->style, ControlStyle::AlignCenter) ? (room - block.width) / 2 : 0;
         auto row = static_cast<std::size_t>(rows[block.control->place.top]);

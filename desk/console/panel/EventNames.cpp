@@ -2,7 +2,6 @@
 #include "desk/console/panel/EventNames.h"
 
 #include <algorithm>
-#include <array>
 
 namespace Desk::Panels {
 
@@ -36,12 +35,6 @@ std::string Find(const Named (&table)[Count], UINT number)
     return row != std::end(table) ? row->name : std::to_string(number);
 }
 
-}  // namespace
-
-std::string MessageName(UINT message) { return Find(Messages, message); }
-
-std::string NoticeName(UINT code) { return Find(Notices, code); }
-
 std::string KeyName(WPARAM key)
 {
     if (key == VK_SHIFT) {
@@ -54,12 +47,29 @@ std::string KeyName(WPARAM key)
 
 std::string CharName(WPARAM byte)
 {
-    constexpr std::array Digits = {'0', '1', '2', '3', '4', '5', '6', '7',
-                                   '8', '9', 'A', 'B', 'C', 'D', 'E', 'F'};
+    constexpr const char* Digits = "0123456789ABCDEF";
     if (byte > ' ' && byte < 0x7F) {
         return std::string("'") + static_cast<char>(byte) + "'";
     }
     return byte < 0x7F ? KeyName(byte) : std::string("byte ") + Digits[byte / 16 % 16] + Digits[byte % 16];
+}
+
+}  // namespace
+
+std::string MessageName(UINT message) { return Find(Messages, message); }
+
+std::string NoticeName(UINT code) { return Find(Notices, code); }
+
+std::string DetailOf(const MSG& event)
+{
+    switch (event.message) {
+    case WM_CHAR: return CharName(event.wParam);
+    case WM_KEYDOWN:
+    case WM_KEYUP: return KeyName(event.wParam);
+    default:
+        return "at " + std::to_string(GET_X_LPARAM(event.lParam)) + "," +
+               std::to_string(GET_Y_LPARAM(event.lParam));
+    }
 }
 
 }  // namespace Desk::Panels

@@ -7,7 +7,7 @@
 
 namespace Desk::Panels {
 
-// "WM_LBUTTONDOWN"; the number of one that has no name here.
+// "WM_LBUTTONDOWN"; the number of a message without a name here.
 [[nodiscard]] std::string MessageName(UINT message);
 // "LBN_SELCHANGE".
 [[nodiscard]] std::string NoticeName(UINT code);
@@ -26,8 +26,8 @@ inline constexpr NamedKey Keys[] = {
     {"end", VK_END},     {"pageup", VK_PRIOR}, {"pagedown", VK_NEXT},       {"f4", VK_F4},
 };
 
-// "esc"; for a typed byte the character in quotes or "byte B2".
-[[nodiscard]] std::string KeyName(WPARAM key);
-[[nodiscard]] std::string CharName(WPARAM byte);
+// Of a mouse event "at 12,40", in pixels of its target; of a key "esc"; of a typed byte the character in
+// quotes or "byte B2".
+[[nodiscard]] std::string DetailOf(const MSG& event);
 
 }  // namespace Desk::Panels

@@ -13,6 +13,7 @@ namespace {
 Control ReadControl(const WindowRecord& window, HWND focus)
 {
     Control control;
+    control.handle = window.handle;
     control.id = window.id;
     control.kind = window.kind;
     control.style = window.style;
@@ -75,23 +76,20 @@ Picture TakePicture(HWND hPanel)
     return picture;
 }
 
-std::string NameOf(WindowKind kind, int id)
+const char* KindName(WindowKind kind)
 {
-    const std::string number = std::to_string(id);
     switch (kind) {
-    case WindowKind::ListBox: return "list " + number;
-    case WindowKind::EditBox: return "box " + number;
-    case WindowKind::Button: return "button " + number;
+    case WindowKind::ListBox: return "list";
+    case WindowKind::EditBox: return "box";
+    case WindowKind::Button: return "button";
     default: return "label";
     }
 }
 
-std::string Quoted(const std::string& text)
+std::string NameOf(WindowKind kind, int id)
 {
-    std::string quoted = "\"";
-    quoted += text;
-    quoted += '"';
-    return quoted;
+    const std::string name = KindName(kind);
+    return kind == WindowKind::Label ? name : name + " " + std::to_string(id);
 }
 
 std::vector<std::string> Changes(const Picture& before, const Picture& after)

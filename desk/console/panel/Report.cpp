@@ -6,32 +6,13 @@
 
 #include "desk/console/Print.h"
 #include "desk/console/panel/Draw.h"
+#include "desk/project/Encoding.h"
 
 namespace Desk::Panels {
 
 namespace {
 
 constexpr const char* Indent = "    ";
-
-std::vector<Effect> EffectsOf(const Done& done)
-{
-    std::vector<Effect> effects = done.effects;
-    for (const Event& event : done.events) {
-        effects.insert(effects.end(), event.offered.begin(), event.offered.end());
-        effects.insert(effects.end(), event.dispatched.begin(), event.dispatched.end());
-    }
-    return effects;
-}
-
-std::string Words(const Effect& effect)
-{
-    return effect.kind == EffectKind::Message ? "message box: " + effect.words : effect.words;
-}
-
-bool IsOutcome(const Effect& effect)
-{
-    return effect.kind == EffectKind::Delivered || effect.kind == EffectKind::Message;
-}
 
 bool ShowSame(const Control& a, const Control& b)
 {
@@ -47,53 +28,51 @@ bool IsSame(const Picture& a, const Picture& b)
 
 std::string JoinWords(const std::vector<Effect>& effects)
 {
-    std::string joined;
-    for (const Effect& effect : effects) {
-        joined += (joined.empty() ? "" : ", ") + Words(effect);
-    }
-    return joined;
-}
-
-void PrintHead(int number, const Done& done, std::ostream& out)
-{
-    out << '\n' << number << ". " << done.source << '\n';
+    return Joined(effects, [](const Effect& effect) { return effect.words; });
 }
 
 void PrintHolding(const Holding& holding, std::ostream& out)
 {
+    const auto quoted = [](const CString& text) { return Quoted(Utf8FromGbk(text)); };
     if (holding.text) {
-        out << Indent << (holding.bound ? "item: " : "text: ") << Quoted(*holding.text);
-        if (holding.bound) {
-            out << (*holding.bound ? ", bound" : ", not bound");
-        }
-        out << '\n';
+        out << Indent << (holding.bound ? "item: " : "text: ") << quoted(*holding.text)
+            << (!holding.bound   ? ""
+                : *holding.bound ? ", bound"
+                                 : ", not bound")
+            << '\n';
         return;
     }
-    for (const Group& group : holding.groups) {
-        out << Indent << "group " << group.number << ": " << Quoted(group.text) << ", pieces";
-        for (const std::string& piece : group.pieces) {
-            out << ' ' << Quoted(piece);
-        }
-        out << '\n';
+    for (const Holding::Group& group : holding.groups) {
+        out << Indent << "group " << group.number << ": " << quoted(group.text) << ", pieces"
+            << Joined(
+                   group.pieces, [&](const CString& piece) { return " " + quoted(piece); }, "")
+            << '\n';
     }
-    out << Indent << (holding.groups.empty() ? "all groups empty, " : "");
-    if (holding.editedRow == -1) {
-        out << "mode: new piece\n";
-    } else {
-        out << "mode: edit row " << holding.editedRow << '\n';
-    }
+    out << Indent << (holding.groups.empty() ? "all groups empty, " : "")
+        << (holding.editedRow == -1 ? "mode: new piece"
+                                    : "mode: edit row " + std::to_string(holding.editedRow))
+        << '\n';
 }
 
-void PrintOutcomes(const std::vector<Effect>& effects, std::ostream& out)
+void PrintOutcomes(const std::vector<Effect>& outcomes, std::ostream& out)
 {
-    for (const Effect& effect : effects) {
-        if (IsOutcome(effect)) {
-            out << "  -> " << Words(effect) << '\n';
-        }
+    for (const Effect& outcome : outcomes) {
+        out << "  -> " << outcome.words << '\n';
     }
 }
 
 }  // namespace
+
+std::vector<Effect> OutcomesOf(const Done& done)
+{
+    std::vector<Effect> outcomes = done.effects;
+    for (const Event& event : done.events) {
+        outcomes.insert(outcomes.end(), event.offered.begin(), event.offered.end());
+        outcomes.insert(outcomes.end(), event.dispatched.begin(), event.dispatched.end());
+    }
+    std::erase_if(outcomes, [](const Effect& effect) { return !effect.isOutcome; });
+    return outcomes;
+}
 
 void PrintPicture(const Picture& picture, bool withIds, std::ostream& out)
 {
@@ -116,18 +95,16 @@ void PrintStart(const std::string& title, const Picture& picture, bool withIds, 
 
 void PrintStep(int number, const Done& done, const Picture& before, bool withIds, std::ostream& out)
 {
-    PrintHead(number, done, out);
-    const std::vector<Effect> effects = EffectsOf(done);
-    PrintOutcomes(effects, out);
-    const bool delivered = std::any_of(effects.begin(), effects.end(), [](const Effect& effect) {
-        return effect.kind == EffectKind::Delivered;
-    });
-    const bool hidByUser = before.shown && !done.picture.shown && !done.events.empty();
-    if (hidByUser && !delivered) {
+    out << '\n' << number << ". " << done.source << '\n';
+    const std::vector<Effect> outcomes = OutcomesOf(done);
+    PrintOutcomes(outcomes, out);
+    const bool turned = before.shown != done.picture.shown;
+    const auto isDelivery = [](const Effect& effect) { return effect.json.contains("delivered"); };
+    if (turned && before.shown && !done.events.empty() &&
+        std::none_of(outcomes.begin(), outcomes.end(), isDelivery)) {
         out << "  -> hidden, nothing delivered\n";
     }
     if (IsSame(before, done.picture)) {
-        const bool turned = before.shown != done.picture.shown;
         out << Indent
             << (!turned              ? "(as before)"
                 : done.picture.shown ? "(shown, as before)"
@@ -140,31 +117,29 @@ void PrintStep(int number, const Done& done, const Picture& before, bool withIds
 
 void PrintOutcome(int number, const Done& done, std::ostream& out)
 {
-    const std::vector<Effect> effects = EffectsOf(done);
-    if (std::any_of(effects.begin(), effects.end(), IsOutcome)) {
+    if (const std::vector<Effect> outcomes = OutcomesOf(done); !outcomes.empty()) {
         out << number << ". " << done.source << '\n';
-        PrintOutcomes(effects, out);
+        PrintOutcomes(outcomes, out);
     }
 }
 
 void PrintEvents(int number, const Done& done, std::ostream& out)
 {
-    PrintHead(number, done, out);
+    out << '\n' << number << ". " << done.source << '\n';
     if (!done.effects.empty() || done.events.empty()) {
-        out << "    by the host: " << (done.effects.empty() ? "no change" : JoinWords(done.effects))
+        out << Indent << "by the host: " << (done.effects.empty() ? "no change" : JoinWords(done.effects))
             << '\n';
     }
-    int nameWidth = 0;
-    int targetWidth = 0;
-    int detailWidth = 0;
+    const auto padded = [&](const Event& event, std::string Event::*column) {
+        int width = 0;
+        for (const Event& one : done.events) {
+            width = std::max(width, DisplayWidth(one.*column));
+        }
+        return PadRight(event.*column, width + 2);
+    };
     for (const Event& event : done.events) {
-        nameWidth = std::max(nameWidth, DisplayWidth(event.name));
-        targetWidth = std::max(targetWidth, DisplayWidth(event.target));
-        detailWidth = std::max(detailWidth, DisplayWidth(event.detail));
-    }
-    for (const Event& event : done.events) {
-        out << Indent << PadRight(event.name, nameWidth + 2) << PadRight(event.target, targetWidth + 2)
-            << PadRight(event.detail, detailWidth + 2)
+        out << Indent << padded(event, &Event::name) << padded(event, &Event::target)
+            << padded(event, &Event::detail)
             << (event.finishedBy.empty() ? "dispatched" : "finished by the " + event.finishedBy) << '\n';
         if (!event.offered.empty()) {
             out << Indent << "  offered: " << JoinWords(event.offered) << '\n';

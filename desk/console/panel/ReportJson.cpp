@@ -1,21 +1,13 @@
 // The same for programs.
 #include "desk/console/panel/Report.h"
 
+#include "desk/project/Encoding.h"
+
 namespace Desk::Panels {
 
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-const char* KindName(WindowKind kind)
-{
-    switch (kind) {
-    case WindowKind::ListBox: return "list";
-    case WindowKind::EditBox: return "box";
-    case WindowKind::Button: return "button";
-    default: return "label";
-    }
-}
 
 Json ControlJson(const Control& control)
 {
@@ -43,34 +35,9 @@ Json EffectsJson(const std::vector<Effect>& effects)
 {
     Json json = Json::array();
     for (const Effect& effect : effects) {
-        const Delivery& delivery = effect.delivery;
-        switch (effect.kind) {
-        case EffectKind::Delivered:
-            if (delivery.toItem) {
-                json.push_back({{"delivered", "item"}, {"text", delivery.text}});
-            } else {
-                json.push_back({{"delivered", "callback"},
-                                {"first", delivery.receiver},
-                                {"mode", delivery.mode},
-                                {"text", delivery.text},
-                                {"code", delivery.code}});
-            }
-            break;
-        case EffectKind::Message: json.push_back({{"message", effect.words}}); break;
-        case EffectKind::Notified: json.push_back({{"notified", effect.words}}); break;
-        case EffectKind::Changed: json.push_back({{"changed", effect.words}}); break;
-        }
+        json.push_back(effect.json);
     }
     return json;
-}
-
-void KeepOutcomes(Json& all, const Json& effects)
-{
-    for (const Json& effect : effects) {
-        if (effect.contains("delivered") || effect.contains("message")) {
-            all.push_back(effect);
-        }
-    }
 }
 
 }  // namespace
@@ -79,15 +46,18 @@ Json JsonOf(const Picture& picture)
 {
     Json json = {{"shown", picture.shown}, {"x", picture.place.left}, {"y", picture.place.top}};
     if (picture.holding.text) {
-        json["text"] = *picture.holding.text;
+        json["text"] = Utf8FromGbk(*picture.holding.text);
         if (picture.holding.bound) {
             json["bound"] = *picture.holding.bound;
         }
     } else {
         json["groups"] = Json::array();
-        for (const Group& group : picture.holding.groups) {
+        for (const Holding::Group& group : picture.holding.groups) {
+            std::vector<std::string> pieces;
+            std::transform(group.pieces.begin(), group.pieces.end(), std::back_inserter(pieces),
+                           Utf8FromGbk);
             json["groups"].push_back(
-                {{"group", group.number}, {"text", group.text}, {"pieces", group.pieces}});
+                {{"group", group.number}, {"text", Utf8FromGbk(group.text)}, {"pieces", pieces}});
         }
         json["edited row"] = picture.holding.editedRow;
     }
@@ -99,21 +69,18 @@ Json JsonOf(const Picture& picture)
 
 Json JsonOf(const Done& done, bool withEvents)
 {
-    Json json = {{"step", done.source}, {"outcome", Json::array()}};
-    Json events = Json::array();
-    KeepOutcomes(json["outcome"], EffectsJson(done.effects));
-    for (const Event& event : done.events) {
-        const Json offered = EffectsJson(event.offered);
-        const Json dispatched = EffectsJson(event.dispatched);
-        KeepOutcomes(json["outcome"], offered);
-        KeepOutcomes(json["outcome"], dispatched);
-        events.push_back({{"event", event.name}, {"target", event.target}, {"detail", event.detail}});
-        events.back()["finished by"] = event.finishedBy.empty() ? "dispatch" : event.finishedBy;
-        events.back()["offered"] = offered;
-        events.back()["dispatched"] = dispatched;
-    }
+    Json json = {{"step", done.source}, {"outcome", EffectsJson(OutcomesOf(done))}};
     if (withEvents) {
-        json["events"] = events;
+        json["events"] = Json::array();
+        for (const Event& event : done.events) {
+            json["events"].push_back(
+                {{"event", event.name},
+                 {"target", event.target},
+                 {"detail", event.detail},
+                 {"finished by", event.finishedBy.empty() ? "dispatch" : event.finishedBy},
+                 {"offered", EffectsJson(event.offered)},
+                 {"dispatched", EffectsJson(event.dispatched)}});
+        }
     }
     json["panel"] = JsonOf(done.picture);
     return json;

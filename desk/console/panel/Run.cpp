@@ -2,19 +2,14 @@
 #include "desk/console/panel/Run.h"
 
 #include "desk/console/panel/Aim.h"
+#include "desk/console/panel/Watched.h"
 
 namespace Desk::Panels {
 
-namespace {
-
-constexpr int FrameWidth = 1280, FrameHeight = 800;  // pixels
-
-bool IsOfHost(Verb verb)
+Run::Item::Item(Watch& watch) : m_watch(watch)
 {
-    return verb == Verb::Text || verb == Verb::Kind || verb == Verb::Show || verb == Verb::Hide;
+    SetHWnd(this);  // pickers use an item only while it is attached
 }
-
-}  // namespace
 
 void Run::Item::SetValue(CString strValue)
 {
@@ -22,17 +17,17 @@ void Run::Item::SetValue(CString strValue)
     CPropertyGridItem::SetValue(strValue);
 }
 
-Run::Run(const Setup& setup) : m_item(m_watch)
+Run::Run(const Setup& setup) : m_kind(setup.kind), m_item(m_watch), m_hands(m_watch)
 {
+    constexpr int FrameWidth = 1280, FrameHeight = 800;  // pixels
     m_frame.CreateFrame(CRect(0, 0, FrameWidth, FrameHeight));
     m_frame.ShowWindow(SW_SHOW);
-    m_panel = MakePanel(setup, m_watch, &m_item, &m_hostData);
-    m_panel->Open(setup.to == Route::Host ? nullptr : &m_frame);
-    const HWND hPanel = m_panel->Window().m_hWnd;
-    m_watch.Know(hPanel, &m_frame, &m_hostData);
+    m_panel = MakePanel<Watched>(static_cast<UINT>(setup.kind), {setup.to, &m_item, &m_hostData}, m_watch);
+    m_panel->Create(setup.to == Receiver::Route::HostData ? nullptr : &m_frame);
+    m_panel->Open(setup.use);
+    m_watch.Know(m_panel->Window().m_hWnd, &m_frame, &m_hostData);
     m_panel->Window().ShowWindow(SW_SHOW);
     m_watch.Look();
-    m_hand = std::make_unique<Hand>(hPanel, m_watch);
 }
 
 Picture Run::Now() const
@@ -46,19 +41,20 @@ Done Run::Do(const Step& step)
 {
     Done done;
     done.source = step.source;
-    if (IsOfHost(step.verb)) {
+    const bool isOfHost = step.verb == Verb::Text || step.verb == Verb::Kind || step.verb == Verb::Show ||
+                          step.verb == Verb::Hide;
+    if (isOfHost) {
         m_watch.WriteTo(&done.effects);
         DoAsHost(step);
         m_watch.Look();
         m_watch.WriteTo(nullptr);
     } else {
         if (!m_panel->Window().IsWindowVisible()) {
-            ThrowAt(step,
-                    "the panel is hidden, so that it takes no mouse and no keys; show brings it back");
+            ThrowAt(step, "the panel is hidden and takes no mouse or keys; use show first");
         }
-        m_hand->WriteTo(&done.events);
+        m_hands.WriteTo(&done.events);
         DoAsUser(step);
-        m_hand->WriteTo(nullptr);
+        m_hands.WriteTo(nullptr);
     }
     done.picture = Now();
     return done;
@@ -68,73 +64,57 @@ void Run::DoAsHost(const Step& step)
 {
     switch (step.verb) {
     case Verb::Text:
-        if (!m_panel->SetText(step.text)) {
+        if (m_kind == PanelKind::Bars) {
             ThrowAt(step, "the bar panel takes no text, it starts empty; kind N opens it anew");
         }
+        m_panel->Open({step.text, -1, 0, {}});
         break;
     case Verb::Kind:
-        if (!m_panel->SetKind(step.number)) {
+        if (m_kind != PanelKind::Bars) {
             ThrowAt(step, "only the bar panel is opened for a kind");
         }
+        m_panel->Open({{}, step.number, 0, {}});
         break;
-    case Verb::Show: m_panel->Window().ShowWindow(SW_SHOW); break;
-    default: m_panel->Window().ShowWindow(SW_HIDE); break;
+    default: m_panel->Window().ShowWindow(step.verb == Verb::Show ? SW_SHOW : SW_HIDE); break;
     }
 }
 
 void Run::DoAsUser(const Step& step)
 {
     const HWND hPanel = m_panel->Window().m_hWnd;
+    const auto aim = [&] { return Aim(step, hPanel, m_hands); };
     switch (step.verb) {
     case Verb::Click:
     case Verb::Drag: {
-        const CPoint from = Aim(step, hPanel, *m_hand);
-        m_hand->Press(from);
-        m_hand->Release(CPoint(from.x + step.distance.x, from.y + step.distance.y));
+        const CPoint from = aim();
+        m_hands.Drag(from, CPoint(from.x + step.distance.x, from.y + step.distance.y));
         break;
     }
-    case Verb::Double: m_hand->DoubleClick(Aim(step, hPanel, *m_hand)); break;
-    case Verb::Press: m_hand->Press(Aim(step, hPanel, *m_hand)); break;
-    case Verb::Release: m_hand->Release(Aim(step, hPanel, *m_hand)); break;
-    case Verb::Right: m_hand->RightClick(Aim(step, hPanel, *m_hand)); break;
-    case Verb::Wheel: m_hand->Wheel(MiddleOf(FindControl(step, hPanel)), step.number); break;
-    case Verb::Type: Type(step); break;
-    case Verb::Clear: Clear(step); break;
+    case Verb::Double: m_hands.DoubleClick(aim()); break;
+    case Verb::Press: m_hands.Press(aim()); break;
+    case Verb::Release: m_hands.Release(aim()); break;
+    case Verb::Right: m_hands.RightClick(aim()); break;
+    case Verb::Wheel:
+        m_hands.Wheel(Hands::MiddleOf(*CWnd::FromHandle(FindControl(step, hPanel).handle)), step.number);
+        break;
+    case Verb::Type: m_hands.TypeInto(FindBox(step), step.text); break;
+    case Verb::Clear: m_hands.Clear(FindBox(step)); break;
     case Verb::Key:
         for (int i = 0; i < step.number; ++i) {
-            m_hand->Key(step.key, step.shift);
+            m_hands.Key(step.key, step.shift);
         }
         break;
     default: break;
     }
 }
 
-void Run::GoIntoBox(const Step& step)
+const CWnd& Run::FindBox(const Step& step) const
 {
-    const WindowRecord& box = FindControl(step, m_panel->Window().m_hWnd);
+    const Control box = FindControl(step, m_panel->Window().m_hWnd);
     if (box.kind != WindowKind::EditBox) {
-        ThrowAt(step, NameOf(box.kind, box.id) + " takes no text; type and clear go to an edit box");
+        ThrowAt(step, NameOf(box.kind, box.id) + " takes no text; type and clear need an edit box");
     }
-    const CPoint middle = MiddleOf(box);
-    m_hand->Press(middle);
-    m_hand->Release(middle);
-    m_hand->Key(VK_END);
-}
-
-void Run::Type(const Step& step)
-{
-    GoIntoBox(step);
-    m_hand->Type(step.text);
-}
-
-void Run::Clear(const Step& step)
-{
-    GoIntoBox(step);
-    const HWND hBox = FindControl(step, m_panel->Window().m_hWnd).handle;
-    for (int left = FindWindowRecord(hBox)->text.GetLength();
-         left > 0 && !FindWindowRecord(hBox)->text.IsEmpty(); --left) {
-        m_hand->Key(VK_BACK);
-    }
+    return *CWnd::FromHandle(box.handle);
 }
 
 }  // namespace Desk::Panels

@@ -14,31 +14,54 @@ namespace Desk::Panels {
 
 namespace {
 
+// parts has a letter for each thing that a step takes: P a target, p a target or none, C a control, B a
+// box, T a text, K a key and how many times, N notches of the wheel, D a distance, k a kind.
 struct Form {
     Verb verb;
     const char* name;
+    const char* parts;
     const char* form;
     const char* about;
 };
 
 constexpr Form Forms[] = {
-    {Verb::Click, "click", "click LIST ROW, click CONTROL or click X,Y", "press and release"},
-    {Verb::Double, "double", "double LIST ROW, double CONTROL or double X,Y", "double click"},
-    {Verb::Right, "right", "right, right CONTROL, right LIST ROW or right X,Y",
+    {Verb::Click, "click", "P", "click LIST ROW, click CONTROL or click X,Y", "press and release"},
+    {Verb::Double, "double", "P", "double LIST ROW, double CONTROL or double X,Y", "double click"},
+    {Verb::Right, "right", "p", "right, right CONTROL, right LIST ROW or right X,Y",
      "confirm: right press and release"},
-    {Verb::Type, "type", "type BOX TEXT", "go behind a box's text and type"},
-    {Verb::Clear, "clear", "clear BOX", "take a box's text away with the Backspace key"},
-    {Verb::Key, "key", "key NAME or key NAME TIMES", "esc tab shift+tab enter space back delete left ..."},
-    {Verb::Wheel, "wheel", "wheel CONTROL NOTCHES", "turn the wheel, above 0 towards the first row"},
-    {Verb::Drag, "drag", "drag DX DY, or with a place behind it as in click",
-     "press, and release so far away"},
-    {Verb::Press, "press", "press LIST ROW, press CONTROL or press X,Y", "the left button goes down"},
-    {Verb::Release, "release", "release CONTROL or release X,Y", "it goes up"},
-    {Verb::Text, "text", "text TEXT", "the host sets a new text"},
-    {Verb::Kind, "kind", "kind N", "the host opens the bar panel for a kind, -1 to 8"},
-    {Verb::Show, "show", "show", "the host shows the panel"},
-    {Verb::Hide, "hide", "hide", "the host hides it"},
+    {Verb::Type, "type", "BT", "type BOX TEXT", "type at the end of a box's text"},
+    {Verb::Clear, "clear", "B", "clear BOX", "delete a box's text with the Backspace key"},
+    {Verb::Key, "key", "K", "key NAME or key NAME TIMES",
+     "esc tab shift+tab enter space back delete left ..."},
+    {Verb::Wheel, "wheel", "CN", "wheel CONTROL NOTCHES", "turn the wheel, above 0 towards the first row"},
+    {Verb::Drag, "drag", "Dp", "drag DX DY, or followed by a target as for click",
+     "press, and release at that distance"},
+    {Verb::Press, "press", "P", "press LIST ROW, press CONTROL or press X,Y", "the left button goes down"},
+    {Verb::Release, "release", "P", "release CONTROL or release X,Y", "it goes up"},
+    {Verb::Text, "text", "T", "text TEXT", "the host sets a new text"},
+    {Verb::Kind, "kind", "k", "kind N", "the host opens the bar panel for a kind, -1 to 8"},
+    {Verb::Show, "show", "", "show", "the host shows the panel"},
+    {Verb::Hide, "hide", "", "hide", "the host hides it"},
 };
+
+std::string NameIn(const Form& form) { return form.name; }
+std::string NameIn(const NamedKey& key) { return key.name; }
+
+// The row of a table with a name; null where there is none.
+template <class Row, std::size_t Count>
+const Row* Find(const Row (&table)[Count], const std::string& name)
+{
+    const Row* const row =
+        std::find_if(std::begin(table), std::end(table), [&](const Row& one) { return name == one.name; });
+    return row != std::end(table) ? row : nullptr;
+}
+
+template <class Row, std::size_t Count>
+std::string Unknown(const char* what, const std::string& name, const Row (&table)[Count])
+{
+    return "unknown " + (what + (" " + Quoted(name))) + "; " + what +
+           "s: " + Joined(table, [](const Row& row) { return NameIn(row); });
+}
 
 std::optional<int> NumberOf(std::string_view text)
 {
@@ -66,11 +89,17 @@ public:
 
     Step Read()
     {
-        m_form = FindForm();
+        const std::string& name = m_words.front().text;
+        m_form = Find(Forms, name);
+        if (m_form == nullptr) {
+            ThrowAt(m_step, Unknown("step", name, Forms));
+        }
         m_step.verb = m_form->verb;
-        ReadParts();
-        if (m_next < m_words.size()) {
-            Refuse("\"" + m_words[m_next].text + "\" is too much; a text with blanks stands in quotes");
+        for (const char* part = m_form->parts; *part != '\0'; ++part) {
+            TakePart(*part);
+        }
+        if (HasMore()) {
+            Refuse("unexpected " + Quoted(m_words[m_next].text) + "; a text with blanks needs quotes");
         }
         return std::move(m_step);
     }
@@ -78,33 +107,18 @@ public:
 private:
     [[noreturn]] void Refuse(const std::string& what) const
     {
-        ThrowAt(m_step, what + "; it is: " + m_form->form);
+        ThrowAt(m_step, what + "; write: " + m_form->form);
     }
 
-    [[nodiscard]] const Form* FindForm() const
-    {
-        const std::string& name = m_words.front().text;
-        const auto* const form = std::find_if(std::begin(Forms), std::end(Forms),
-                                              [&](const Form& row) { return name == row.name; });
-        if (form == std::end(Forms)) {
-            std::string names;
-            for (const Form& row : Forms) {
-                names += std::string(names.empty() ? "" : ", ") + row.name;
-            }
-            ThrowAt(m_step, "no step is called \"" + name + "\"; there are " + names);
-        }
-        return form;
-    }
+    [[nodiscard]] bool HasMore() const { return m_next < m_words.size(); }
 
     const Word& Take(const char* what)
     {
-        if (m_next == m_words.size()) {
+        if (!HasMore()) {
             Refuse(std::string(what) + " is missing");
         }
         return m_words[m_next++];
     }
-
-    [[nodiscard]] bool HasMore() const { return m_next < m_words.size(); }
 
     int TakeNumber(const char* what, int least, int most)
     {
@@ -112,37 +126,27 @@ private:
         const std::optional<int> number = NumberOf(text);
         if (!number || *number < least || *number > most) {
             Refuse(std::string(what) + " is a whole number from " + std::to_string(least) + " to " +
-                   std::to_string(most) + ", not \"" + text + "\"");
+                   std::to_string(most) + ", not " + Quoted(text));
         }
         return *number;
     }
 
-    CString TakeText()
+    void TakeTarget()
     {
-        const std::optional<CString> text = GbkFromUtf8(Take("the text").text);
-        if (!text) {
-            Refuse("the text has a character that GBK lacks");
-        }
-        return *text;
-    }
-
-    void TakeControl(const char* what) { m_step.place.control = Take(what).text; }
-
-    void TakePlace()
-    {
-        Place& place = m_step.place;
-        const Word& word = Take("the place");
-        place.point = PointOf(word);
-        if (place.point) {
+        Target& target = m_step.target;
+        const Word& word = Take("the control or position");
+        target.point = PointOf(word);
+        if (target.point) {
             return;
         }
-        place.control = word.text;
+        target.control = word.text;
         if (HasMore()) {
             const Word& row = m_words[m_next++];
             if (row.quoted || !row.text.starts_with('#')) {
-                place.rowText = row.text;
-            } else if (place.rowNumber = NumberOf(std::string_view(row.text).substr(1)); !place.rowNumber) {
-                Refuse("a row by its number is #0, #1, ..., not \"" + row.text + "\"");
+                target.rowText = row.text;
+            } else if (target.rowNumber = NumberOf(std::string_view(row.text).substr(1));
+                       !target.rowNumber) {
+                Refuse("a row's number is #0, #1, ..., not " + Quoted(row.text));
             }
         }
     }
@@ -150,54 +154,47 @@ private:
     void TakeKey()
     {
         const std::string& name = Take("the key").text;
-        const auto* const key = std::find_if(std::begin(Keys), std::end(Keys),
-                                             [&](const NamedKey& row) { return name == row.name; });
-        if (key == std::end(Keys)) {
-            std::string names;
-            for (const NamedKey& row : Keys) {
-                names += std::string(names.empty() ? "" : ", ") + row.name;
-            }
-            Refuse("no key is called \"" + name + "\"; there are " + names);
+        const NamedKey* const key = Find(Keys, name);
+        if (key == nullptr) {
+            Refuse(Unknown("key", name, Keys));
         }
         m_step.key = key->key;
         m_step.shift = key->shift;
     }
 
-    void ReadParts()
+    void TakeText()
+    {
+        const std::optional<CString> text = GbkFromUtf8(Take("the text").text);
+        if (!text) {
+            Refuse("the text has a character that GBK lacks");
+        }
+        m_step.text = *text;
+    }
+
+    void TakePart(char part)
     {
         constexpr int Far = 10'000;  // pixels
         constexpr int Many = 1000;
-        switch (m_step.verb) {
-        case Verb::Click:
-        case Verb::Double:
-        case Verb::Press:
-        case Verb::Release: TakePlace(); break;
-        case Verb::Drag:
-            m_step.distance.x = TakeNumber("the way across", -Far, Far);
-            m_step.distance.y = TakeNumber("the way down", -Far, Far);
-            [[fallthrough]];
-        case Verb::Right:
+        switch (part) {
+        case 'p':
             if (HasMore()) {
-                TakePlace();
+                TakeTarget();
             }
             break;
-        case Verb::Wheel:
-            TakeControl("the control");
-            m_step.number = TakeNumber("the number of notches", -Many, Many);
-            break;
-        case Verb::Type:
-            TakeControl("the box");
-            m_step.text = TakeText();
-            break;
-        case Verb::Clear: TakeControl("the box"); break;
-        case Verb::Key:
+        case 'P': TakeTarget(); break;
+        case 'C': m_step.target.control = Take("the control").text; break;
+        case 'B': m_step.target.control = Take("the box").text; break;
+        case 'T': TakeText(); break;
+        case 'K':
             TakeKey();
-            m_step.number = HasMore() ? TakeNumber("how often", 1, Many) : 1;
+            m_step.number = HasMore() ? TakeNumber("the number of times", 1, Many) : 1;
             break;
-        case Verb::Text: m_step.text = TakeText(); break;
-        case Verb::Kind: m_step.number = TakeNumber("the kind", -1, 8); break;
-        case Verb::Show:
-        case Verb::Hide: break;
+        case 'N': m_step.number = TakeNumber("the number of notches", -Many, Many); break;
+        case 'D':
+            m_step.distance.x = TakeNumber("the distance across", -Far, Far);
+            m_step.distance.y = TakeNumber("the distance down", -Far, Far);
+            break;
+        default: m_step.number = TakeNumber("the kind", -1, 8); break;
         }
     }
 
@@ -226,14 +223,13 @@ void ThrowAt(const Step& step, const std::string& what)
 std::string StepHelp()
 {
     constexpr int FormWidth = 51;
-    std::string help = "Steps, with \";\" or a new line between them:\n";
+    std::string help = "Steps, separated by \";\" or line ends:\n";
     for (const Form& row : Forms) {
         help += "  " + PadRight(row.form, FormWidth) + row.about + "\n";
     }
     return help +
-           "A control is named by its id, a button also by its caption; a row by its text or, "
-           "from 0, as\n#N; X,Y are pixels from the panel's corner. A word with blanks or \";\" in it "
-           "stands in quotes.";
+           "A control is named by its id, a button also by its caption; a row by its text or as #N, from "
+           "0;\nX,Y are pixels from the panel's corner. A word that contains blanks or \";\" needs quotes.";
 }
 
 }  // namespace Desk::Panels

@@ -27,8 +27,8 @@ enum class Verb {
     Hide
 };
 
-// Where the pointer goes. A bare place is the panel's own surface, outside every control.
-struct Place {
+// Where the pointer goes. A bare target is the panel's own surface, outside every control.
+struct Target {
     std::string control;           // id or caption, empty for none
     std::optional<CPoint> point;   // pixels of the panel's client area
     std::optional<int> rowNumber;  // of a list, from 0
@@ -41,7 +41,7 @@ struct Step {
     Verb verb = Verb::Show;
     std::string origin;  // "step 3", or "FILE:7" in a script
     std::string source;  // as it was written, without the blanks around it
-    Place place;
+    Target target;
     CPoint distance;  // of a drag
     int number = 1;   // kind, notches of the wheel, times of a key
     UINT key = 0;
@@ -49,15 +49,15 @@ struct Step {
     CString text;  // to type or to set
 };
 
-// Steps stand one a line or with ";" between them; a line that begins with "#" is a remark. A word
-// with a blank or ";" in it is put in quotes of either kind. A file name gives the steps the origin
-// "FILE:LINE". Throws Failure that tells step, fault and right form.
+// Steps are separated by ";" or line ends; a line that begins with "#" is a comment. A word that contains
+// a blank or ";" needs quotes of either kind. A file name gives the steps the origin "FILE:LINE". Throws
+// Failure with the step, what is wrong and the right form.
 [[nodiscard]] std::vector<Step> ReadSteps(std::string_view text, const std::string& file = {});
 
-// "step 3 "click 552 KM": " and what is wrong.
+// "step 3: click 552 KM: " and what is wrong.
 [[noreturn]] void ThrowAt(const Step& step, const std::string& what);
 
-// The forms of all steps with a word about each, for the help.
+// The forms of all steps with a short description of each, for the help.
 [[nodiscard]] std::string StepHelp();
 
 }  // namespace Desk::Panels

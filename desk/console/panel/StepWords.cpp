@@ -1,4 +1,4 @@
-// Cutting: blanks part words, ";" and line ends part steps, quotes keep both together.
+// Blanks separate words, ";" and line ends separate steps, except inside quotes.
 #include "desk/console/panel/StepWords.h"
 
 #include <algorithm>
@@ -74,10 +74,8 @@ private:
             if (!closed || !(AtEnd() || IsBlank(Now()))) {
                 step.source =
                     m_text.substr(start, std::min(m_text.find('\n', start), m_text.size()) - start);
-                ThrowAt(step, closed
-                                  ? "a quoted word ends with its quote; put a blank behind it"
-                                  : std::string("a word opens with this quote and does not end with it: ") +
-                                        quote);
+                ThrowAt(step, closed ? "a blank is required after a closing quote"
+                                     : std::string("the closing quote is missing: ") + quote);
             }
         }
         return word;

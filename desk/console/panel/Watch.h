@@ -1,29 +1,20 @@
-// What happens while a panel is driven, written down in order: events and who finished them,
-// notifications, texts delivered, message boxes, changes of the panel.
+// A record of what happens while a panel is driven: events and what finished them, notifications, texts
+// delivered, message boxes, changes of the panel, in their order.
 #pragma once
 
 #include <string>
 #include <vector>
 
+#include <nlohmann/json.hpp>
+
 #include "desk/console/panel/Picture.h"
 
 namespace Desk::Panels {
 
-// A confirmed text as it reached the host: by SetValue of the item, or by the mouse-input callback.
-struct Delivery {
-    bool toItem = true;
-    std::string receiver;  // of the callback: "parent window", "host data", "null", "another pointer"
-    int mode = 0;
-    std::string text;
-    int code = 0;
-};
-
-enum class EffectKind { Notified, Delivered, Message, Changed };
-
 struct Effect {
-    EffectKind kind = EffectKind::Changed;
-    std::string words;  // for people; of a message box its text
-    Delivery delivery;  // when it is one
+    std::string words;            // for people
+    nlohmann::ordered_json json;  // for programs
+    bool isOutcome = false;       // a text was delivered or a message box shown
 };
 
 // One event on its way through the host's loop.
@@ -48,26 +39,46 @@ public:
     void Know(HWND hPanel, const void* pParent, const void* pHostData);
 
     // Where effects are written from now on; null for nowhere.
-    void WriteTo(std::vector<Effect>* effects);
+    void WriteTo(std::vector<Effect>* effects) { m_effects = effects; }
     // Writes down what has changed since the last look.
     void Look();
 
-    void Notified(const std::string& words) { Write({EffectKind::Notified, words, {}}); }
+    // One turn of the host's loop, written down; true when the event was finished before its target saw it.
+    bool Pass(MSG event, std::vector<Event>* events);
+
+    void Notified(const std::string& words) { Write({words, {{"notified", words}}}); }
     void DeliveredToItem(const CString& text);
     void DeliveredByCallback(const void* first, int mode, const CString& text, int code);
     void Said(const CString& message);
-
-    // Whether the panel answered TRUE to the event that was offered last.
-    bool panelAnswered = false;
+    // What the panel answered to the event that was offered last.
+    void Answered(bool answer) { m_panelAnswered = answer; }
 
 private:
-    void Write(Effect effect);
+    void Write(const Effect& effect);
+    [[nodiscard]] std::string NameOfWindow(HWND hWnd) const;
 
     HWND m_hPanel = nullptr;
     const void* m_pParent = nullptr;
     const void* m_pHostData = nullptr;
+    bool m_panelAnswered = false;
     Picture m_last;
     std::vector<Effect>* m_effects = nullptr;
+};
+
+// A user whose events are written down.
+class WatchedHands : public Hands {
+public:
+    explicit WatchedHands(Watch& watch) : m_watch(watch) {}
+
+    // Where the events are written from now on; null for nowhere.
+    void WriteTo(std::vector<Event>* events) { m_events = events; }
+
+protected:
+    bool Feed(const MSG& event) override { return m_watch.Pass(event, m_events); }
+
+private:
+    Watch& m_watch;
+    std::vector<Event>* m_events = nullptr;
 };
 
 }  // namespace Desk::Panels

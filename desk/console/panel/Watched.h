@@ -11,21 +11,37 @@
 namespace Desk::Panels {
 
 // The row that a class has for a message in its map or in one of its bases'; null for none.
-[[nodiscard]] const AFX_MSGMAP_ENTRY* FindEntry(const AFX_MSGMAP* map, UINT message, UINT code, int id);
+[[nodiscard]] inline const AFX_MSGMAP_ENTRY* FindEntry(const AFX_MSGMAP* map, UINT message, UINT code,
+                                                       int id)
+{
+    for (; map != nullptr; map = map->pfnGetBaseMap != nullptr ? map->pfnGetBaseMap() : nullptr) {
+        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->pfnCall != nullptr; ++entry) {
+            if (entry->nMessage == message && entry->nCode == code && entry->nID == id) {
+                return entry;
+            }
+        }
+    }
+    return nullptr;
+}
 
 // Its message map has one row for each notification of each control and for the messages that a child
-// sends on to the panel; each writes the message down and hands it to the class's own row.
+// passes on to the panel; each writes the message down and hands it to the class's own row.
 template <class Dialog>
 class Watched : public Dialog {
 public:
-    template <class... Arguments>
-    explicit Watched(Watch& watch, Arguments&&... arguments)
-        : Dialog(std::forward<Arguments>(arguments)...), m_watch(watch)
+    explicit Watched(Watch& watch) : m_watch(watch) {}
+
+    const AFX_MSGMAP* GetMessageMap() const override { return m_entries.empty() ? OwnMap() : &m_map; }
+
+    BOOL PreTranslateMessage(MSG* pMsg) override
     {
+        const BOOL answer = Dialog::PreTranslateMessage(pMsg);
+        m_watch.Answered(answer != FALSE);
+        return answer;
     }
 
-    // To be called when the controls exist.
-    void WatchControls()
+    // The controls exist by now.
+    BOOL OnInitDialog() override
     {
         for (const Control& control : TakePicture(this->m_hWnd).controls) {
             for (const UINT code : {LBN_SELCHANGE, EN_CHANGE, BN_CLICKED}) {
@@ -37,15 +53,7 @@ public:
         m_entries.push_back({WM_CHAR, 0, 0, &Watched::template OnMessage<WM_CHAR>});
         m_entries.emplace_back();
         m_map = {&Watched::OwnMap, m_entries.data()};
-    }
-
-    const AFX_MSGMAP* GetMessageMap() const override { return m_entries.empty() ? OwnMap() : &m_map; }
-
-    BOOL PreTranslateMessage(MSG* pMsg) override
-    {
-        const BOOL answer = Dialog::PreTranslateMessage(pMsg);
-        m_watch.panelAnswered = answer != FALSE;
-        return answer;
+        return Dialog::OnInitDialog();
     }
 
 private:

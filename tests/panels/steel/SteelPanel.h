@@ -6,9 +6,9 @@
 #include <ostream>
 
 #include "panels/private/BeamSteelTemplate.h"
+#include "platform/windows/Hands.h"
 #include "tests/panels/Receiver.h"
 #include "tests/panels/steel/SteelModel.h"
-#include "tests/support/Hands.h"
 
 namespace SteelModel {
 

@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "TestPanel.h"
-#include "tests/support/Hands.h"
+#include "platform/windows/Hands.h"
 
 namespace {
 
@@ -21,7 +21,8 @@ const struct {
     {"type", [](Hands& h, const TestPanel&) { h.Type("x"); }},
     {"typed pair", [](Hands& h, const TestPanel&) { h.Type("\xCE\xDE"); }},
     {"button", [](Hands& h, const TestPanel& p) { h.DoubleClick(Hands::MiddleOf(*p.GetDlgItem(Button))); }},
-    {"space", [](Hands& h, const TestPanel&) { h.ShiftTab(), h.ShiftTab(), h.Key(VK_SPACE); }},
+    {"space",
+     [](Hands& h, const TestPanel&) { h.Key(VK_TAB, true), h.Key(VK_TAB, true), h.Key(VK_SPACE); }},
     {"right press",
      [](Hands& h, const TestPanel& p) { h.RightClick(Hands::MiddleOf(*p.GetDlgItem(Dead))); }},
     {"key", [](Hands& h, const TestPanel&) { h.Key(VK_ESCAPE); }},

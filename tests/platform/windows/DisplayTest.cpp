@@ -6,7 +6,7 @@
 
 #include "TestPanel.h"
 #include "platform/windows/Display.h"
-#include "tests/support/Hands.h"
+#include "platform/windows/Hands.h"
 #include "tests/support/Seed.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "TestPanel.h"
-#include "tests/support/Hands.h"
+#include "platform/windows/Hands.h"
 
 namespace {
 

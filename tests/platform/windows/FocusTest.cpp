@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "TestPanel.h"
-#include "tests/support/Hands.h"
+#include "platform/windows/Hands.h"
 
 namespace {
 
@@ -26,7 +26,7 @@ TEST(Focus, TabGoesRoundTheControlsThatTakeInput)
         EXPECT_EQ(FocusId(), id);
     }
     for (const int id : {RightBox, Button, Columns, List, Box, RightBox}) {
-        hands.ShiftTab();
+        hands.Key(VK_TAB, true);
         EXPECT_EQ(FocusId(), id);
     }
     EXPECT_TRUE(panel.TextOf(Box).IsEmpty());

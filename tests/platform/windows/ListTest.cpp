@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "TestPanel.h"
-#include "tests/support/Hands.h"
+#include "platform/windows/Hands.h"
 
 namespace {
 

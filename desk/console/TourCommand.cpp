@@ -1,10 +1,13 @@
-// Three lists side by side, so that all nine annotations of a beam stand on one screen.
-#include "desk/console/Tour.h"
+// beamdesk tour: three lists side by side, so that all nine annotations of a beam fit on one screen.
+#include "desk/console/Commands.h"
 
 #include <algorithm>
+#include <memory>
 #include <numeric>
 #include <ostream>
 #include <vector>
+
+#include <CLI/CLI.hpp>
 
 #include "desk/console/Options.h"
 #include "desk/console/Print.h"
@@ -28,7 +31,7 @@ struct List {
     bool isBySize = false;  // then the best candidates are not at the head but around the present text
 };
 
-// The beam that says most about the project's annotations: the one with the most texts.
+// The beam that shows most of the project's annotations: the one with the most texts.
 const Beam* FullestBeam(const Project& project)
 {
     const auto count = [](const Beam& beam) {
@@ -154,8 +157,8 @@ void PrintBeam(const Beam& beam, std::ostream& out)
             out << "  " << PadRight(what, 14) << row << '\n';
         }
     };
-    const auto tagged = [](const char* before, const std::string& text, const char* behind) {
-        return text.empty() ? std::string() : before + text + behind;
+    const auto tagged = [](const char* before, const std::string& text, const char* after) {
+        return text.empty() ? std::string() : before + text + after;
     };
     out << "Beam " << (beam.name.empty() ? "without a name" : beam.name) << '\n';
     line("section", {beam.section, beam.stirrup, beam.elevation});
@@ -168,8 +171,8 @@ void PrintBeam(const Beam& beam, std::ostream& out)
         << "  bottom " << area.bottom << "\n\n";
 }
 
-// As a shell takes it: in quotes when it holds more than the plainest characters.
-std::string Quoted(const std::string& text)
+// As a word of a shell command: in quotes where it holds special characters.
+std::string InShell(const std::string& text)
 {
     const auto isPlain = [](char ch) {
         return (ch >= 'a' && ch <= 'z') || (ch >= 'A' && ch <= 'Z') || (ch >= '0' && ch <= '9') ||
@@ -189,18 +192,33 @@ void PrintTour(const std::string& projectFile, const std::string& beamName, std:
     if (beam != nullptr) {
         PrintBeam(*beam, out);
     }
-    out << "What each annotation is likely to be, best first; sections, elevations and stirrups by "
-           "size:\n\n";
+    out << "Candidates for each annotation, best first; sections, elevations and stirrups by size:\n\n";
     PrintSideBySide(Lists(project, beam != nullptr ? *beam : Beam()), out);
     out << "  12x used 12 times in the project, for a name: others like it   - not yet used\n"
         << "  >   the focus: the last one the project supports               * what the beam has\n";
-    const std::string option = projectFile.empty() ? "" : " --project " + Quoted(projectFile);
+    const std::string option = projectFile.empty() ? "" : " --project " + InShell(projectFile);
     out << "\nMore:  beamdesk window" << option << "\n       beamdesk rank bars --kind 5.1";
     if (beam != nullptr && !beam->name.empty()) {
-        out << " --table --beam " << Quoted(beam->name.substr(0, beam->name.find('(')));
+        out << " --table --beam " << InShell(beam->name.substr(0, beam->name.find('(')));
     }
     out << option << "\n       beamdesk table stirrups --width 300 --grade 30 --seismic 3"
         << "\n       beamdesk --help\n";
+}
+
+void AddTourCommand(CLI::App& program, std::ostream& out)
+{
+    struct TourOptions {
+        std::string project;
+        std::string beam;
+    };
+    const auto options = std::make_shared<TourOptions>();
+    CLI::App& command =
+        *program.add_subcommand("tour", "Print one beam and the candidates for its annotations");
+    AddProjectOption(command, options->project);
+    command.add_option("--beam", options->beam, "The beam. Default: the one with the most annotations")
+        ->type_name("NAME");
+    command.footer("Examples:\n  beamdesk tour\n  beamdesk tour --beam KL6");
+    command.callback([options, &out] { PrintTour(options->project, options->beam, out); });
 }
 
 }  // namespace Desk
