@@ -3,6 +3,7 @@
 #include <iostream>
 #include <string>
 
+#include "desk/project/Encoding.h"
 #include "desk/project/Generate.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/window/MainWindow.h"
@@ -26,7 +27,7 @@ void Measure(const char* name, const Project& project, const QString& file)
     SaveProject(project, file.toStdString());
     QElapsedTimer timer;
     timer.start();
-    QtDisplay display;
+    QtDisplay display{{Utf8FromGbk, GbkFromUtf8}};
     MainWindow window(display);
     window.show();
     window.TheDocument().Open(file);

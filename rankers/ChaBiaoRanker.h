@@ -58,7 +58,7 @@ public:
     static bool EqualFirstDia(CString strA, CString strB);
 
     int m_nWidth = 0;                   // beam width in mm
-    double m_dArea = 0.0;               // required steel area in mm², a whole number
+    double m_dArea = 0.0;               // required steel area in mm²; look-ups cut it to an int
     SteelBiao* m_pSteelBiao = nullptr;  // borrowed from the host
     CString m_strKind;
     CUIntArray m_arFlags;    // the stamps

@@ -1,7 +1,6 @@
 #include "desk/plan/FloorView.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "desk/plan/Axes.h"
 #include "desk/plan/PlaceBlocks.h"
@@ -10,29 +9,17 @@ namespace Desk {
 
 namespace {
 
-constexpr double LeastScale = 1e-4;  // pixels a mm
-constexpr double MostScale = 0.5;
-constexpr double WheelStep = 1.2;  // a notch of the wheel
 constexpr double BodyReach = 4.0;  // pixels beside a beam that still count as on it
-constexpr int KeySteps = 8;        // strokes of an arrow key across the view
 constexpr int ViewMargin = 30;     // pixels around an annotation that is brought into view
 
 }  // namespace
 
-FloorView::FloorView(QWidget* parent) : QGraphicsView(parent)
+FloorView::FloorView(QWidget* parent) : PanView(parent)
 {
-    setScene(new QGraphicsScene(this));
     setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     setViewportUpdateMode(QGraphicsView::SmartViewportUpdate);
     setOptimizationFlag(QGraphicsView::DontAdjustForAntialiasing);
-    setTransformationAnchor(QGraphicsView::NoAnchor);
-    setResizeAnchor(QGraphicsView::NoAnchor);
     setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setMouseTracking(true);
-    viewport()->setMouseTracking(true);
-    setFocusPolicy(Qt::StrongFocus);
     SetDark(false);
 }
 
@@ -73,19 +60,19 @@ void FloorView::AddAxes()
     }
 }
 
-void FloorView::Refresh(const FieldRef& place)
+void FloorView::Refresh(const FieldRef& ref)
 {
-    if (OwnerItem* const item = ItemOf(place)) {
+    if (OwnerItem* const item = ItemOf(ref)) {
         item->TakeTexts(*m_project);
     }
 }
 
-void FloorView::SetChosen(std::optional<FieldRef> place)
+void FloorView::SetChosen(std::optional<FieldRef> ref)
 {
     if (OwnerItem* const before = m_chosen ? ItemOf(*m_chosen) : nullptr) {
         before->SetLit(std::nullopt);
     }
-    m_chosen = place && ItemOf(*place) != nullptr ? place : std::nullopt;
+    m_chosen = ref && ItemOf(*ref) != nullptr ? ref : std::nullopt;
     if (!m_chosen) {
         return;
     }
@@ -96,28 +83,17 @@ void FloorView::SetChosen(std::optional<FieldRef> place)
     const QRect room = viewport()->rect().adjusted(ViewMargin, ViewMargin, -ViewMargin, -ViewMargin);
     if (!room.intersects(inView)) {
         PanBy(room.center() - inView.center());
-        m_isFitted = false;
     }
 }
 
-QRect FloorView::OnScreen(const FieldRef& place) const
+QRect FloorView::OnScreen(const FieldRef& ref) const
 {
-    const OwnerItem* const item = ItemOf(place);
+    const OwnerItem* const item = ItemOf(ref);
     if (item == nullptr) {
         return {};
     }
-    const QRect inView = mapFromScene(item->mapToScene(item->BoxOf(place.field))).boundingRect();
+    const QRect inView = mapFromScene(item->mapToScene(item->BoxOf(ref.field))).boundingRect();
     return {viewport()->mapToGlobal(inView.topLeft()), inView.size()};
-}
-
-void FloorView::Fit()
-{
-    QRectF all = scene()->itemsBoundingRect();
-    if (all.isEmpty()) {
-        all = QRectF(-1000, -1000, 2000, 2000);
-    }
-    fitInView(all, Qt::KeepAspectRatio);
-    m_isFitted = true;
 }
 
 void FloorView::ZoomBy(double factor)
@@ -148,12 +124,12 @@ void FloorView::SetDark(bool dark)
     viewport()->update();
 }
 
-OwnerItem* FloorView::ItemOf(const FieldRef& place) const
+OwnerItem* FloorView::ItemOf(const FieldRef& ref) const
 {
-    if (m_project == nullptr || !Exists(*m_project, place)) {
+    if (m_project == nullptr || !Exists(*m_project, ref)) {
         return nullptr;
     }
-    return m_items[place.index + (place.isWall ? m_project->beams.size() : 0)];
+    return m_items[ref.index + (ref.isWall ? m_project->beams.size() : 0)];
 }
 
 // A text before a beam, and of two beams the one on top.
@@ -181,28 +157,6 @@ FloorView::Hit FloorView::HitAt(const QPoint& inView) const
     return body;
 }
 
-void FloorView::ZoomTo(double scale)
-{
-    const double now = transform().m11();
-    const double factor = std::clamp(scale, LeastScale, MostScale) / now;
-    this->scale(factor, factor);
-    m_isFitted = false;
-}
-
-// What lies at a place of the view stays there.
-void FloorView::ZoomAbout(const QPoint& inView, double factor)
-{
-    const QPointF before = mapToScene(inView);
-    ZoomTo(transform().m11() * factor);
-    PanBy(inView - mapFromScene(before));
-}
-
-void FloorView::PanBy(const QPoint& pixels)
-{
-    horizontalScrollBar()->setValue(horizontalScrollBar()->value() - pixels.x());
-    verticalScrollBar()->setValue(verticalScrollBar()->value() - pixels.y());
-}
-
 void FloorView::Hover(const Hit& hit)
 {
     if (m_hovered != nullptr && m_hovered != hit.item) {
@@ -217,94 +171,27 @@ void FloorView::Hover(const Hit& hit)
 
 void FloorView::mousePressEvent(QMouseEvent* event)
 {
-    m_pressed = m_panned = event->position().toPoint();
-    const Hit hit = HitAt(m_pressed);
+    const Hit hit = HitAt(event->position().toPoint());
     if (event->button() == Qt::LeftButton && hit.item != nullptr) {
-        emit Picked(hit.item->PlaceOf(hit.field));
-    } else if (event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton) {
-        m_mayPan = true;
-        m_isPanning = event->button() == Qt::MiddleButton;
+        emit Picked(hit.item->RefOf(hit.field));
+    } else {
+        PanView::mousePressEvent(event);
     }
 }
 
 void FloorView::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPoint now = event->position().toPoint();
-    if (!m_mayPan) {
-        Hover(HitAt(now));
-        return;
+    if (!MayPan()) {
+        Hover(HitAt(event->position().toPoint()));
     }
-    m_isPanning = m_isPanning || (now - m_pressed).manhattanLength() >= QApplication::startDragDistance();
-    if (m_isPanning) {
-        viewport()->setCursor(Qt::ClosedHandCursor);
-        PanBy(now - m_panned);
-        m_panned = now;
-        m_isFitted = false;
-    }
-}
-
-void FloorView::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (m_mayPan && !m_isPanning && event->button() == Qt::LeftButton) {
-        emit NothingPicked();
-    }
-    m_mayPan = false;
-    m_isPanning = false;
-    viewport()->setCursor(Qt::ArrowCursor);
+    PanView::mouseMoveEvent(event);
 }
 
 void FloorView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     const Hit hit = HitAt(event->position().toPoint());
     if (event->button() == Qt::LeftButton && hit.item != nullptr) {
-        emit PanelAsked(hit.item->PlaceOf(hit.field));
-    }
-}
-
-// About the pointer.
-void FloorView::wheelEvent(QWheelEvent* event)
-{
-    constexpr double Notch = 120.0;
-    ZoomAbout(event->position().toPoint(), std::pow(WheelStep, event->angleDelta().y() / Notch));
-    event->accept();
-}
-
-void FloorView::keyPressEvent(QKeyEvent* event)
-{
-    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    const QSize step = viewport()->size() / KeySteps;
-    const int page = viewport()->height() - step.height();
-    QPoint by;
-    switch (event->key()) {
-    case Qt::Key_Left: by = {step.width(), 0}; break;
-    case Qt::Key_Right: by = {-step.width(), 0}; break;
-    case Qt::Key_Up: by = {0, step.height()}; break;
-    case Qt::Key_Down: by = {0, -step.height()}; break;
-    case Qt::Key_PageUp: by = {0, page}; break;
-    case Qt::Key_PageDown: by = {0, -page}; break;
-    default: break;
-    }
-    if (!plain || by.isNull()) {
-        event->ignore();
-        return;
-    }
-    PanBy(by);
-    m_isFitted = false;
-}
-
-void FloorView::showEvent(QShowEvent* event)
-{
-    QGraphicsView::showEvent(event);
-    if (m_isFitted) {
-        Fit();
-    }
-}
-
-void FloorView::resizeEvent(QResizeEvent* event)
-{
-    QGraphicsView::resizeEvent(event);
-    if (m_isFitted) {
-        Fit();
+        emit PanelAsked(hit.item->RefOf(hit.field));
     }
 }
 

@@ -5,10 +5,11 @@
 #include <vector>
 
 #include "desk/plan/OwnerItem.h"
+#include "desk/plan/PanView.h"
 
 namespace Desk {
 
-class FloorView : public QGraphicsView {
+class FloorView : public PanView {
     Q_OBJECT
 
 public:
@@ -17,37 +18,30 @@ public:
 
     // Draws the project anew and fits it; borrowed, null for nothing.
     void SetProject(const Project* project);
-    // A text of this beam or wall is not as it was.
-    void Refresh(const FieldRef& place);
+    // A text of this beam or wall has changed.
+    void Refresh(const FieldRef& ref);
 
     // Lights up an annotation and brings it into view; nothing for none. Does not signal.
-    void SetChosen(std::optional<FieldRef> place);
+    void SetChosen(std::optional<FieldRef> ref);
     [[nodiscard]] std::optional<FieldRef> Chosen() const { return m_chosen; }
 
-    // Where an annotation's text shows, in pixels of the screen; where it would stand when it is empty.
-    [[nodiscard]] QRect OnScreen(const FieldRef& place) const;
+    // Where an annotation's text shows, in pixels of the screen; where it would be when it is empty.
+    [[nodiscard]] QRect OnScreen(const FieldRef& ref) const;
     // Blocks of texts that lie on another text for want of room.
     [[nodiscard]] int CoveringBlocks() const { return m_covering; }
 
-    void Fit();
     void ZoomBy(double factor);  // about the chosen annotation where it is in view, or else the middle
     void SetDark(bool dark);
 
 signals:
     // A press on an annotation; on a beam or wall itself: its name.
-    void Picked(const Desk::FieldRef& place);
-    void PanelAsked(const Desk::FieldRef& place);  // a double click
-    void NothingPicked();                          // a press on bare ground without a drag
+    void Picked(const Desk::FieldRef& ref);
+    void PanelAsked(const Desk::FieldRef& ref);  // a double click
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;  // moves the floor; other keys are the window's
-    void showEvent(QShowEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     struct Hit {
@@ -57,11 +51,8 @@ private:
     };
 
     [[nodiscard]] Hit HitAt(const QPoint& inView) const;
-    [[nodiscard]] OwnerItem* ItemOf(const FieldRef& place) const;
+    [[nodiscard]] OwnerItem* ItemOf(const FieldRef& ref) const;
     void AddAxes();
-    void ZoomTo(double scale);
-    void ZoomAbout(const QPoint& inView, double factor);
-    void PanBy(const QPoint& pixels);
     void Hover(const Hit& hit);
 
     const Project* m_project = nullptr;
@@ -70,11 +61,6 @@ private:
     std::optional<FieldRef> m_chosen;
     OwnerItem* m_hovered = nullptr;
     bool m_isDark = false;
-    bool m_isFitted = true;  // until the person zooms or pans
-    bool m_isPanning = false;
-    bool m_mayPan = false;
-    QPoint m_pressed;  // in the view
-    QPoint m_panned;
 };
 
 }  // namespace Desk

@@ -52,7 +52,7 @@ OwnerItem::OwnerItem(const Project& project, bool isWall, std::size_t index)
     setPos((start.x + end.x) / 2.0, -(start.y + end.y) / 2.0);
     setRotation(DegreesOf(dx, dy));
     TakeTexts(project);
-    SetBlock(BlockPlaces().front());
+    SetBlock(BlockPositions().front());
 }
 
 QRectF OwnerItem::boundingRect() const
@@ -92,20 +92,20 @@ Label OwnerItem::EndLabel(Field field, const std::string& text) const
     return {field, drawn, QRectF(x, -m_width / 2.0 - TextGap - TextHeight, width, TextHeight)};
 }
 
-std::vector<QPointF> OwnerItem::BlockPlaces() const
+std::vector<QPointF> OwnerItem::BlockPositions() const
 {
     const QSizeF size = BlockSize();
     const double above = -m_width / 2.0 - TextGap - TextHeight - LineStep - size.height();
     const double below = m_width / 2.0 + TextGap;
-    std::vector<QPointF> places;
+    std::vector<QPointF> positions;
     for (const double top : {below, above}) {
         for (const double part : {0.5, 0.35, 0.65, 0.2, 0.8, 0.1, 0.9, 0.42, 0.58, 0.28, 0.72}) {
-            places.emplace_back(-m_length / 2.0 + m_length * part -
-                                    (m_length < 3.0 * size.width() ? size.width() / 2 : 0.0),
-                                top);
+            positions.emplace_back(-m_length / 2.0 + m_length * part -
+                                       (m_length < 3.0 * size.width() ? size.width() / 2 : 0.0),
+                                   top);
         }
     }
-    return places;
+    return positions;
 }
 
 void OwnerItem::SetBlock(const QPointF& corner)

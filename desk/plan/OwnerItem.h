@@ -32,11 +32,11 @@ public:
     [[nodiscard]] QRectF boundingRect() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
-    // The texts are not as they were; where they stand stays.
+    // The texts have changed; their positions stay.
     void TakeTexts(const Project& project);
 
-    // Places for the block, the best first: its upper left corner beside the beam.
-    [[nodiscard]] std::vector<QPointF> BlockPlaces() const;
+    // Positions of the block's upper left corner beside the beam, the best first.
+    [[nodiscard]] std::vector<QPointF> BlockPositions() const;
     [[nodiscard]] QSizeF BlockSize() const { return SizeOf(m_block); }
     void SetBlock(const QPointF& corner);
 
@@ -44,13 +44,13 @@ public:
     [[nodiscard]] static bool IsReadable(double scale);
     [[nodiscard]] std::optional<Field> FieldAt(const QPointF& local) const;
     [[nodiscard]] bool IsOnBody(const QPointF& local, double reach) const;
-    // Where a field's text stands, drawn or not.
+    // The rectangle of a field's text, drawn or not.
     [[nodiscard]] QRectF BoxOf(Field field) const;
     [[nodiscard]] QRectF Body() const;
     // Rectangles of the texts at the ends.
     [[nodiscard]] std::vector<QRectF> EndBoxes() const;
 
-    [[nodiscard]] FieldRef PlaceOf(Field field) const { return {m_isWall, m_index, field}; }
+    [[nodiscard]] FieldRef RefOf(Field field) const { return {m_isWall, m_index, field}; }
     void SetColors(const PlanColors* colors) { m_colors = colors; }
     void SetLit(std::optional<Field> field);
     void SetHovered(std::optional<Field> field);

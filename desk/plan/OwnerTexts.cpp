@@ -8,18 +8,18 @@ namespace Desk {
 namespace {
 
 constexpr double FieldGap = 160.0;    // mm between two texts of a line
-constexpr double EmptyWidth = 900.0;  // mm of a place where no text stands yet
+constexpr double EmptyWidth = 900.0;  // mm of a label without a text
 
 // Puts texts into lines.
 class Lines {
 public:
-    void Add(Field field, const std::string& text, const char* before = "", const char* behind = "")
+    void Add(Field field, const std::string& text, const char* before = "", const char* after = "")
     {
         if (text.empty()) {
             m_empty.push_back(field);
             return;
         }
-        const QString drawn = before + QString::fromStdString(text) + behind;
+        const QString drawn = before + QString::fromStdString(text) + after;
         const double width = TextWidth(drawn);
         const bool joined = *before == '+' || *before == ';';
         m_x += m_x > 0.0 && !joined ? FieldGap : 0.0;
@@ -33,7 +33,7 @@ public:
             m_y += LineStep;
         }
     }
-    // Empty places stand side by side in a line below.
+    // Labels without a text are side by side in a line below.
     std::vector<Label> Take()
     {
         End();

@@ -1,4 +1,4 @@
-// The annotation texts of one beam or wall on the plan: what stands in which line, and where.
+// The annotation texts of one beam or wall on the plan: which text is in which line, and where.
 #pragma once
 
 #include <vector>
@@ -23,7 +23,7 @@ struct Label {
 
 // The concentrated block: name and section, stirrups, through bars, side bars, elevation; its upper left
 // corner at 0, 0. For a wall its name with the thickness and its bars. Empty texts have a label of a
-// nominal width behind or below the others, which nothing is drawn in.
+// nominal width after or below the others, in which nothing is drawn.
 [[nodiscard]] std::vector<Label> BlockOf(const Beam& beam);
 [[nodiscard]] std::vector<Label> BlockOf(const Wall& wall);
 // The height that the block's lines with texts take, and the width of the longest.

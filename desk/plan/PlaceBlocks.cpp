@@ -57,7 +57,7 @@ private:
     template <class Use>
     static void ForEachCell(const QRectF& rect, Use use)
     {
-        const auto index = [](double place) { return static_cast<std::int64_t>(std::floor(place / Cell)); };
+        const auto index = [](double at) { return static_cast<std::int64_t>(std::floor(at / Cell)); };
         for (std::int64_t y = index(rect.top()); y <= index(rect.bottom()); ++y) {
             for (std::int64_t x = index(rect.left()); x <= index(rect.right()); ++x) {
                 use((y << 32) ^ (x & 0xFFFFFFFF));
@@ -105,13 +105,13 @@ int PlaceBlocks(const std::vector<OwnerItem*>& items)
         double least = std::numeric_limits<double>::max();
         QPointF best;
         QRectF bestRect;
-        for (const QPointF& place : item->BlockPlaces()) {
+        for (const QPointF& corner : item->BlockPositions()) {
             const QRectF rect =
-                item->mapRectToScene(QRectF(place, size).adjusted(-Clear, -Clear, Clear, Clear));
+                item->mapRectToScene(QRectF(corner, size).adjusted(-Clear, -Clear, Clear, Clear));
             const double covered = ground.Covered(rect, least);
             if (covered < least) {
                 least = covered;
-                best = place;
+                best = corner;
                 bestRect = rect;
             }
             if (least <= 0.0) {

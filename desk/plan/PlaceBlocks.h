@@ -1,4 +1,4 @@
-// Finds places for the blocks of texts so that they stay clear of each other.
+// Finds positions for the blocks of texts so that they stay clear of each other.
 #pragma once
 
 #include <vector>
@@ -7,7 +7,7 @@
 
 namespace Desk {
 
-// Gives each item's block the first of its places where it lies on no other text, or else the one where
+// Gives each item's block the first of its positions where it lies on no other text, or else the one where
 // it covers least. The order of the items decides, so that the same project looks the same each time.
 // Answers how many blocks lie on another text after all.
 int PlaceBlocks(const std::vector<OwnerItem*>& items);

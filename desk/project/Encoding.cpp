@@ -26,7 +26,7 @@ public:
     Converter(const char* to, const char* from) : m_handle(iconv_open(to, from))
     {
         if (m_handle == Invalid()) {
-            throw Failure(std::string("this system cannot turn ") + from + " into " + to);
+            throw Failure(Phrase("Desk", "this system cannot turn %1 into %2"), from, to);
         }
     }
     Converter(const Converter&) = delete;

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "RankerModule.h"
+#include "platform/text/CString.h"
 
 namespace Desk {
 

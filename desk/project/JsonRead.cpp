@@ -22,13 +22,43 @@ void CheckCharacters(std::string_view text)
     for (std::size_t at = 0; at < text.size();) {
         const std::size_t length = Utf8Length(text.substr(at));
         if (length == 0) {
-            throw JsonFault(at, "not UTF-8");
+            throw JsonFault(at, Phrase("Desk", "not UTF-8"));
         }
         if (text[at] == '\0') {
-            throw JsonFault(at, "a zero byte in the text");
+            throw JsonFault(at, Phrase("Desk", "a zero byte in the text"));
         }
         at += length;
     }
+}
+
+// The parser's words as a phrase, where they are known. A translation may leave out a detail.
+Message ParserReason(const std::string& words)
+{
+    static constexpr std::string_view Unexpected = "unexpected ";
+    static constexpr std::string_view Expected = "; expected ";
+    const std::size_t expected = words.find(Expected);
+    if (words.starts_with(Unexpected) && expected != std::string::npos) {
+        return {Phrase("Desk", "unexpected %1; expected %2"),
+                ParserReason(words.substr(Unexpected.size(), expected - Unexpected.size())),
+                ParserReason(words.substr(expected + Expected.size()))};
+    }
+    for (const Phrase& phrase :
+         {Phrase("Desk", "unexpected %1"), Phrase("Desk", "invalid string: %1"),
+          Phrase("Desk", "invalid number; %1"), Phrase("Desk", "number overflow parsing %1"),
+          Phrase("Desk", "invalid literal"), Phrase("Desk", "string literal"),
+          Phrase("Desk", "number literal"), Phrase("Desk", "true literal"), Phrase("Desk", "false literal"),
+          Phrase("Desk", "null literal"), Phrase("Desk", "'[', '{', or a literal"),
+          Phrase("Desk", "end of input")}) {
+        const std::string_view english = phrase.english;
+        const std::string_view head = english.substr(0, english.find("%1"));
+        if (words == english) {
+            return phrase;
+        }
+        if (head != english && words.starts_with(head)) {
+            return {phrase, ParserReason(words.substr(head.size()))};
+        }
+    }
+    return words;
 }
 
 // Walks the text for the parser and tells the builder how far it has come.
@@ -89,7 +119,8 @@ public:
         Level& level = m_open.back();
         auto& members = level.value->get_ref<Json::object_t&>();
         if (Knows(level, key)) {
-            throw JsonFault(StartOfString(), "the key \"" + key + "\" stands twice in one object");
+            throw JsonFault(StartOfString(),
+                            {Phrase("Desk", "the key \"%1\" stands twice in one object"), key});
         }
         members.emplace_back(key, nullptr);
         return true;
@@ -109,7 +140,7 @@ public:
             !syntax || (what.starts_with("unexpected") && what.find(" literal;") != std::string::npos);
         const std::size_t back = wholeToken ? token.size() : 1;
         throw JsonFault(std::min(position - std::min(position, back), m_text.size()),
-                        "no valid JSON: " + what);
+                        {Phrase("Desk", "no valid JSON: %1"), ParserReason(what)});
     }
 
 private:
@@ -143,7 +174,8 @@ private:
     bool Open(Json&& value)
     {
         if (m_open.size() == MaxDepth) {
-            throw JsonFault(Seen() - 1, "nested deeper than " + std::to_string(MaxDepth) + " levels");
+            throw JsonFault(Seen() - 1,
+                            {Phrase("Desk", "nested deeper than %1 levels"), std::to_string(MaxDepth)});
         }
         m_open.push_back({Place(std::move(value)), {}});
         return true;
@@ -206,7 +238,7 @@ std::string LineAndColumn(std::string_view text, std::size_t byte)
 Json ReadJson(std::string_view text)
 {
     if (text.empty()) {
-        throw JsonFault(0, "the file is empty");
+        throw JsonFault(0, Phrase("Desk", "the file is empty"));
     }
     CheckCharacters(text);
     return Builder(text).Build();

@@ -2,20 +2,22 @@
 #pragma once
 
 #include <cstddef>
-#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include <nlohmann/json.hpp>
+
+#include "desk/project/Failure.h"
 
 namespace Desk {
 
 using Json = nlohmann::ordered_json;
 
 // What is wrong, and the byte of the text where it stands.
-class JsonFault : public std::runtime_error {
+class JsonFault : public Failure {
 public:
-    JsonFault(std::size_t byte, const std::string& what) : std::runtime_error(what), m_byte(byte) {}
+    JsonFault(std::size_t byte, Message what) : Failure(std::move(what)), m_byte(byte) {}
     [[nodiscard]] std::size_t Byte() const noexcept { return m_byte; }
 
 private:

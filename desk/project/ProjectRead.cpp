@@ -15,15 +15,14 @@ namespace {
 
 using Path = Json::json_pointer;
 
-std::string Kind(const Json& value)
+Message Kind(const Json& value)
 {
     double number = 0.0;
-    return JsonNumber(value, number) ? "a number"
-           : value.is_string()       ? "a text"
-           : value.is_array()        ? "a list"
-           : value.is_object()       ? "an object"
-           : value.is_null()         ? "null"
-                                     : value.dump();
+    return JsonNumber(value, number) ? Message(Phrase("Desk", "a number"))
+           : value.is_string()       ? Message(Phrase("Desk", "a text"))
+           : value.is_array()        ? Message(Phrase("Desk", "a list"))
+           : value.is_object()       ? Message(Phrase("Desk", "an object"))
+                                     : Message(value.dump());
 }
 
 class Reader {
@@ -37,10 +36,10 @@ public:
         try {
             source = ReadJson(m_text);
         } catch (const JsonFault& fault) {
-            Fail(fault.Byte(), fault.what());
+            Fail(fault.Byte(), fault.Told());
         }
         const Path root;
-        RequireObject(source, root, "a project");
+        RequireObject(source, root, Phrase("Desk", "a project"));
         ReadVersion(source);
         ReadTexts(source, root, ProjectTexts, project);
         ReadList(source, "beams", project.beams);
@@ -52,23 +51,24 @@ public:
     }
 
 private:
-    [[noreturn]] void Fail(std::size_t byte, const std::string& what) const
+    [[noreturn]] void Fail(std::size_t byte, const Message& what) const
     {
-        throw Failure(m_name + ":" + LineAndColumn(m_text, byte) + ": " + what);
+        throw Failure(Phrase("Desk", "%1:%2: %3"), m_name, LineAndColumn(m_text, byte), what);
     }
-    [[noreturn]] void FailAt(const Path& path, const std::string& what) const
+    [[noreturn]] void FailAt(const Path& path, const Message& what) const
     {
         Fail(PlaceInJson(m_text, path), what);
     }
-    [[noreturn]] void FailType(const Path& path, const char* wanted, const Json& found) const
+    [[noreturn]] void FailType(const Path& path, const Phrase& wanted, const Json& found) const
     {
-        FailAt(path, "\"" + path.back() + "\" must be " + wanted + ", here stands " + Kind(found));
+        FailAt(path,
+               {Phrase("Desk", "\"%1\" must be %2, here stands %3"), path.back(), wanted, Kind(found)});
     }
 
-    void RequireObject(const Json& value, const Path& path, const char* what) const
+    void RequireObject(const Json& value, const Path& path, const Message& what) const
     {
         if (!value.is_object()) {
-            FailAt(path, std::string(what) + " must be an object, here stands " + Kind(value));
+            FailAt(path, {Phrase("Desk", "%1 must be an object, here stands %2"), what, Kind(value)});
         }
     }
 
@@ -76,12 +76,14 @@ private:
     {
         const Json* const version = Member(source, "version");
         if (version == nullptr) {
-            FailAt(Path(), "no \"version\" of the file format; this program reads version 1");
+            FailAt(Path(),
+                   Phrase("Desk", "no \"version\" of the file format; this program reads version 1"));
         }
         const std::optional<int> number = WholeNumber(*version);
         if (number != FormatVersion) {
-            FailAt(Path() / "version", "this program reads \"version\" 1 of the file format, not " +
-                                           (number ? std::to_string(*number) : Kind(*version)));
+            FailAt(Path() / "version",
+                   {Phrase("Desk", "this program reads \"version\" 1 of the file format, not %1"),
+                    number ? Message(std::to_string(*number)) : Kind(*version)});
         }
     }
 
@@ -94,7 +96,7 @@ private:
         }
         const Path path = Path() / key;
         if (!list->is_array()) {
-            FailType(path, "a list", *list);
+            FailType(path, Phrase("Desk", "a list"), *list);
         }
         items.reserve(list->size());
         for (std::size_t i = 0; i < list->size(); ++i) {
@@ -153,15 +155,15 @@ private:
     std::string ReadText(const Json& value, const Path& path, bool isAnnotation) const
     {
         if (!value.is_string()) {
-            FailType(path, "a text", value);
+            FailType(path, Phrase("Desk", "a text"), value);
         }
         const auto& text = value.get_ref<const std::string&>();
         const auto isControl = [](char ch) { return static_cast<unsigned char>(ch) < 0x20 || ch == 0x7F; };
         if (std::any_of(text.begin(), text.end(), isControl)) {
-            FailAt(path, "\"" + path.back() + "\" holds a control character");
+            FailAt(path, {Phrase("Desk", "\"%1\" holds a control character"), path.back()});
         }
         if (isAnnotation && !GbkFromUtf8(text)) {
-            FailAt(path, "\"" + path.back() + "\" holds a character that GBK does not have");
+            FailAt(path, {Phrase("Desk", "\"%1\" holds a character that GBK does not have"), path.back()});
         }
         return text;
     }
@@ -177,13 +179,13 @@ private:
             }
             double number = 0.0;
             if (!JsonNumber(*value, number)) {
-                FailType(path / field.key, "a whole number", *value);
+                FailType(path / field.key, Phrase("Desk", "a whole number"), *value);
             }
             const std::optional<int> whole = WholeNumber(*value);
             if (!whole || *whole < field.least || *whole > field.most) {
-                FailAt(path / field.key, std::string("\"") + field.key + "\" must be a whole number from " +
-                                             std::to_string(field.least) + " to " +
-                                             std::to_string(field.most));
+                FailAt(path / field.key,
+                       {Phrase("Desk", "\"%1\" must be a whole number from %2 to %3"), field.key,
+                        std::to_string(field.least), std::to_string(field.most)});
             }
             owner.*field.member = *whole;
         }
@@ -200,19 +202,19 @@ private:
             }
             const std::optional<PlanPoint> point = Point(*value);
             if (!point) {
-                FailAt(path / field.key, std::string("\"") + field.key +
-                                             "\" must be two coordinates in mm up to 1000000000, as in "
-                                             "[0, 8400]");
+                FailAt(path / field.key, {Phrase("Desk", "\"%1\" must be two coordinates in mm up to "
+                                                         "1000000000, as in [0, 8400]"),
+                                          field.key});
             }
             owner.*field.member = *point;
         }
     }
 
-    void RequireName(const Json& source, const Path& path, const char* what) const
+    void RequireName(const Json& source, const Path& path, const Message& what) const
     {
         RequireObject(source, path, what);
         if (Member(source, "name") == nullptr) {
-            FailAt(path, std::string(what) + " without a \"name\"");
+            FailAt(path, {Phrase("Desk", "%1 without a \"name\""), what});
         }
     }
 
@@ -224,12 +226,12 @@ template <>
 Beam Reader::ReadItem(Json&& source, const Path& path) const
 {
     Beam beam;
-    RequireName(source, path, "a beam");
+    RequireName(source, path, Phrase("Desk", "a beam"));
     ReadAnnotations(source, path, beam);
     ReadTexts(source, path, BeamTexts, beam);
     ReadNumbers(source, path, BeamNumbers, beam);
     if (const Json* const area = Member(source, "area")) {
-        RequireObject(*area, path / "area", "\"area\"");
+        RequireObject(*area, path / "area", {Phrase("Desk", "\"%1\""), "area"});
         ReadNumbers(*area, path / "area", AreaNumbers, beam.area);
     }
     ReadPoints(source, path, BeamPoints, beam);
@@ -241,7 +243,7 @@ template <>
 Wall Reader::ReadItem(Json&& source, const Path& path) const
 {
     Wall wall;
-    RequireName(source, path, "a wall");
+    RequireName(source, path, Phrase("Desk", "a wall"));
     ReadAnnotations(source, path, wall);
     ReadNumbers(source, path, WallNumbers, wall);
     ReadPoints(source, path, WallPoints, wall);

@@ -119,7 +119,7 @@ std::string FormatProject(const Project& project)
     try {
         return WriteJson(source);
     } catch (const nlohmann::json::exception&) {
-        throw Failure("a text of the project is not UTF-8");
+        throw Failure(Phrase("Desk", "a text of the project is not UTF-8"));
     }
 }
 
@@ -128,8 +128,9 @@ void SaveProject(const Project& project, const std::filesystem::path& file)
     const std::string text = FormatProject(project);
     // What could not be read again must not take the place of a good file.
     if (text.size() > MaxFileSize) {
-        throw Failure(file.string() + ": cannot be saved: the project is longer than the " +
-                      std::to_string(MaxFileSize >> 20U) + " MiB that are read again");
+        throw Failure(Phrase("Desk", "%1: cannot be saved: the project is longer than the %2 MiB that are "
+                                     "read again"),
+                      file.string(), std::to_string(MaxFileSize >> 20U));
     }
     static_cast<void>(ParseProject(text, "the project that is to become " + file.string()));
     ReplaceFile(file, text);

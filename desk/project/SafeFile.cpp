@@ -21,9 +21,35 @@ namespace {
 
 namespace fs = std::filesystem;
 
-[[noreturn]] void FailWith(const fs::path& file, const std::string& what, int error)
+// The system's reason; rare ones are told in its own words.
+Message Reason(int error)
 {
-    throw Failure(file.string() + ": " + what + ": " + std::strerror(error));
+    switch (error) {
+    case ENOENT: return Phrase("Desk", "No such file or directory");
+    case ENOTDIR: return Phrase("Desk", "Not a directory");
+    case EACCES: return Phrase("Desk", "Permission denied");
+    case EPERM: return Phrase("Desk", "Operation not permitted");
+    case EROFS: return Phrase("Desk", "Read-only file system");
+    case ENOSPC: return Phrase("Desk", "No space left on device");
+    case EDQUOT: return Phrase("Desk", "Disk quota exceeded");
+    case EFBIG: return Phrase("Desk", "File too large");
+    case ELOOP: return Phrase("Desk", "Too many levels of symbolic links");
+    case ENAMETOOLONG: return Phrase("Desk", "File name too long");
+    case EBUSY: return Phrase("Desk", "Device or resource busy");
+    case EIO: return Phrase("Desk", "Input/output error");
+    default: return std::string(std::strerror(error));
+    }
+}
+
+// The phrase has places for the file and the reason.
+[[noreturn]] void FailWith(const fs::path& file, const Phrase& phrase, int error)
+{
+    throw Failure(phrase, file.string(), Reason(error));
+}
+
+[[noreturn]] void FailSaving(const fs::path& file, int error)
+{
+    FailWith(file, Phrase("Desk", "%1: cannot be saved: %2"), error);
 }
 
 class Descriptor {
@@ -84,7 +110,7 @@ fs::path FollowLinks(const fs::path& file)
     for (int i = 0; fs::is_symlink(fs::symlink_status(target, error)); ++i) {
         const fs::path next = fs::read_symlink(target, error);
         if (error || i == MaxLinks) {
-            FailWith(file, "cannot be saved", error ? error.value() : ELOOP);
+            FailSaving(file, error ? error.value() : ELOOP);
         }
         target = target.parent_path() / next;  // an absolute link replaces the folder
     }
@@ -99,14 +125,15 @@ std::optional<struct stat> OldFile(const fs::path& target)
         if (errno == ENOENT) {
             return std::nullopt;
         }
-        FailWith(target, "cannot be saved", errno);
+        FailSaving(target, errno);
     }
     if (!S_ISREG(old.st_mode)) {
-        throw Failure(target.string() + ": cannot be saved: " +
-                      (S_ISDIR(old.st_mode) ? "a folder stands there" : "it is no ordinary file"));
+        throw Failure(Phrase("Desk", "%1: cannot be saved: %2"), target.string(),
+                      S_ISDIR(old.st_mode) ? Phrase("Desk", "a folder stands there")
+                                           : Phrase("Desk", "it is no ordinary file"));
     }
     if (faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) {
-        FailWith(target, "cannot be saved, it is write-protected", errno);
+        FailWith(target, Phrase("Desk", "%1: cannot be saved, it is write-protected: %2"), errno);
     }
     return old;
 }
@@ -145,7 +172,7 @@ public:
         Check(static_cast<int>(Again([this] { return fsync(m_descriptor.Number()); })));
         m_lock = Descriptor(fcntl(m_descriptor.Number(), F_DUPFD_CLOEXEC, 0));
         if (const int error = m_descriptor.Close()) {
-            FailWith(m_target, "cannot be saved", error);
+            FailSaving(m_target, error);
         }
     }
 
@@ -159,7 +186,7 @@ private:
     void Check(int result) const
     {
         if (result != 0) {
-            FailWith(m_target, "cannot be saved", errno);
+            FailSaving(m_target, errno);
         }
     }
 
@@ -179,7 +206,7 @@ private:
             }
         }
         m_name.clear();
-        FailWith(m_target, "cannot be saved", errno);
+        FailSaving(m_target, errno);
     }
 
     fs::path m_target;
@@ -214,7 +241,7 @@ void SyncFolder(const fs::path& target)
     const Descriptor descriptor(open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     // A folder that may not be read, or a file system that syncs no folders, is no reason to complain.
     if (descriptor.IsOpen() && fsync(descriptor.Number()) != 0 && errno == EIO) {
-        FailWith(target, "saved, but the folder could not be synced", errno);
+        FailWith(target, Phrase("Desk", "%1: saved, but the folder could not be synced: %2"), errno);
     }
 }
 
@@ -224,7 +251,7 @@ std::string ReadWholeFile(const fs::path& file)
 {
     const Descriptor descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC));
     if (!descriptor.IsOpen()) {
-        FailWith(file, "cannot be opened", errno);
+        FailWith(file, Phrase("Desk", "%1: cannot be opened: %2"), errno);
     }
     std::string text;
     for (;;) {
@@ -234,15 +261,15 @@ std::string ReadWholeFile(const fs::path& file)
             return text;
         }
         if (count < 0 && errno == EISDIR) {
-            throw Failure(file.string() + ":1:1: a folder, not a project file");
+            throw Failure(Phrase("Desk", "%1:1:1: a folder, not a project file"), file.string());
         }
         if (count < 0) {
-            FailWith(file, "cannot be read", errno);
+            FailWith(file, Phrase("Desk", "%1: cannot be read: %2"), errno);
         }
         text.append(block.data(), static_cast<std::size_t>(count));
         if (text.size() > MaxFileSize) {
-            throw Failure(file.string() + ":1:1: longer than " + std::to_string(MaxFileSize >> 20U) +
-                          " MiB, no project is that long");
+            throw Failure(Phrase("Desk", "%1:1:1: longer than %2 MiB, no project is that long"),
+                          file.string(), std::to_string(MaxFileSize >> 20U));
         }
     }
 }

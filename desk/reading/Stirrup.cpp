@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "RankerModule.h"
 #include "desk/reading/Cursor.h"
+#include "host/StirrupText.h"
 
 namespace Desk {
 

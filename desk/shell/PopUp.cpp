@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "desk/project/Encoding.h"
+#include "desk/shell/QtDisplay.h"
+#include "platform/windows/CWnd.h"
 #include "platform/windows/Events.h"
 
 namespace Desk {
@@ -154,7 +155,7 @@ void Surface::paintEvent(QPaintEvent* /*event*/)
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-QString Shown(const CString& text) { return QString::fromStdString(Utf8FromGbk(text)); }
+QString Shown(const CString& text) { return QString::fromStdString(Texts().utf8FromGbk(text)); }
 
 int CaretInWidget(const WindowRecord& box)
 {

@@ -1,9 +1,9 @@
 // From records to widgets. The way back is in QtInput.cpp.
 #include "desk/shell/QtDisplay.h"
 
-#include "desk/project/Encoding.h"
 #include "desk/shell/PopUp.h"
 #include "desk/shell/QtInput.h"
+#include "platform/windows/CWnd.h"
 
 namespace Desk {
 
@@ -86,7 +86,8 @@ public:
     QPointer<QWidget> openOver;  // the pop-up that is open
 };
 
-QtDisplay::QtDisplay(QObject* parent) : QObject(parent), m_private(std::make_unique<Private>(*this))
+QtDisplay::QtDisplay(const TextCodec& codec, QObject* parent)
+    : QObject(parent), m_private(std::make_unique<Private>(*this)), m_codec(codec)
 {
     qApp->installEventFilter(&m_private->input);
     SetDisplay(this);
@@ -233,5 +234,7 @@ int QtDisplay::ShowMessageBox(const CString& text)
     box.exec();
     return IDOK;
 }
+
+const TextCodec& Texts() { return static_cast<const QtDisplay*>(GetDisplay())->Codec(); }
 
 }  // namespace Desk

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
 
 #include "desk/Toolkit.h"
 #include "platform/windows/Display.h"
@@ -10,12 +13,19 @@ Q_DECLARE_OPAQUE_POINTER(HWND)  // so that signals carry handles
 
 namespace Desk {
 
+// The module's GBK bytes as UTF-8 and back, by functions of whoever makes the display. Bytes that are no
+// character become U+FFFD; nothing comes back for a character that GBK lacks.
+struct TextCodec {
+    std::string (*utf8FromGbk)(const CString&);
+    std::optional<CString> (*gbkFromUtf8)(std::string_view);
+};
+
 // At most one, made after the QApplication; while it exists it is the process's display.
 class QtDisplay : public QObject, public Display {
     Q_OBJECT
 
 public:
-    explicit QtDisplay(QObject* parent = nullptr);
+    explicit QtDisplay(const TextCodec& codec, QObject* parent = nullptr);
     ~QtDisplay() override;
 
     // The toolkit's logical pixels per pixel of the windows, across and down; 1 at first.
@@ -27,6 +37,8 @@ public:
     // no room. It takes the focus and returns it when it hides. A press elsewhere in the application
     // dismisses it as Esc does.
     void OpenBeside(HWND popUp, const QRect& field, QWidget* owner);
+
+    [[nodiscard]] const TextCodec& Codec() const { return m_codec; }
 
     // The widget of a window or control; null for an unknown handle.
     [[nodiscard]] QWidget* WidgetOf(HWND hWnd) const;
@@ -44,6 +56,10 @@ signals:
 private:
     class Private;
     std::unique_ptr<Private> m_private;
+    TextCodec m_codec;
 };
+
+// Of the display that exists.
+[[nodiscard]] const TextCodec& Texts();
 
 }  // namespace Desk

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "desk/project/Encoding.h"
 #include "desk/shell/Keys.h"
 #include "desk/shell/PopUp.h"
 #include "desk/shell/QtDisplay.h"
 #include "platform/text/GbkWalk.h"
+#include "platform/windows/CWnd.h"
 #include "platform/windows/WindowRecord.h"
 
 namespace Desk {
@@ -65,7 +65,8 @@ std::optional<EditedText> EditedFrom(const CString& before, const QLineEdit& lin
     const auto byteAt = [&bytes](qsizetype character) {
         return bytes[static_cast<std::size_t>(character)];
     };
-    const std::optional<CString> typed = GbkFromUtf8(now.mid(head, now.size() - head - tail).toStdString());
+    const std::optional<CString> typed =
+        Texts().gbkFromUtf8(now.mid(head, now.size() - head - tail).toStdString());
     if (!typed) {
         return std::nullopt;
     }
@@ -79,7 +80,7 @@ std::optional<EditedText> EditedFrom(const CString& before, const QLineEdit& lin
     } else if (cursor >= now.size() - tail) {
         edited.caret = typedEnd + byteAt(cursor - now.size() + shown.size()) - tailStart;
     } else {
-        const std::optional<CString> part = GbkFromUtf8(now.mid(head, cursor - head).toStdString());
+        const std::optional<CString> part = Texts().gbkFromUtf8(now.mid(head, cursor - head).toStdString());
         edited.caret = byteAt(head) + (part ? part->GetLength() : 0);
     }
     return edited;
@@ -274,7 +275,7 @@ bool QtInput::OnKey(HWND window, const QKeyEvent& key, bool native)
         return true;
     }
     if (down && !taken && !key.text().isEmpty()) {
-        const std::optional<CString> typed = GbkFromUtf8(key.text().toStdString());
+        const std::optional<CString> typed = Texts().gbkFromUtf8(key.text().toStdString());
         for (int i = 0; typed && i < typed->GetLength() && IsWindow(target); ++i) {
             taken = send(WM_CHAR, static_cast<unsigned char>(typed->GetAt(i)), !nativeKey) || taken;
         }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desk/Toolkit.h"
-#include "desk/ranking/Ranking.h"
+#include "desk/window/ChoiceRows.h"
 
 namespace Desk {
 
@@ -12,9 +12,7 @@ class ChoiceBox : public QWidget {
 public:
     explicit ChoiceBox(QWidget* parent = nullptr);
 
-    // What the texts are for and what stands there now. The row to begin with is that of the present
-    // text, or else the ranker's focus. Free names do not hold the present one: no row is marked then, so
-    // that Enter renames nothing by mistake.
+    // What the texts are for, the text that is there now, and the texts on offer: see ChoiceRows::Fill.
     void SetChoices(const QString& owner, const QString& field, const QString& present,
                     const Ranking& ranking, bool areNames);
     // Nothing is chosen.
@@ -24,8 +22,7 @@ public:
 
     [[nodiscard]] bool WantsTable() const { return m_table->isChecked(); }
     void SetPanelEnabled(bool enabled) { m_panel->setEnabled(enabled); }
-    // The button that opens the panel, for its place on the screen.
-    [[nodiscard]] QWidget* PanelButton() const { return m_panel; }
+    void Retranslate();
 
 signals:
     void Taken(const QString& text);
@@ -35,29 +32,18 @@ signals:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
-    void Retranslate();
-    void FillGroup(const QString& title, const Ranking& ranking, bool (*belongs)(Source));
-    void AddRow(QTreeWidgetItem* group, const Candidate& candidate, bool focus);
-    void Narrow();
-    void Take(QTreeWidgetItem* row);
-    void TakeTyped();
-    bool MoveRow(int key);
+    [[nodiscard]] QString Typed() const { return m_typed->text().trimmed(); }
+    void Take(const QString& text);
     [[nodiscard]] bool IsForWindow(const QKeyEvent& key) const;
 
     QLabel* m_owner;
     QLabel* m_present;
     QLineEdit* m_typed;
-    QTreeWidget* m_rows;
+    ChoiceRows* m_rows;
     QCheckBox* m_table;
     QPushButton* m_panel;
-    QTreeWidgetItem* m_first = nullptr;  // the row to begin with
-    QString m_presentText;
-    Ranking m_ranking;
-    QIcon m_noMark;
-    bool m_areNames = false;
     bool m_isEmpty = true;
 };
 

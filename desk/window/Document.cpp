@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "desk/project/Encoding.h"
-#include "desk/project/Failure.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/window/FieldNames.h"
+#include "desk/window/Languages.h"
 
 namespace Desk {
 
@@ -19,19 +19,18 @@ constexpr int RecoveryDelay = 2000;  // ms from a change to its recovery copy
 
 class TextChange : public QUndoCommand {
 public:
-    TextChange(Document& document, const FieldRef& place, std::string text)
-        : m_document(document), m_place(place), m_before(TextAt(document.Get(), place)),
-          m_after(std::move(text))
+    TextChange(Document& document, const FieldRef& ref, std::string text)
+        : m_document(document), m_ref(ref), m_before(TextAt(document.Get(), ref)), m_after(std::move(text))
     {
-        setText(QStringLiteral("%1: %2").arg(OwnerName(document.Get(), place), FieldName(place.field)));
+        setText(QStringLiteral("%1: %2").arg(OwnerName(document.Get(), ref), FieldName(ref.field)));
     }
 
-    void undo() override { m_document.PutText(m_place, m_before); }
-    void redo() override { m_document.PutText(m_place, m_after); }
+    void undo() override { m_document.PutText(m_ref, m_before); }
+    void redo() override { m_document.PutText(m_ref, m_after); }
 
 private:
     Document& m_document;
-    FieldRef m_place;
+    FieldRef m_ref;
     std::string m_before;
     std::string m_after;
 };
@@ -81,10 +80,10 @@ bool Document::IsFileNewer() const
     return !m_file.isEmpty() && QFileInfo::exists(m_file) && QFileInfo(m_file).lastModified() != m_fileTime;
 }
 
-QString Document::SetText(const FieldRef& place, const QString& text)
+QString Document::SetText(const FieldRef& ref, const QString& text)
 {
     const std::string wanted = text.trimmed().toStdString();
-    if (wanted == TextAt(m_project, place)) {
+    if (wanted == TextAt(m_project, ref)) {
         return {};
     }
     const auto isControl = [](char ch) { return static_cast<unsigned char>(ch) < ' ' || ch == '\x7F'; };
@@ -92,9 +91,9 @@ QString Document::SetText(const FieldRef& place, const QString& text)
         return tr("An annotation is a single line without control characters.");
     }
     if (!GbkFromUtf8(wanted)) {
-        return tr("\"%1\" holds a character that drawings cannot store.").arg(text.trimmed());
+        return tr("\"%1\" contains a character that drawings cannot store.").arg(text.trimmed());
     }
-    m_changes.push(new TextChange(*this, place, wanted));
+    m_changes.push(new TextChange(*this, ref, wanted));
     return {};
 }
 
@@ -110,17 +109,17 @@ void Document::WriteRecoveryCopy()
     try {
         m_recovery.Write(m_project, m_file, m_fileTime);
     } catch (const Failure& failure) {
-        emit RecoveryFailed(QString::fromStdString(failure.what()));
+        emit RecoveryFailed(tr("There is no recovery copy: %1").arg(Told(failure)));
     }
 }
 
-void Document::PutText(const FieldRef& place, const std::string& text)
+void Document::PutText(const FieldRef& ref, const std::string& text)
 {
-    TextAt(m_project, place) = text;
+    TextAt(m_project, ref) = text;
     if (!m_recoverySoon.isActive()) {
         m_recoverySoon.start();
     }
-    emit TextChanged(place);
+    emit TextChanged(ref);
 }
 
 void Document::Replace(Project project, const QString& file)

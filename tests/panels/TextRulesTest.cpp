@@ -1,5 +1,4 @@
-// Taking names, sections and elevations apart and putting them together, and which list row stands for a
-// text.
+// Taking names apart, the keys of the elevation, and texts that are fields of their own.
 #include <gtest/gtest.h>
 
 #include "panels/LevelText.h"
@@ -13,12 +12,6 @@ void PrintTo(const Fields& fields, std::ostream* out)
     *out << fields.type << '|' << fields.serial << '|' << fields.span << '|' << fields.cantilever;
 }
 }  // namespace NameText
-namespace SectionText {
-void PrintTo(const Fields& fields, std::ostream* out)
-{
-    *out << fields.separator << '|' << fields.width << '|' << fields.height;
-}
-}  // namespace SectionText
 
 namespace {
 
@@ -65,64 +58,15 @@ TEST(NameText, DecomposesWhatItReaches)
     }
 }
 
-TEST(NameText, ComposesAndSaysWhetherTheNameIsWhole)
+// Whether composed or cut, a text may be one of the fields that go with it.
+TEST(TextRules, TheTextMayBeAField)
 {
-    struct Case {
-        NameText::Fields fields;
-        const char* name;
-        bool whole;
-    };
-    const Case cases[] = {
-        {{"KL", "3", "2", "A"}, "KL3(2A)", true}, {{"KL", "3", "2", ""}, "KL3(2)", true},
-        {{"KL", "3", "", "B"}, "KL3(B)", true},   {{"KL", "3", "0", "B"}, "KL3(B)", true},
-        {{"KL", "", "00", ""}, "KL(00)", true},   {{"KL", "3", "0", ""}, "KL3", false},
-        {{"KL", "3", "", ""}, "KL3", false},
-    };
-    for (const Case& c : cases) {
-        CString name("old");
-        EXPECT_EQ(NameText::Compose(c.fields, name), c.whole) << c.name;
-        EXPECT_EQ(name, c.name);
-    }
-    NameText::Fields fields{"KL", "3", "2", "A"};
-    NameText::Compose(fields, fields.span);
-    EXPECT_EQ(fields.span, "KL3(2A)");
-}
-
-TEST(SectionText, DecomposesAndCutsTheTail)
-{
-    struct Case {
-        const char* text;
-        const char* cut;
-        SectionText::Fields fields;  // starting from separator "s"
-    };
-    const Case cases[] = {
-        {"300x600", "300x600", {"s", "300", "600"}},
-        {"300X600", "300X600", {"X", "300", "600"}},
-        {"300*600", "300*600", {"*", "300", "600"}},
-        {"300", "300", {"*", "", "300"}},
-        {"x600", "x600", {"s", "", "600"}},
-        {"300x600/500", "300x600", {"s", "300", "600"}},
-        {"300x600 Y500x250", "300x600", {"s", "300", "600"}},
-        {"300/1 x600", "300", {"*", "", "300"}},
-        {" 300x600", "", {"*", "", ""}},
-        // "x" wins wherever it stands, then "X".
-        {"3X0*6x0", "3X0*6x0", {"s", "3X0*6", "0"}},
-        {"3*0X6", "3*0X6", {"X", "3*0", "6"}},
-    };
-    for (const Case& c : cases) {
-        CString text(c.text);
-        SectionText::Fields fields{"s", "w", "h"};
-        EXPECT_TRUE(SectionText::Decompose(text, fields)) << c.text;
-        EXPECT_EQ(text, c.cut);
-        EXPECT_EQ(fields, c.fields) << c.text;
-    }
-    SectionText::Fields own{"s", "300x600 Y500x250", "h"};
-    SectionText::Decompose(own.width, own);
-    EXPECT_EQ(own, (SectionText::Fields{"s", "300", "600"}));
-    CString empty;
-    SectionText::Fields fields{"s", "w", "h"};
-    EXPECT_FALSE(SectionText::Decompose(empty, fields));
-    EXPECT_EQ(fields, (SectionText::Fields{"s", "w", "h"}));
+    NameText::Fields name{"KL", "3", "2", "A"};
+    NameText::Compose(name, name.span);
+    EXPECT_EQ(name.span, "KL3(2A)");
+    SectionText::Fields section{"s", "300x600 Y500x250", "h"};
+    SectionText::Decompose(section.width, section);
+    EXPECT_EQ(section.width + section.separator + section.height, "300s600");
 }
 
 // Each key as a letter: digits and "." as they are, "-" sign, "b" brackets, "<" back.

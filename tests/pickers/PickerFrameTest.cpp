@@ -110,31 +110,4 @@ TYPED_TEST(AnyPicker, TheItemMayTakeThePickerAway)
     }
 }
 
-TYPED_TEST(AnyPicker, ControlsStandInsideClearOfEachOtherAndListsShowAllRows)
-{
-    const WindowRecord& window = *FindWindowRecord(this->picker->m_hWnd);
-    const bool horizontal = std::is_same_v<TypeParam, CHBarPropertySheet>;
-    EXPECT_EQ(window.shape->id, horizontal ? 363U : 365U);
-    EXPECT_EQ(window.shape->width, horizontal ? 122 : 60);
-    EXPECT_EQ(window.shape->height, horizontal ? 96 : 105);
-    const CRect all(0, 0, window.place.Width(), window.place.Height());
-    for (std::size_t i = 0; i < window.children.size(); ++i) {
-        const WindowRecord& control = *FindWindowRecord(window.children[i]);
-        EXPECT_TRUE(control.place.left >= 0 && control.place.right <= all.right &&
-                    control.place.bottom <= all.bottom)
-            << control.id;
-        EXPECT_GE(control.place.Width(), control.text.GetLength() * 6) << control.id << control.text.View();
-        if (control.kind == WindowKind::ListBox) {
-            EXPECT_LE(static_cast<int>(control.list.rows.size()) * 12, control.place.Height())
-                << control.id;
-        }
-        for (std::size_t j = 0; j < i; ++j) {
-            const CRect& other = FindWindowRecord(window.children[j])->place;
-            EXPECT_TRUE(other.right <= control.place.left || control.place.right <= other.left ||
-                        other.bottom <= control.place.top || control.place.bottom <= other.top)
-                << control.id << " over " << FindWindowRecord(window.children[j])->id;
-        }
-    }
-}
-
 }  // namespace

@@ -10,19 +10,19 @@ namespace {
 
 using namespace Desk;
 
-std::vector<FieldRef> AllPlaces(const Project& project)
+std::vector<FieldRef> AllRefs(const Project& project)
 {
-    std::vector<FieldRef> places;
+    std::vector<FieldRef> refs;
     for (const bool wall : {false, true}) {
         for (std::size_t i = 0; i < (wall ? project.walls.size() : project.beams.size()); ++i) {
             for (const Field field : wall ? WallFields() : BeamFields()) {
                 if (!TextAt(project, {wall, i, field}).empty()) {
-                    places.push_back({wall, i, field});
+                    refs.push_back({wall, i, field});
                 }
             }
         }
     }
-    return places;
+    return refs;
 }
 
 struct View : FloorView {
@@ -31,13 +31,13 @@ struct View : FloorView {
         resize(1200, 800);
         SetProject(&project);
         show();
-        connect(this, &FloorView::Picked, [this](const FieldRef& place) { picked.push_back(place); });
+        connect(this, &FloorView::Picked, [this](const FieldRef& ref) { picked.push_back(ref); });
         connect(this, &FloorView::NothingPicked, [this] { ++nothing; });
-        connect(this, &FloorView::PanelAsked, [this](const FieldRef& place) { panel = place; });
+        connect(this, &FloorView::PanelAsked, [this](const FieldRef& ref) { panel = ref; });
     }
-    [[nodiscard]] QPoint Middle(const FieldRef& place) const
+    [[nodiscard]] QPoint Middle(const FieldRef& ref) const
     {
-        return viewport()->mapFromGlobal(OnScreen(place).center());
+        return viewport()->mapFromGlobal(OnScreen(ref).center());
     }
     std::vector<FieldRef> picked;
     int nothing = 0;
@@ -53,34 +53,34 @@ TEST(FloorView, APressOnEachAnnotationOfTheSamplePicksIt)
     for (const double zoom : {1.0, 3.0}) {
         view.Fit();
         view.ZoomBy(zoom);
-        for (const FieldRef& place : AllPlaces(project)) {
-            view.SetChosen(place);
+        for (const FieldRef& ref : AllRefs(project)) {
+            view.SetChosen(ref);
             view.picked.clear();
-            QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.Middle(place));
+            QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.Middle(ref));
             ASSERT_EQ(view.picked.size(), 1U);
-            others += view.picked.front() == place ? 0 : 1;
+            others += view.picked.front() == ref ? 0 : 1;
         }
     }
-    EXPECT_LE(others, 2 * static_cast<int>(AllPlaces(project).size()) / 50) << "covered by another text";
-    const FieldRef place{false, 3, Field::Section};
-    view.SetChosen(place);
-    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, view.Middle(place));
-    EXPECT_EQ(view.panel, place);
+    EXPECT_LE(others, 2 * static_cast<int>(AllRefs(project).size()) / 50) << "covered by another text";
+    const FieldRef ref{false, 3, Field::Section};
+    view.SetChosen(ref);
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, view.Middle(ref));
+    EXPECT_EQ(view.panel, ref);
 }
 
 TEST(FloorView, BareGroundPansOrPicksNothing)
 {
     const Project project = SampleProject();
     View view(project);
-    const FieldRef place{false, 0, Field::Name};
-    const QPoint before = view.Middle(place);
+    const FieldRef ref{false, 0, Field::Name};
+    const QPoint before = view.Middle(ref);
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, QPoint(5, 5));
     EXPECT_EQ(view.nothing, 1);
     QTest::mousePress(view.viewport(), Qt::LeftButton, {}, QPoint(5, 5));
     QTest::mouseMove(view.viewport(), QPoint(45, 35));
     QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, QPoint(45, 35));
     EXPECT_EQ(view.nothing, 1);
-    EXPECT_EQ(view.Middle(place) - before, QPoint(40, 30));
+    EXPECT_EQ(view.Middle(ref) - before, QPoint(40, 30));
     EXPECT_TRUE(view.picked.empty());
 }
 
@@ -89,8 +89,8 @@ TEST(FloorView, TextsThatAreTooSmallToBeDrawnArePickedByNobody)
     const Project project = SampleProject();
     View view(project);
     view.ZoomBy(0.4);
-    for (const FieldRef& place : AllPlaces(project)) {
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.Middle(place));
+    for (const FieldRef& ref : AllRefs(project)) {
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.Middle(ref));
     }
     for (const FieldRef& picked : view.picked) {
         EXPECT_EQ(picked.field, Field::Name) << "a beam itself";
@@ -103,16 +103,16 @@ TEST(FloorView, ArrowKeysMoveTheFloorAndOtherKeysAreTheWindows)
     const Project project = SampleProject();
     View view(project);
     view.ZoomBy(4.0);
-    const FieldRef place{false, 0, Field::Name};
-    const QPoint before = view.Middle(place);
+    const FieldRef ref{false, 0, Field::Name};
+    const QPoint before = view.Middle(ref);
     QTest::keyClick(&view, Qt::Key_Right);
     QTest::keyClick(&view, Qt::Key_Down);
-    EXPECT_LT(view.Middle(place).x(), before.x());
-    EXPECT_LT(view.Middle(place).y(), before.y());
+    EXPECT_LT(view.Middle(ref).x(), before.x());
+    EXPECT_LT(view.Middle(ref).y(), before.y());
     QTest::keyClick(&view, Qt::Key_Left);
     QTest::keyClick(&view, Qt::Key_PageUp);
-    EXPECT_EQ(view.Middle(place).x(), before.x());
-    EXPECT_GT(view.Middle(place).y(), before.y());
+    EXPECT_EQ(view.Middle(ref).x(), before.x());
+    EXPECT_GT(view.Middle(ref).y(), before.y());
     QKeyEvent letter(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
     QApplication::sendEvent(&view, &letter);
     EXPECT_FALSE(letter.isAccepted());
@@ -135,9 +135,9 @@ TEST(FloorView, RefreshMovesNoOtherText)
     View view(project);
     const auto boxes = [&](std::size_t except) {
         std::vector<QRect> rects;
-        for (const FieldRef& place : AllPlaces(project)) {
-            if (place.isWall || place.index != except) {
-                rects.push_back(view.OnScreen(place));
+        for (const FieldRef& ref : AllRefs(project)) {
+            if (ref.isWall || ref.index != except) {
+                rects.push_back(view.OnScreen(ref));
             }
         }
         return rects;

@@ -1,6 +1,7 @@
 // What single annotation texts mean, and that the module's own rules find the same in them.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <random>
 
 #include "RankerModule.h"

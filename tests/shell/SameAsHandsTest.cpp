@@ -97,7 +97,7 @@ TEST(ShellAndHands, GiveTheSameTextsAsHandsInMemory)
         SCOPED_TRACE("pop-up " + std::to_string(static_cast<int>(kind)));
         Hands inMemory;
         const std::vector<std::string> wanted = Play(inMemory, kind, seed, Steps, [](const Stage&) {});
-        Desk::QtDisplay display;
+        Desk::QtDisplay display{{Desk::Utf8FromGbk, Desk::GbkFromUtf8}};
         display.SetZoom(Zooms[(seed + static_cast<unsigned>(kind)) % 4]);
         const QTimer answers;  // message boxes are closed at once
         QObject::connect(&answers, &QTimer::timeout, [] {

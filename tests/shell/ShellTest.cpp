@@ -17,7 +17,7 @@ protected:
         return std::string(text.View());
     }
 
-    Desk::QtDisplay display;
+    Desk::QtDisplay display{{Desk::Utf8FromGbk, Desk::GbkFromUtf8}};
 };
 
 constexpr int DiameterBox = 1311, DiameterList = 1112;  // of the horizontal picker

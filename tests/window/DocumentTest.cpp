@@ -25,8 +25,7 @@ TEST_F(DocumentTest, EveryChangeGoesBackAndForth)
     document.OpenSample();
     const std::string first = document.Get().beams[0].section;
     std::vector<FieldRef> told;
-    QObject::connect(&document, &Document::TextChanged,
-                     [&](const FieldRef& place) { told.push_back(place); });
+    QObject::connect(&document, &Document::TextChanged, [&](const FieldRef& ref) { told.push_back(ref); });
     for (int i = 0; i < 500; ++i) {
         EXPECT_TRUE(document.SetText(Section, QString::number(i) + "x600").isEmpty());
     }

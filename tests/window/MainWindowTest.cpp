@@ -17,7 +17,7 @@ protected:
     {
         QSettings().clear();
         window.SetLanguage(Language::English);
-        window.OpenFile(QString());
+        window.Files().Open(QString());
         window.resize(1440, 900);  // whatever the screen's size and scale
         window.show();
         QCoreApplication::processEvents();
@@ -29,16 +29,16 @@ protected:
     {
         return *window.findChild<Widget*>(name);
     }
-    std::string Text(const FieldRef& place) { return TextAt(window.TheDocument().Get(), place); }
+    std::string Text(const FieldRef& ref) { return TextAt(window.TheDocument().Get(), ref); }
     void Trigger(const char* action) { Find<QAction>(action).trigger(); }
     // Presses an annotation in the drawing.
-    void Press(const FieldRef& place)
+    void Press(const FieldRef& ref)
     {
         FloorView& drawing = window.Drawing();
-        drawing.SetChosen(place);  // brings it into view
+        drawing.SetChosen(ref);  // brings it into view
         QTest::mouseClick(drawing.viewport(), Qt::LeftButton, {},
-                          drawing.viewport()->mapFromGlobal(drawing.OnScreen(place).center()));
-        ASSERT_EQ(window.Chosen(), place);
+                          drawing.viewport()->mapFromGlobal(drawing.OnScreen(ref).center()));
+        ASSERT_EQ(window.Chosen(), ref);
     }
     // The texts on offer that are not hidden, group titles in brackets.
     QStringList Offer()
@@ -209,29 +209,29 @@ TEST_F(MainWindowTest, EachPanelReadsItsAnnotation)
     const Project& project = window.TheDocument().Get();
     for (const Field field : BeamFields()) {
         for (std::size_t i = 0; i < project.beams.size(); i += 7) {
-            const FieldRef place{false, i, field};
-            const std::string text = Text(place);
+            const FieldRef ref{false, i, field};
+            const std::string text = Text(ref);
             const bool tapers = field == Field::Section && text.find('/') != std::string::npos;
             if (text.empty() || tapers) {  // the section panel knows no taper
                 continue;
             }
-            window.Choose(place);
+            window.Choose(ref);
             window.OpenPanel();
-            ASSERT_EQ(window.Panels().Serving(), place);
+            ASSERT_EQ(window.Panels().Serving(), ref);
             QTest::mouseClick(display.WidgetOf(window.Panels().Window()), Qt::RightButton, {},
                               QPoint(1, 1));
-            EXPECT_EQ(Text(place), text);
+            EXPECT_EQ(Text(ref), text);
         }
     }
     for (std::size_t i = 0; i < project.walls.size(); ++i) {
         for (const Field field : {Field::HorizontalBars, Field::VerticalBars}) {
-            const FieldRef place{true, i, field};
-            const std::string text = Text(place);
-            window.Choose(place);
+            const FieldRef ref{true, i, field};
+            const std::string text = Text(ref);
+            window.Choose(ref);
             window.OpenPanel();
             QTest::mouseClick(display.WidgetOf(window.Panels().Window()), Qt::RightButton, {},
                               QPoint(1, 1));
-            EXPECT_EQ(Text(place), text);
+            EXPECT_EQ(Text(ref), text);
         }
     }
     for (const char* const layers : {"6B25/4B25", "2B22+3B25/2B22", "6B25 4/2", "2B25+3B22 2/3"}) {
@@ -318,7 +318,7 @@ TEST_F(MainWindowTest, APanelDoesNotOutliveItsProject)
     window.OpenPanel();
     const HWND panel = window.Panels().Window();
     ASSERT_TRUE(CWnd::FromHandle(panel)->IsWindowVisible());
-    window.OpenFile(QString());
+    window.Files().Open(QString());
     EXPECT_FALSE(IsWindow(panel) && CWnd::FromHandle(panel)->IsWindowVisible());
     EXPECT_FALSE(window.Panels().Serving());
 }
@@ -388,42 +388,13 @@ TEST_F(MainWindowTest, UnsavedWorkIsNeverLeftWithoutAQuestion)
         });
     };
     answer("Stay");
-    EXPECT_FALSE(window.OpenFile(QString()));
+    EXPECT_FALSE(window.Files().Open(QString()));
     EXPECT_EQ(Text(Bars), "8B28");
     answer("Stay");
     EXPECT_FALSE(window.close());
     answer("Leave without saving");
     EXPECT_TRUE(window.close());
     EXPECT_EQ(asked.size(), 3);
-}
-
-TEST_F(MainWindowTest, EveryTextOfTheWindowIsThereInChinese)
-{
-    window.SetLanguage(Language::Chinese);
-    const ChineseTexts& texts = *ApplyLanguage(Language::Chinese);
-    for (const Field field : BeamFields()) {
-        window.Choose(FieldRef{false, 1, field});
-    }
-    window.Choose(FieldRef{true, 0, Field::VerticalBars});
-    Beam beam;
-    SectionSketch sketch;
-    for (const char* const section : {"", "x", "300x600"}) {
-        beam.section = section;
-        beam.stirrup = beam.topBars = "?";
-        beam.bottomBars = *section == '3' ? "9B25" : "1B12";
-        beam.area.bottom = 1000;
-        sketch.SetBeam(&beam, Field::LeftEnd);
-        sketch.grab();
-        sketch.SetBeam(&beam, Field::RightEnd);
-        sketch.grab();
-    }
-    window.grab();
-    EXPECT_EQ(texts.Missing().join('|').toStdString(), "");
-    EXPECT_TRUE(Find<QAction>("save").text().startsWith(QString::fromUtf8("保存")));
-    EXPECT_EQ(texts.translate("QFileDialog", "Name"), QString()) << "a file has another kind of name";
-    EXPECT_EQ(Offer().first(), QString::fromUtf8("[工程已有]"));
-    window.SetLanguage(Language::English);
-    EXPECT_EQ(Find<QAction>("save").text(), "&Save");
 }
 
 TEST_F(MainWindowTest, TheReportTellsWhatShowsAndWhere)

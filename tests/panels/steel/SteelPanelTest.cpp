@@ -98,35 +98,6 @@ TEST(SteelPanel, ErectionBarsKeepTheirBracketsInPlace)
     EXPECT_TRUE(panel.Seen().rows.empty());
 }
 
-TEST(SteelPanel, APieceInTheMiddleHasNoTerminator)
-{
-    SteelPanel panel(0);
-    for (const int diameter : {D12, D22}) {
-        panel.Pick(VdiaList, LaterRow);
-        panel.Compose(Two, diameter, Semicolon);
-    }
-    panel.Pick(PosList, 0);
-    panel.Pick(SepList, Comma);
-    EXPECT_EQ(panel.Text(0), "2B12+2B22;");
-    panel.Pick(VdiaList, LaterRow);
-    panel.Pick(UpList, 2);
-    panel.Pick(DownList, 4);
-    panel.Compose(Six, D25);
-    EXPECT_EQ(panel.Seen().rows, (Texts{"2B12", "+6B25 2/4", "+2B22;"}));
-    EXPECT_EQ(panel.Seen().row, 1);
-    panel.Pick(UpList, 0);  // takes the lower count with it
-    EXPECT_EQ(panel.Seen().lower, 0);
-    EXPECT_EQ(panel.Text(0), "2B12+6B25+2B22;");
-    panel.Delete();
-    EXPECT_EQ(panel.Text(0), "2B12+2B22;");
-    panel.Pick(VdiaList, LaterRow);
-    panel.Compose(Two, D12);  // has it already
-    EXPECT_EQ(panel.Seen().rows.size(), 2U);
-    EXPECT_TRUE(panel.Seen().newPiece);
-    panel.Pick(SteeldiaList, D14);
-    EXPECT_EQ(panel.Text(0), "2B12+2B22+2B14 ");
-}
-
 TEST(SteelPanel, AGroupOpensBehindTheGroupOfTheRememberedRow)
 {
     SteelPanel panel(-1);

@@ -1,0 +1,159 @@
+#include "desk/window/Menus.h"
+
+namespace Desk {
+
+namespace {
+
+// A row of the menus: a menu's title, a command in it, or a line between commands.
+struct Row {
+    const char* command = nullptr;  // null for a title and a line
+    const char* text = nullptr;     // null for a line
+    const char* hint = nullptr;
+    QKeySequence::StandardKey standardKey = QKeySequence::UnknownKey;
+    QKeyCombination key = QKeyCombination::fromCombined(0);  // where there is no standard one
+};
+
+constexpr Row Title(const char* text) { return {nullptr, text}; }
+constexpr Row Line{};
+
+constexpr const char* RecentTitle = QT_TRANSLATE_NOOP("Desk", "Open &recent");
+constexpr const char* ViewTitle = QT_TRANSLATE_NOOP("Desk", "&View");
+
+// clang-format off
+constexpr Row Rows[] = {
+    Title(QT_TRANSLATE_NOOP("Desk", "&File")),
+    {"open", QT_TRANSLATE_NOOP("Desk", "&Open..."), QT_TRANSLATE_NOOP("Desk", "Opens a project file"), QKeySequence::Open},
+    Title(RecentTitle),
+    {"sample", QT_TRANSLATE_NOOP("Desk", "Open the &sample"), QT_TRANSLATE_NOOP("Desk", "Opens the sample project")},
+    Line,
+    {"save", QT_TRANSLATE_NOOP("Desk", "&Save"), QT_TRANSLATE_NOOP("Desk", "Saves the project"), QKeySequence::Save},
+    {"saveAs", QT_TRANSLATE_NOOP("Desk", "Save &as..."), QT_TRANSLATE_NOOP("Desk", "Saves under another name"), {}, Qt::CTRL | Qt::SHIFT | Qt::Key_S},
+    Line,
+    {"quit", QT_TRANSLATE_NOOP("Desk", "&Quit"), QT_TRANSLATE_NOOP("Desk", "Ends the program"), {}, Qt::CTRL | Qt::Key_Q},
+
+    Title(QT_TRANSLATE_NOOP("Desk", "&Edit")),
+    {"undo", QT_TRANSLATE_NOOP("Desk", "&Undo"), QT_TRANSLATE_NOOP("Desk", "Takes the last change back"), QKeySequence::Undo},
+    {"redo", QT_TRANSLATE_NOOP("Desk", "&Redo"), QT_TRANSLATE_NOOP("Desk", "Makes the change again"), QKeySequence::Redo},
+    Line,
+    {"find", QT_TRANSLATE_NOOP("Desk", "&Find..."), QT_TRANSLATE_NOOP("Desk", "Finds annotations"), QKeySequence::Find},
+    {"findNext", QT_TRANSLATE_NOOP("Desk", "Find &next"), QT_TRANSLATE_NOOP("Desk", "The next annotation found"), {}, Qt::Key_F3},
+    {"findPrevious", QT_TRANSLATE_NOOP("Desk", "Find &previous"), QT_TRANSLATE_NOOP("Desk", "The previous annotation found"), {}, Qt::SHIFT | Qt::Key_F3},
+
+    Title(QT_TRANSLATE_NOOP("Desk", "&Annotation")),
+    {"type", QT_TRANSLATE_NOOP("Desk", "&Type a text"), QT_TRANSLATE_NOOP("Desk", "Goes to the texts for the annotation"), {}, Qt::CTRL | Qt::Key_T},
+    {"edit", QT_TRANSLATE_NOOP("Desk", "&Edit in place"), QT_TRANSLATE_NOOP("Desk", "Edits the property"), {}, Qt::Key_F2},
+    {"panel", QT_TRANSLATE_NOOP("Desk", "&Compose in the panel"), QT_TRANSLATE_NOOP("Desk", "Opens the panel on the present text"), {}, Qt::Key_F4},
+    Line,
+    {"nextField", QT_TRANSLATE_NOOP("Desk", "Next &annotation"), QT_TRANSLATE_NOOP("Desk", "The next annotation of the beam"), {}, Qt::CTRL | Qt::Key_Down},
+    {"previousField", QT_TRANSLATE_NOOP("Desk", "&Previous annotation"), QT_TRANSLATE_NOOP("Desk", "The previous annotation of the beam"), {}, Qt::CTRL | Qt::Key_Up},
+    {"nextOwner", QT_TRANSLATE_NOOP("Desk", "Next &beam"), QT_TRANSLATE_NOOP("Desk", "The same annotation of the next beam"), {}, Qt::CTRL | Qt::Key_Right},
+    {"previousOwner", QT_TRANSLATE_NOOP("Desk", "P&revious beam"), QT_TRANSLATE_NOOP("Desk", "The same annotation of the previous beam"), {}, Qt::CTRL | Qt::Key_Left},
+
+    Title(ViewTitle),
+    {"fit", QT_TRANSLATE_NOOP("Desk", "&Fit"), QT_TRANSLATE_NOOP("Desk", "Shows the whole floor"), {}, Qt::CTRL | Qt::Key_0},
+    {"zoomIn", QT_TRANSLATE_NOOP("Desk", "Zoom &in"), QT_TRANSLATE_NOOP("Desk", "Shows less, larger"), QKeySequence::ZoomIn},
+    {"zoomOut", QT_TRANSLATE_NOOP("Desk", "Zoom &out"), QT_TRANSLATE_NOOP("Desk", "Shows more, smaller"), QKeySequence::ZoomOut},
+    Line,
+
+    Title(QT_TRANSLATE_NOOP("Desk", "&Help")),
+    {"about", QT_TRANSLATE_NOOP("Desk", "&About beamdesk"), QT_TRANSLATE_NOOP("Desk", "What this program is")},
+};
+// clang-format on
+
+constexpr const char* OnBar[] = {"open", "save", "undo", "redo", "panel", "fit"};
+
+QString Translated(const char* text) { return QCoreApplication::translate("Desk", text); }
+
+// A menu's text without the key that Chinese menus append and without dots: "保存(&S)" is "保存".
+QString OnToolBar(QString text)
+{
+    static const QRegularExpression key(QStringLiteral("\\(&.\\)"));
+    return text.remove(key).remove(QLatin1Char('&')).remove(QStringLiteral("..."));
+}
+
+}  // namespace
+
+Menus::Menus(QMainWindow& window) : QObject(&window), m_window(window), m_bar(window.addToolBar(QString()))
+{
+    QMenu* menu = nullptr;
+    for (const Row& row : Rows) {
+        if (row.text == nullptr) {
+            menu->addSeparator();
+        } else if (row.text == RecentTitle) {
+            m_recent = menu->addMenu(QString());
+            m_titles.push_back({m_recent, row.text});
+        } else if (row.command == nullptr) {
+            menu = window.menuBar()->addMenu(QString());
+            m_titles.push_back({menu, row.text});
+            m_view = row.text == ViewTitle ? menu : m_view;
+        } else {
+            auto* const action = new QAction(&window);
+            action->setObjectName(row.command);
+            action->setShortcut(row.standardKey != QKeySequence::UnknownKey ? QKeySequence(row.standardKey)
+                                                                            : QKeySequence(row.key));
+            window.addAction(action);
+            menu->addAction(action);
+            m_texts.push_back({action, row.text, row.hint});
+        }
+    }
+    m_bar->setObjectName("toolBar");
+    m_bar->setMovable(false);
+    m_bar->toggleViewAction()->setEnabled(false);  // the search is in it
+    m_bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    for (const char* const command : OnBar) {
+        m_bar->addAction(&Command(command));
+    }
+}
+
+QAction& Menus::Command(const char* name) const
+{
+    return *m_window.findChild<QAction*>(name, Qt::FindDirectChildrenOnly);
+}
+
+void Menus::Undoes(QUndoStack& changes)
+{
+    On("undo", &changes, &QUndoStack::undo);
+    On("redo", &changes, &QUndoStack::redo);
+    connect(&changes, &QUndoStack::canUndoChanged, &Command("undo"), &QAction::setEnabled);
+    connect(&changes, &QUndoStack::canRedoChanged, &Command("redo"), &QAction::setEnabled);
+    Command("undo").setEnabled(changes.canUndo());
+    Command("redo").setEnabled(changes.canRedo());
+}
+
+void Menus::AddChoice(const char* title, std::initializer_list<const char*> entries, int checked,
+                      const std::function<void(int)>& chosen)
+{
+    QMenu* const menu = m_view->addMenu(QString());
+    m_titles.push_back({menu, title});
+    auto* const group = new QActionGroup(menu);
+    int number = 0;
+    for (const char* const entry : entries) {
+        QAction* const action = menu->addAction(QString());
+        action->setCheckable(true);
+        action->setChecked(number == checked);
+        group->addAction(action);
+        m_texts.push_back({action, entry, nullptr});
+        connect(action, &QAction::triggered, this, [number, chosen] { chosen(number); });
+        ++number;
+    }
+}
+
+void Menus::Retranslate()
+{
+    for (const Texts& texts : m_texts) {
+        const QString name = Translated(texts.name);
+        texts.action->setText(name);
+        texts.action->setIconText(OnToolBar(name));
+        if (texts.hint != nullptr) {
+            const QString keys = texts.action->shortcut().toString(QKeySequence::NativeText);
+            const QString hint = Translated(texts.hint);
+            texts.action->setStatusTip(hint);
+            texts.action->setToolTip(keys.isEmpty() ? hint : QStringLiteral("%1 (%2)").arg(hint, keys));
+        }
+    }
+    for (const auto& [menu, title] : m_titles) {
+        menu->setTitle(Translated(title));
+    }
+}
+
+}  // namespace Desk

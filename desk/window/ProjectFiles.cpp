@@ -1,0 +1,170 @@
+#include "desk/window/ProjectFiles.h"
+
+#include <utility>
+
+#include "desk/project/Failure.h"
+#include "desk/window/Ask.h"
+#include "desk/window/Folders.h"
+#include "desk/window/Languages.h"
+
+namespace Desk {
+
+namespace {
+
+constexpr int MaxRecent = 10;
+constexpr const char* RecentKey = "recent";
+
+}  // namespace
+
+ProjectFiles::ProjectFiles(Document& document, QWidget& window, QMenu& recent,
+                           std::function<bool()> endEdit)
+    : QObject(&window), m_document(document), m_window(window), m_recent(recent),
+      m_endEdit(std::move(endEdit))
+{
+    FillRecent();
+}
+
+bool ProjectFiles::Open(const QString& file)
+{
+    if (!MayLeave()) {
+        return false;
+    }
+    try {
+        if (file.isEmpty()) {
+            m_document.OpenSample();
+        } else {
+            m_document.Open(file);
+            NoteRecent();
+        }
+        return true;
+    } catch (const Failure& failure) {
+        Tell(&m_window, tr("The project could not be opened"), Told(failure));
+        return false;
+    }
+}
+
+bool ProjectFiles::OfferLostWork()
+{
+    for (const LostWork& lost : FindLostWork(RecoveryFolder())) {
+        const QString name = lost.file.isEmpty() ? tr("a project that was never saved") : lost.file;
+        enum { Recover, Delete };
+        const int answer = Ask(&m_window, "recovery", QMessageBox::Question,
+                               tr("The last session ended before its work was saved."),
+                               tr("A recovery copy of %1 was kept at %2.")
+                                   .arg(name, QLocale().toString(lost.time, QLocale::ShortFormat)),
+                               {{tr("Recover"), QMessageBox::AcceptRole},
+                                {tr("Delete the copy"), QMessageBox::DestructiveRole},
+                                {tr("Decide later"), QMessageBox::RejectRole}});
+        if (answer == Delete) {
+            DropLostWork(lost);
+        } else if (answer == Recover) {
+            try {
+                m_document.OpenLost(lost);
+                return true;
+            } catch (const Failure& failure) {
+                Tell(&m_window, tr("The recovery copy could not be opened"), Told(failure));
+            }
+        }
+    }
+    return false;
+}
+
+void ProjectFiles::AskOpen()
+{
+    const QString start = QFileInfo(m_document.File()).absolutePath();
+    const QString file = QFileDialog::getOpenFileName(&m_window, tr("Open a project"), start,
+                                                      tr("Projects (*.json);;All files (*)"));
+    if (!file.isEmpty()) {
+        Open(file);
+    }
+}
+
+bool ProjectFiles::Save()
+{
+    if (!m_endEdit()) {
+        return false;
+    }
+    if (m_document.File().isEmpty()) {
+        return SaveUnderNewName();
+    }
+    if (m_document.IsFileNewer()) {
+        enum { Overwrite, NewName };
+        switch (Ask(&m_window, "newer", QMessageBox::Warning,
+                    tr("Another program has written %1 since it was opened here.").arg(m_document.File()),
+                    {},
+                    {{tr("Overwrite"), QMessageBox::DestructiveRole},
+                     {tr("Save as..."), QMessageBox::AcceptRole},
+                     {tr("Cancel"), QMessageBox::RejectRole}})) {
+        case Overwrite: break;
+        case NewName: return SaveUnderNewName();
+        default: return false;
+        }
+    }
+    return SaveTo(m_document.File());
+}
+
+bool ProjectFiles::SaveUnderNewName()
+{
+    if (!m_endEdit()) {
+        return false;
+    }
+    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const QString start = m_document.File().isEmpty()
+                              ? (documents.exists() ? documents : QDir::home()).filePath("project.json")
+                              : m_document.File();
+    QFileDialog dialog(&m_window, tr("Save the project as"), start, tr("Projects (*.json);;All files (*)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("json");
+    dialog.selectFile(start);
+    return dialog.exec() == QDialog::Accepted && SaveTo(dialog.selectedFiles().constFirst());
+}
+
+bool ProjectFiles::SaveTo(const QString& file)
+{
+    try {
+        m_document.SaveAs(file);
+    } catch (const Failure& failure) {
+        Tell(&m_window, tr("The project could not be saved"), Told(failure));
+        return false;
+    }
+    NoteRecent();
+    emit Saved(m_document.File());
+    return true;
+}
+
+bool ProjectFiles::MayLeave()
+{
+    if (!m_endEdit()) {
+        return false;
+    }
+    if (!m_document.IsChanged()) {
+        return true;
+    }
+    enum { SaveFirst, Leave };
+    const int answer =
+        Ask(&m_window, "unsaved", QMessageBox::Question, tr("The project has unsaved changes."), {},
+            {{tr("Save"), QMessageBox::AcceptRole},
+             {tr("Leave without saving"), QMessageBox::DestructiveRole},
+             {tr("Stay"), QMessageBox::RejectRole}});
+    return answer == SaveFirst ? Save() : answer == Leave;
+}
+
+void ProjectFiles::NoteRecent()
+{
+    QStringList recent = m_settings.value(RecentKey).toStringList();
+    recent.removeAll(m_document.File());
+    recent.prepend(m_document.File());
+    m_settings.setValue(RecentKey, recent.mid(0, MaxRecent));
+    FillRecent();
+}
+
+void ProjectFiles::FillRecent()
+{
+    m_recent.clear();
+    for (const QString& file : m_settings.value(RecentKey).toStringList()) {
+        connect(m_recent.addAction(file), &QAction::triggered, this, [this, file] { Open(file); });
+    }
+    m_recent.setEnabled(!m_recent.isEmpty());
+}
+
+}  // namespace Desk

@@ -1,0 +1,46 @@
+// ProjectFiles: opening, saving and leaving a project; nothing unsaved is lost without a question.
+#pragma once
+
+#include <functional>
+
+#include "desk/Toolkit.h"
+#include "desk/window/Document.h"
+
+namespace Desk {
+
+class ProjectFiles : public QObject {
+    Q_OBJECT
+
+public:
+    // Asks over the window. endEdit puts what an open editor holds into the document; it answers false
+    // when that was refused, and then nothing is done. The menu gets the files that were used last.
+    ProjectFiles(Document& document, QWidget& window, QMenu& recent, std::function<bool()> endEdit);
+
+    // Opens a project file, the sample for an empty name. False when it was not opened, and why was told.
+    bool Open(const QString& file);
+    void OpenSample() { Open(QString()); }
+    void AskOpen();
+    // Offers what a session that broke off left, the latest first; true when the person took one.
+    bool OfferLostWork();
+
+    bool Save();
+    bool SaveUnderNewName();
+    // Asks about unsaved changes; false when the person wants to stay.
+    bool MayLeave();
+
+signals:
+    void Saved(const QString& file);
+
+private:
+    bool SaveTo(const QString& file);
+    void NoteRecent();
+    void FillRecent();
+
+    Document& m_document;
+    QWidget& m_window;
+    QMenu& m_recent;
+    std::function<bool()> m_endEdit;
+    QSettings m_settings;
+};
+
+}  // namespace Desk

@@ -1,0 +1,111 @@
+#include "desk/window/Selection.h"
+
+#include "desk/window/Ask.h"
+#include "desk/window/FieldNames.h"
+#include "desk/window/Steps.h"
+
+namespace Desk {
+
+Selection::Selection(Document& document, FloorView& floor, Docks& docks, PanelHost& panels, QWidget& window)
+    : QObject(&window), m_document(document), m_floor(floor), m_docks(docks), m_panels(panels),
+      m_window(window)
+{
+    connect(&floor, &FloorView::Picked, this, &Selection::Choose);
+    connect(&floor, &FloorView::NothingPicked, this, [this] { Choose(std::nullopt); });
+    connect(&floor, &FloorView::PanelAsked, this, [this](const FieldRef& ref) {
+        Choose(ref);
+        OpenPanel();
+    });
+    connect(&docks, &Docks::Picked, this, &Selection::Choose);
+    connect(&docks, &Docks::Taken, this, &Selection::Take);
+    connect(&docks, &Docks::PanelAsked, this, &Selection::OpenPanel);
+    connect(&docks, &Docks::PanelAskedInGrid, this, [this](const FieldRef& ref) {
+        if (EndEdit()) {
+            Choose(ref);
+            OpenPanelBeside(m_docks.OnScreen(ref));
+        }
+    });
+    connect(&docks, &Docks::Left, &floor, [this] { m_floor.setFocus(); });
+    connect(&docks, &Docks::Failed, this, &Selection::Said);
+    connect(&panels, &PanelHost::Composed, this, &Selection::Take);
+    connect(&document, &Document::TextChanged, this, [this](const FieldRef& ref) {
+        m_floor.Refresh(ref);
+        Choose(ref);  // undo and redo go where they change something
+    });
+    connect(&document, &Document::Replaced, this, [this] {
+        m_panels.Close();  // it serves an annotation of the project before
+        m_chosen.reset();
+        m_floor.SetProject(&m_document.Get());
+        Show();
+    });
+}
+
+void Selection::Choose(const std::optional<FieldRef>& ref)
+{
+    m_chosen = ref && Exists(m_document.Get(), *ref) ? ref : std::nullopt;
+    emit Said({});  // it told of something else
+    Show();
+}
+
+void Selection::Show()
+{
+    m_floor.SetChosen(m_chosen);
+    m_docks.Show(m_chosen);
+}
+
+void Selection::Find(const QString& wanted, int by)
+{
+    if (wanted.isEmpty()) {
+        return;
+    }
+    if (const std::optional<FieldRef> found = FindText(m_document.Get(), m_chosen, by, wanted)) {
+        Choose(found);
+    } else {
+        emit Said(tr("No annotation contains \"%1\"").arg(wanted));
+    }
+}
+
+void Selection::OpenPanel()
+{
+    if (m_chosen && EndEdit()) {
+        const QRect inDrawing = m_floor.OnScreen(*m_chosen);
+        const QRect drawing(m_floor.mapToGlobal(QPoint()), m_floor.size());
+        const bool visible = m_floor.isVisible() && drawing.intersects(inDrawing);
+        OpenPanelBeside(visible ? inDrawing : m_docks.OnScreen(*m_chosen));
+    }
+}
+
+void Selection::OpenPanelBeside(const QRect& field)
+{
+    m_panels.Open(*m_chosen, QString::fromStdString(TextAt(m_document.Get(), *m_chosen)), field, &m_window);
+}
+
+bool Selection::EndEdit()
+{
+    m_isRefused = false;
+    m_docks.CommitEdit();
+    return !m_isRefused;
+}
+
+void Selection::Take(const FieldRef& ref, const QString& text)
+{
+    if (!Exists(m_document.Get(), ref)) {
+        return;  // of a project that is gone
+    }
+    const QString owner = OwnerName(m_document.Get(), ref);  // a new name changes it
+    const std::string before = TextAt(m_document.Get(), ref);
+    const QString refusal = m_document.SetText(ref, text);
+    m_isRefused = !refusal.isEmpty();
+    if (m_isRefused) {
+        Tell(&m_window, tr("The text was not taken"), refusal);
+        Show();
+        return;
+    }
+    const std::string& now = TextAt(m_document.Get(), ref);
+    if (now == before) {
+        Show();  // a change has shown itself
+    }
+    emit Said(QStringLiteral("%1, %2: %3").arg(owner, FieldName(ref.field), QString::fromStdString(now)));
+}
+
+}  // namespace Desk

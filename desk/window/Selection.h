@@ -1,0 +1,50 @@
+// Selection: the annotation in work. It is chosen in any part of the window and shown in all of them, and
+// its text is taken from any of them.
+#pragma once
+
+#include <optional>
+
+#include "desk/Toolkit.h"
+#include "desk/plan/FloorView.h"
+#include "desk/window/Docks.h"
+#include "desk/window/Document.h"
+#include "desk/window/PanelHost.h"
+
+namespace Desk {
+
+class Selection : public QObject {
+    Q_OBJECT
+
+public:
+    // Panels open over the window, and messages show over it.
+    Selection(Document& document, FloorView& floor, Docks& docks, PanelHost& panels, QWidget& window);
+
+    // Chooses an annotation, as a click on it does; nothing for none.
+    void Choose(const std::optional<FieldRef>& ref);
+    [[nodiscard]] const std::optional<FieldRef>& Chosen() const { return m_chosen; }
+    // Chooses the next text that contains the wanted one, or the previous one.
+    void Find(const QString& wanted, int by);
+
+    // Opens the panel for the chosen annotation, beside its text in the drawing where that is in view.
+    void OpenPanel();
+    // Takes what an open editor of the properties holds; false when it was refused.
+    bool EndEdit();
+
+signals:
+    void Said(const QString& text);  // for the status bar; empty when the text before is out of date
+
+private:
+    void Take(const FieldRef& ref, const QString& text);
+    void OpenPanelBeside(const QRect& field);
+    void Show();
+
+    Document& m_document;
+    FloorView& m_floor;
+    Docks& m_docks;
+    PanelHost& m_panels;
+    QWidget& m_window;
+    std::optional<FieldRef> m_chosen;
+    bool m_isRefused = false;  // the last text to be taken
+};
+
+}  // namespace Desk

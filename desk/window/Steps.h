@@ -1,0 +1,27 @@
+// From one annotation of a project to another, in reading order: beams first, then walls, and from the end
+// to the beginning again.
+#pragma once
+
+#include <optional>
+
+#include <QtCore>
+
+#include "desk/project/Fields.h"
+
+namespace Desk {
+
+// by is 1 for the next one, -1 for the previous one; from nothing: the first one, or the last. Nothing for
+// a project without beams and walls.
+
+// Another field of the same beam or wall.
+[[nodiscard]] std::optional<FieldRef> StepField(const Project& project, const std::optional<FieldRef>& from,
+                                                int by);
+// The same field of another beam or wall; its name where it does not have the field.
+[[nodiscard]] std::optional<FieldRef> StepOwner(const Project& project, const std::optional<FieldRef>& from,
+                                                int by);
+// Another text that contains the wanted one in any case of letters, the one that is left at last; nothing
+// when there is none.
+[[nodiscard]] std::optional<FieldRef> FindText(const Project& project, const std::optional<FieldRef>& from,
+                                               int by, const QString& wanted);
+
+}  // namespace Desk

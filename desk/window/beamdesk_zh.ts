@@ -1,0 +1,789 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>Desk</name>
+    <message>
+        <source>this system cannot turn %1 into %2</source>
+        <translation>系统不能将 %1 转换为 %2</translation>
+    </message>
+    <message>
+        <source>not UTF-8</source>
+        <translation>不是 UTF-8 编码</translation>
+    </message>
+    <message>
+        <source>a zero byte in the text</source>
+        <translation>文件内容中有零字节</translation>
+    </message>
+    <message>
+        <source>unexpected %1; expected %2</source>
+        <translation>意外的%1，此处应为%2</translation>
+    </message>
+    <message>
+        <source>unexpected %1</source>
+        <translation>意外的%1</translation>
+    </message>
+    <message>
+        <source>invalid string: %1</source>
+        <translation>字符串书写有误</translation>
+    </message>
+    <message>
+        <source>invalid number; %1</source>
+        <translation>数字书写有误</translation>
+    </message>
+    <message>
+        <source>number overflow parsing %1</source>
+        <translation>数值超出范围：%1</translation>
+    </message>
+    <message>
+        <source>invalid literal</source>
+        <translation>无法识别的字面值</translation>
+    </message>
+    <message>
+        <source>string literal</source>
+        <translation>字符串</translation>
+    </message>
+    <message>
+        <source>number literal</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>true literal</source>
+        <translation>真值 true</translation>
+    </message>
+    <message>
+        <source>false literal</source>
+        <translation>假值 false</translation>
+    </message>
+    <message>
+        <source>null literal</source>
+        <translation>空值 null</translation>
+    </message>
+    <message>
+        <source>&apos;[&apos;, &apos;{&apos;, or a literal</source>
+        <translation>“[”、“{”或一个值</translation>
+    </message>
+    <message>
+        <source>end of input</source>
+        <translation>文件结尾</translation>
+    </message>
+    <message>
+        <source>the key &quot;%1&quot; stands twice in one object</source>
+        <translation>同一对象中键“%1”重复</translation>
+    </message>
+    <message>
+        <source>no valid JSON: %1</source>
+        <translation>不是有效的 JSON：%1</translation>
+    </message>
+    <message>
+        <source>nested deeper than %1 levels</source>
+        <translation>嵌套超过 %1 层</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>文件为空</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>a project</source>
+        <translation>工程</translation>
+    </message>
+    <message>
+        <source>%1:%2: %3</source>
+        <translation>%1:%2：%3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be %2, here stands %3</source>
+        <translation>“%1”应为%2，此处为%3</translation>
+    </message>
+    <message>
+        <source>%1 must be an object, here stands %2</source>
+        <translation>%1应为对象，此处为%2</translation>
+    </message>
+    <message>
+        <source>no &quot;version&quot; of the file format; this program reads version 1</source>
+        <translation>缺少文件格式的版本号“version”；本程序读取版本 1</translation>
+    </message>
+    <message>
+        <source>this program reads &quot;version&quot; 1 of the file format, not %1</source>
+        <translation>本程序读取文件格式的版本“version”应为 1，此处为%1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds a control character</source>
+        <translation>“%1”含有控制字符</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds a character that GBK does not have</source>
+        <translation>“%1”含有 GBK 中没有的字符</translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a whole number from %2 to %3</source>
+        <translation>“%1”应为 %2 至 %3 的整数</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be two coordinates in mm up to 1000000000, as in [0, 8400]</source>
+        <translation>“%1”应为两个坐标值，单位 mm，不超过 1000000000，例如 [0, 8400]</translation>
+    </message>
+    <message>
+        <source>%1 without a &quot;name&quot;</source>
+        <translation>%1缺少编号“name”</translation>
+    </message>
+    <message>
+        <source>a beam</source>
+        <translation>梁</translation>
+    </message>
+    <message>
+        <source>a wall</source>
+        <translation>墙</translation>
+    </message>
+    <message>
+        <source>a text of the project is not UTF-8</source>
+        <translation>工程中有文字不是 UTF-8 编码</translation>
+    </message>
+    <message>
+        <source>%1: cannot be saved: the project is longer than the %2 MiB that are read again</source>
+        <translation>%1：无法保存：工程超过可读取的 %2 MiB</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>没有此文件或文件夹</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>路径中有一项不是文件夹</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>没有权限</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>不允许此操作</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>文件系统为只读</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>磁盘空间不足</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>超出磁盘配额</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>文件过大</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>符号链接层数过多</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>文件名过长</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>设备正忙</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>读写错误</translation>
+    </message>
+    <message>
+        <source>%1: cannot be saved: %2</source>
+        <translation>%1：无法保存：%2</translation>
+    </message>
+    <message>
+        <source>a folder stands there</source>
+        <translation>已有同名文件夹</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>%1: cannot be saved, it is write-protected: %2</source>
+        <translation>%1：无法保存，文件写保护：%2</translation>
+    </message>
+    <message>
+        <source>%1: saved, but the folder could not be synced: %2</source>
+        <translation>%1：已保存，但文件夹未能同步到磁盘：%2</translation>
+    </message>
+    <message>
+        <source>%1: cannot be opened: %2</source>
+        <translation>%1：无法打开：%2</translation>
+    </message>
+    <message>
+        <source>%1:1:1: a folder, not a project file</source>
+        <translation>%1：是文件夹，不是工程文件</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read: %2</source>
+        <translation>%1：无法读取：%2</translation>
+    </message>
+    <message>
+        <source>%1:1:1: longer than %2 MiB, no project is that long</source>
+        <translation>%1：超过 %2 MiB，不是工程文件</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>A small drafting desk for the annotations of reinforced-concrete beams and walls: it offers the texts that you most likely want, and panels that compose them by mouse.</source>
+        <translation>钢筋混凝土梁、墙标注的小型绘图台：按可能性排列候选文字，并可用鼠标在面板中组合标注。</translation>
+    </message>
+    <message>
+        <source>Wall %1</source>
+        <translation>墙 %1</translation>
+    </message>
+    <message>
+        <source>Beam %1</source>
+        <translation>梁 %1</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>跟随系统</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>外观(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>&amp;Panel size</source>
+        <translation>面板大小(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>最近打开的工程(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>打开(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Opens a project file</source>
+        <translation>打开工程文件</translation>
+    </message>
+    <message>
+        <source>Open the &amp;sample</source>
+        <translation>打开示例(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Opens the sample project</source>
+        <translation>打开示例工程</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Saves the project</source>
+        <translation>保存工程</translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation>另存为(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>Saves under another name</source>
+        <translation>以新的文件名保存</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>退出程序</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Takes the last change back</source>
+        <translation>撤销上一步修改</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Makes the change again</source>
+        <translation>重做被撤销的修改</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>查找(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Finds annotations</source>
+        <translation>查找标注</translation>
+    </message>
+    <message>
+        <source>Find &amp;next</source>
+        <translation>查找下一个(&amp;N)</translation>
+    </message>
+    <message>
+        <source>The next annotation found</source>
+        <translation>下一处找到的标注</translation>
+    </message>
+    <message>
+        <source>Find &amp;previous</source>
+        <translation>查找上一个(&amp;P)</translation>
+    </message>
+    <message>
+        <source>The previous annotation found</source>
+        <translation>上一处找到的标注</translation>
+    </message>
+    <message>
+        <source>&amp;Annotation</source>
+        <translation>标注(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Type a text</source>
+        <translation>键入标注(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Goes to the texts for the annotation</source>
+        <translation>转到该标注的候选文字</translation>
+    </message>
+    <message>
+        <source>&amp;Edit in place</source>
+        <translation>就地编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Edits the property</source>
+        <translation>在特性表中编辑</translation>
+    </message>
+    <message>
+        <source>&amp;Compose in the panel</source>
+        <translation>面板组合(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Opens the panel on the present text</source>
+        <translation>用面板编辑当前文字</translation>
+    </message>
+    <message>
+        <source>Next &amp;annotation</source>
+        <translation>下一项标注(&amp;A)</translation>
+    </message>
+    <message>
+        <source>The next annotation of the beam</source>
+        <translation>本梁的下一项标注</translation>
+    </message>
+    <message>
+        <source>&amp;Previous annotation</source>
+        <translation>上一项标注(&amp;P)</translation>
+    </message>
+    <message>
+        <source>The previous annotation of the beam</source>
+        <translation>本梁的上一项标注</translation>
+    </message>
+    <message>
+        <source>Next &amp;beam</source>
+        <translation>下一根梁(&amp;N)</translation>
+    </message>
+    <message>
+        <source>The same annotation of the next beam</source>
+        <translation>下一根梁的同一项标注</translation>
+    </message>
+    <message>
+        <source>P&amp;revious beam</source>
+        <translation>上一根梁(&amp;R)</translation>
+    </message>
+    <message>
+        <source>The same annotation of the previous beam</source>
+        <translation>上一根梁的同一项标注</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>全图(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Shows the whole floor</source>
+        <translation>显示整层平面</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>放大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Shows less, larger</source>
+        <translation>放大显示</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>缩小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Shows more, smaller</source>
+        <translation>缩小显示</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;About beamdesk</source>
+        <translation>关于 beamdesk(&amp;A)</translation>
+    </message>
+    <message>
+        <source>What this program is</source>
+        <translation>程序说明</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1：无法建立文件夹</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::ChoiceBox</name>
+    <message>
+        <source>no text yet</source>
+        <translation>尚无标注</translation>
+    </message>
+    <message>
+        <source>Click an annotation in the drawing</source>
+        <translation>请在图中点选标注</translation>
+    </message>
+    <message>
+        <source>Type to narrow, Enter takes</source>
+        <translation>键入以筛选，回车采用</translation>
+    </message>
+    <message>
+        <source>Enter takes the marked text, Ctrl+Enter the text as typed</source>
+        <translation>回车采用选中的文字，Ctrl+回车采用键入的文字</translation>
+    </message>
+    <message>
+        <source>&amp;Table rows</source>
+        <translation>查表(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Rows of the reference table for the beam&apos;s width and required steel</source>
+        <translation>按梁宽和计算配筋面积查表</translation>
+    </message>
+    <message>
+        <source>Compose... (F4)</source>
+        <translation>组合... (F4)</translation>
+    </message>
+    <message>
+        <source>Opens the panel that composes the text by mouse</source>
+        <translation>打开鼠标组合面板</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::ChoiceRows</name>
+    <message>
+        <source>Free names of the project&apos;s kinds</source>
+        <translation>可用编号</translation>
+    </message>
+    <message>
+        <source>In the project</source>
+        <translation>工程已有</translation>
+    </message>
+    <message>
+        <source>Guesses</source>
+        <translation>推荐</translation>
+    </message>
+    <message>
+        <source>From the table</source>
+        <translation>查表</translation>
+    </message>
+    <message>
+        <source>%1 x</source>
+        <translation>%1 处</translation>
+    </message>
+    <message>
+        <source>The first free name</source>
+        <translation>第一个可用编号</translation>
+    </message>
+    <message>
+        <source>The last text that the project supports</source>
+        <translation>工程中用过的标注到此为止</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::Docks</name>
+    <message>
+        <source>Texts</source>
+        <translation>候选文字</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>特性</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>截面</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::Document</name>
+    <message>
+        <source>An annotation is a single line without control characters.</source>
+        <translation>标注应为单行文字，不含控制字符。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that drawings cannot store.</source>
+        <translation>“%1”含有图纸无法保存的字符。</translation>
+    </message>
+    <message>
+        <source>There is no recovery copy: %1</source>
+        <translation>没有恢复副本：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::MainWindow</name>
+    <message>
+        <source>Saved: %1</source>
+        <translation>已保存：%1</translation>
+    </message>
+    <message>
+        <source>Panel: left button picks, right button takes the text, Esc leaves</source>
+        <translation>面板：左键选取，右键确认，Esc 取消</translation>
+    </message>
+    <message>
+        <source>Sample project</source>
+        <translation>示例工程</translation>
+    </message>
+    <message>
+        <source>%1 beams, %2 walls</source>
+        <translation>梁 %1 根，墙 %2 道</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::ProjectFiles</name>
+    <message>
+        <source>The project could not be opened</source>
+        <translation>工程无法打开</translation>
+    </message>
+    <message>
+        <source>a project that was never saved</source>
+        <translation>未保存过的工程</translation>
+    </message>
+    <message>
+        <source>The last session ended before its work was saved.</source>
+        <translation>上次程序结束时有修改未保存。</translation>
+    </message>
+    <message>
+        <source>A recovery copy of %1 was kept at %2.</source>
+        <translation>恢复副本：%1，保存于 %2。</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>Delete the copy</source>
+        <translation>删除副本</translation>
+    </message>
+    <message>
+        <source>Decide later</source>
+        <translation>以后再说</translation>
+    </message>
+    <message>
+        <source>The recovery copy could not be opened</source>
+        <translation>恢复副本无法打开</translation>
+    </message>
+    <message>
+        <source>Open a project</source>
+        <translation>打开工程</translation>
+    </message>
+    <message>
+        <source>Projects (*.json);;All files (*)</source>
+        <translation>工程文件 (*.json);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Another program has written %1 since it was opened here.</source>
+        <translation>打开之后，%1 已被其他程序改写。</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>覆盖</translation>
+    </message>
+    <message>
+        <source>Save as...</source>
+        <translation>另存为...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Save the project as</source>
+        <translation>工程另存为</translation>
+    </message>
+    <message>
+        <source>The project could not be saved</source>
+        <translation>工程无法保存</translation>
+    </message>
+    <message>
+        <source>The project has unsaved changes.</source>
+        <translation>工程有未保存的修改。</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Leave without saving</source>
+        <translation>不保存</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::PropertyGrid</name>
+    <message>
+        <source>Thickness</source>
+        <translation>墙厚</translation>
+    </message>
+    <message>
+        <source>Floor</source>
+        <translation>楼层</translation>
+    </message>
+    <message>
+        <source>Concrete</source>
+        <translation>混凝土</translation>
+    </message>
+    <message>
+        <source>Seismic class</source>
+        <translation>抗震等级</translation>
+    </message>
+    <message>
+        <source>Required top</source>
+        <translation>上部计算配筋面积</translation>
+    </message>
+    <message>
+        <source>Required ends</source>
+        <translation>支座计算配筋面积</translation>
+    </message>
+    <message>
+        <source>Required bottom</source>
+        <translation>下部计算配筋面积</translation>
+    </message>
+    <message>
+        <source>Opens the panel that composes the text by mouse</source>
+        <translation>打开鼠标组合面板</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::SearchLine</name>
+    <message>
+        <source>Find a name or text (Ctrl+F)</source>
+        <translation>查找编号或文字 (Ctrl+F)</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::SectionSketch</name>
+    <message>
+        <source>at the left end</source>
+        <translation>左支座截面</translation>
+    </message>
+    <message>
+        <source>at the right end</source>
+        <translation>右支座截面</translation>
+    </message>
+    <message>
+        <source>in the span</source>
+        <translation>跨中截面</translation>
+    </message>
+    <message>
+        <source>%1 of %2 mm²</source>
+        <translation>%1 / 需 %2 mm²</translation>
+    </message>
+    <message>
+        <source>%1 mm²</source>
+        <translation>%1 mm²</translation>
+    </message>
+    <message>
+        <source>There is no section to draw</source>
+        <translation>没有截面尺寸</translation>
+    </message>
+    <message>
+        <source>Less steel than required</source>
+        <translation>配筋小于计算面积</translation>
+    </message>
+    <message>
+        <source>Too many bars for the width</source>
+        <translation>梁宽排不下钢筋</translation>
+    </message>
+    <message>
+        <source>The section cannot be read</source>
+        <translation>截面无法识别</translation>
+    </message>
+    <message>
+        <source>The stirrups cannot be read</source>
+        <translation>箍筋无法识别</translation>
+    </message>
+    <message>
+        <source>Bars cannot be read</source>
+        <translation>钢筋无法识别</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::Selection</name>
+    <message>
+        <source>No annotation contains &quot;%1&quot;</source>
+        <translation>没有标注含有“%1”</translation>
+    </message>
+    <message>
+        <source>The text was not taken</source>
+        <translation>文字未被采用</translation>
+    </message>
+</context>
+</TS>
