@@ -48,7 +48,7 @@ TEST(Program, AnswersWithStatusZero)
         std::vector<const char*> parts;
     };
     const std::vector<Case> cases = {
-        {"", {"Beam KL", "bottom bars", "rank bars", ">", "*"}},
+        {"", {"Beam KL", "Bottom bars", "rank bars", ">", "*"}},
         {"tour --beam L33", {"Beam L33(1)", "* 2 200x450"}},
         {"--help", {"rank", "table", "tour", "Examples:"}},
         {"--version", {"beamdesk "}},

@@ -6,7 +6,6 @@
 
 #include "desk/console/Print.h"
 #include "desk/console/panel/EventNames.h"
-#include "desk/console/panel/StepWords.h"
 #include "desk/project/Encoding.h"
 #include "desk/project/Failure.h"
 
@@ -63,6 +62,11 @@ std::string Unknown(const char* what, const std::string& name, const Row (&table
            "s: " + Joined(table, [](const Row& row) { return NameIn(row); });
 }
 
+struct Word {
+    std::string text;
+    bool quoted = false;
+};
+
 std::optional<int> NumberOf(std::string_view text)
 {
     int number = 0;
@@ -80,6 +84,72 @@ std::optional<CPoint> PointOf(const Word& word)
     const std::optional<int> x = NumberOf(std::string_view(word.text).substr(0, comma));
     const std::optional<int> y = NumberOf(std::string_view(word.text).substr(comma + 1));
     return x && y ? std::optional(CPoint(*x, *y)) : std::nullopt;
+}
+
+struct Line {
+    Step step;  // with origin and source alone
+    std::vector<Word> words;
+};
+
+void SkipBlanks(std::string_view& rest)
+{
+    rest.remove_prefix(std::min(rest.find_first_not_of(" \t\r"), rest.size()));
+}
+
+// Takes the next word of a step. In quotes of either kind it keeps its blanks and ";".
+Word TakeWord(std::string_view& rest, const Step& step)
+{
+    constexpr std::string_view Ends = " \t\r;\n";
+    const char quote = rest.front();
+    if (quote != '"' && quote != '\'') {
+        const std::size_t length = std::min(rest.find_first_of(Ends), rest.size());
+        Word word = {std::string(rest.substr(0, length)), false};
+        rest.remove_prefix(length);
+        return word;
+    }
+    const std::size_t close = std::min(rest.find_first_of(std::string{quote, '\n'}, 1), rest.size());
+    if (close == rest.size() || rest[close] != quote) {
+        ThrowAt(step, std::string("the closing quote is missing: ") + quote);
+    }
+    Word word = {std::string(rest.substr(1, close - 1)), true};
+    rest.remove_prefix(close + 1);
+    if (!rest.empty() && Ends.find(rest.front()) == std::string_view::npos) {
+        ThrowAt(step, "a blank is required after a closing quote");
+    }
+    return word;
+}
+
+std::vector<Line> CutSteps(std::string_view rest, const std::string& file)
+{
+    constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+    rest.remove_prefix(rest.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0);
+    std::vector<Line> lines;
+    for (int number = 1; !rest.empty();) {
+        SkipBlanks(rest);
+        if (rest.starts_with('#')) {
+            rest.remove_prefix(std::min(rest.find('\n'), rest.size()));
+        }
+        Line line;
+        line.step.origin =
+            file.empty() ? "step " + std::to_string(lines.size() + 1) : file + ":" + std::to_string(number);
+        const std::string_view start = rest;
+        line.step.source = start.substr(0, start.find('\n'));
+        std::size_t length = 0;
+        while (!rest.empty() && rest.front() != ';' && rest.front() != '\n') {
+            line.words.push_back(TakeWord(rest, line.step));
+            length = start.size() - rest.size();
+            SkipBlanks(rest);
+        }
+        line.step.source = start.substr(0, length);
+        if (!rest.empty()) {
+            number += rest.front() == '\n' ? 1 : 0;
+            rest.remove_prefix(1);
+        }
+        if (!line.words.empty()) {
+            lines.push_back(std::move(line));
+        }
+    }
+    return lines;
 }
 
 // Turns the words of one step into its parts.
