@@ -38,7 +38,6 @@
 #include "platform/windows/DataExchange.h"
 #include "platform/windows/DialogTemplate.h"
 #include "platform/windows/Events.h"
-#include "platform/windows/Hands.h"
 #include "platform/windows/MessageBox.h"
 #include "platform/windows/MessageMap.h"
 #include "platform/windows/Messages.h"

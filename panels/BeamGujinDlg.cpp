@@ -189,15 +189,22 @@ void CBeamGujinDlg::TranslateMessage(MSG* pMsg) { PanelFrame::ForwardRightPress(
 
 BOOL CBeamGujinDlg::PreTranslateMessage(MSG* pMsg)
 {
+    const HWND hWnd = m_hWnd;
     PanelFrame::Follow(*this, m_bPressed, *pMsg);
-    return PanelFrame::Translate(*this, pMsg, [&] { TranslateMessage(pMsg); });
+    return PanelFrame::Translate(*this, hWnd, pMsg, [&] { TranslateMessage(pMsg); });
 }
 
 void CBeamGujinDlg::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    const auto finish = [this] { return !m_strResult.IsEmpty(); };
-    if (PanelFrame::ConfirmResult(
-            *this, {m_bToItem, m_pItem, m_bInParent, m_pHostData, HostMode, StirrupCode}, finish)) {
+    const auto deliver = [this] {
+        if (m_strResult.IsEmpty()) {
+            return false;
+        }
+        PanelFrame::Deliver(*this, {m_bToItem, m_pItem, m_bInParent, m_pHostData, HostMode, StirrupCode},
+                            m_strResult);
+        return true;
+    };
+    if (PanelFrame::Confirm(*this, deliver)) {
         CDialog::OnRButtonDown(nFlags, point);
     }
 }

@@ -72,19 +72,24 @@ void CBeamLevelDlg::TestMoveWnd(CPoint point)
 
 BOOL CBeamLevelDlg::PreTranslateMessage(MSG* pMsg)
 {
+    const HWND hWnd = m_hWnd;
     PanelFrame::Follow(*this, m_bPressed, *pMsg);
-    return PanelFrame::Translate(*this, pMsg, [&] { OnRButtonDown(0, pMsg->pt); });
+    return PanelFrame::Translate(*this, hWnd, pMsg, [&] { OnRButtonDown(0, pMsg->pt); });
 }
 
 void CBeamLevelDlg::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    const auto finish = [this] {
+    const auto deliver = [this] {
         UpdateData(TRUE);
         m_strResult = m_strEditText;
-        return !m_strResult.IsEmpty();
+        if (m_strResult.IsEmpty()) {
+            return false;
+        }
+        PanelFrame::Deliver(*this, {m_bToItem, m_pItem, m_bInParent, m_pHostData, HostMode, LevelCode},
+                            m_strResult);
+        return true;
     };
-    if (PanelFrame::ConfirmResult(
-            *this, {m_bToItem, m_pItem, m_bInParent, m_pHostData, HostMode, LevelCode}, finish)) {
+    if (PanelFrame::Confirm(*this, deliver)) {
         CDialog::OnRButtonDown(nFlags, point);
     }
 }

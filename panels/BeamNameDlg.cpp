@@ -160,20 +160,26 @@ bool CBeamNameDlg::PressDigit(const CListBox& list, CString& strNumber, const MS
 
 BOOL CBeamNameDlg::PreTranslateMessage(MSG* pMsg)
 {
+    const HWND hWnd = m_hWnd;
     PanelFrame::Follow(*this, m_bPressed, *pMsg);
     if (pMsg->message == WM_LBUTTONDOWN || pMsg->message == WM_LBUTTONDBLCLK) {
         if (!PressDigit(m_KuaList, m_strKua, *pMsg) || !PressDigit(m_XuList, m_strXu, *pMsg)) {
             return FALSE;
         }
     }
-    return PanelFrame::Translate(*this, pMsg, [this] { SendMessage(WM_RBUTTONDOWN); });
+    return PanelFrame::Translate(*this, hWnd, pMsg, [this] { SendMessage(WM_RBUTTONDOWN); });
 }
 
 void CBeamNameDlg::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    const auto finish = [this] { return IntegrateNameFromEdit(); };
-    if (PanelFrame::ConfirmResult(*this, {.toItem = m_bToItem, .item = m_pItem, .code = NameCode},
-                                  finish)) {
+    const auto deliver = [this] {
+        if (!IntegrateNameFromEdit()) {
+            return false;
+        }
+        PanelFrame::Deliver(*this, {.toItem = m_bToItem, .item = m_pItem, .code = NameCode}, m_strResult);
+        return true;
+    };
+    if (PanelFrame::Confirm(*this, deliver)) {
         CDialog::OnRButtonDown(nFlags, point);
     }
 }

@@ -112,20 +112,26 @@ void CBeamSecDlg::TranslateMessage(MSG* pMsg) { PanelFrame::ForwardRightPress(*t
 
 BOOL CBeamSecDlg::PreTranslateMessage(MSG* pMsg)
 {
+    const HWND hWnd = m_hWnd;
     PanelFrame::Follow(*this, m_bPressed, *pMsg);
     if (pMsg->message == WM_LBUTTONDBLCLK) {
-        const HWND hWnd = m_hWnd;
         OnRButtonDown(0, pMsg->pt);
         return IsWindow(hWnd);
     }
-    return PanelFrame::Translate(*this, pMsg, [&] { TranslateMessage(pMsg); });
+    return PanelFrame::Translate(*this, hWnd, pMsg, [&] { TranslateMessage(pMsg); });
 }
 
 void CBeamSecDlg::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    const auto finish = [this] { return !m_strResult.IsEmpty(); };
-    if (PanelFrame::ConfirmResult(
-            *this, {m_bToItem, m_pItem, m_bInParent, m_pHostData, HostMode, SectionCode}, finish)) {
+    const auto deliver = [this] {
+        if (m_strResult.IsEmpty()) {
+            return false;
+        }
+        PanelFrame::Deliver(*this, {m_bToItem, m_pItem, m_bInParent, m_pHostData, HostMode, SectionCode},
+                            m_strResult);
+        return true;
+    };
+    if (PanelFrame::Confirm(*this, deliver)) {
         CDialog::OnRButtonDown(nFlags, point);
     }
 }

@@ -116,8 +116,9 @@ void CBeamSteelDlg::TranslateMessage(MSG* pMsg) { PanelFrame::ForwardRightPress(
 
 BOOL CBeamSteelDlg::PreTranslateMessage(MSG* pMsg)
 {
+    const HWND hWnd = m_hWnd;
     PanelFrame::Follow(*this, m_bPressed, *pMsg);
-    return PanelFrame::Translate(*this, pMsg, [&] { TranslateMessage(pMsg); });
+    return PanelFrame::Translate(*this, hWnd, pMsg, [&] { TranslateMessage(pMsg); });
 }
 
 void CBeamSteelDlg::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)

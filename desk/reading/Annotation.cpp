@@ -20,13 +20,15 @@ std::string FieldName(Field field)
 
 std::string FilledWords(Filled filled, const Choices& choices)
 {
+    const std::string bars(1, choices.barGrade);
+    const std::string stirrups(1, choices.stirrupGrade);
     switch (filled) {
     case Filled::Grade:
-        return std::string("a grade sign without its grade: ") + choices.barGrade + " for bars, " +
-               choices.stirrupGrade + " for stirrups and wall bars (--grade)";
+        return "a grade sign without its grade: " + bars + " for bars, " + stirrups +
+               " for stirrups and wall bars (--grade)";
     case Filled::LostGrade:
-        return std::string("no grade sign where one belongs: ") + choices.barGrade + " for bars, " +
-               choices.stirrupGrade + " for stirrups (--grade)";
+        return "no grade sign where one belongs: " + bars + " for bars, " + stirrups +
+               " for stirrups (--grade)";
     case Filled::Legs: return "a stirrup without legs: (" + std::to_string(choices.legs) + ") (--legs)";
     case Filled::LostMark: return "no \"@\" in front of the spacing: put back";
     case Filled::LostBlank: return "no blank in front of a row part: put back";

@@ -202,7 +202,8 @@ std::string Bars::Text() const
             text += &term == &layer.front() ? "" : "+";
             text += std::to_string(term.count) + term.grade + std::to_string(term.diameter);
             for (std::size_t i = 0; i < term.rows.size(); ++i) {
-                text += (i == 0 ? " " : "/") + std::to_string(term.rows[i]);
+                text += i == 0 ? ' ' : '/';
+                text += std::to_string(term.rows[i]);
             }
         }
     }

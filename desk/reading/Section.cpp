@@ -47,7 +47,8 @@ std::string Section::Text() const
 {
     std::string text = width > 0 ? Sides(width, height) : "";
     if (otherHeight > 0) {
-        text += "/" + std::to_string(otherHeight);
+        text += '/';
+        text += std::to_string(otherHeight);
     }
     if (haunchLength > 0) {
         text += (text.empty() ? "Y" : " Y") + Sides(haunchLength, haunchHeight);

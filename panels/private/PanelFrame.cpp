@@ -9,8 +9,8 @@ namespace PanelFrame {
 
 void Move(CWnd& panel, CPoint from, CPoint to)
 {
-    from = Clamped(from);
-    to = Clamped(to);
+    from = from.Clamped();
+    to = to.Clamped();
     CRect rect;
     panel.GetWindowRect(&rect);
     panel.MoveWindow(rect.left + to.x - from.x, rect.top + to.y - from.y, rect.Width(), rect.Height(),

@@ -32,17 +32,20 @@ void Move(CWnd& panel, CPoint from, CPoint to);
 // disabled control.
 [[nodiscard]] bool IsOwnRightPress(const MSG& msg, HWND hPanel);
 
-// An event's way through a panel: Esc hides it, a right press confirms it. FALSE when the window has gone
-// with the confirmation. A press that dispatch would bring to the panel once more ends here, whether it
-// was so from the start or the receiver of the text disabled the control that was pressed.
+// An event's way through a panel, whose handle was taken before anything was done with the event: Esc hides
+// it, a right press confirms it. FALSE when the window has gone, with the drag or the confirmation. A press
+// that dispatch would bring to the panel once more ends here, whether it was so from the start or the
+// receiver of the text disabled the control that was pressed.
 template <class Confirm>
-BOOL Translate(CDialog& panel, MSG* pMsg, Confirm confirm)
+BOOL Translate(CDialog& panel, HWND hWnd, MSG* pMsg, Confirm confirm)
 {
+    if (!IsWindow(hWnd)) {
+        return FALSE;
+    }
     if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE) {
         panel.ShowWindow(SW_HIDE);
         return TRUE;
     }
-    const HWND hWnd = panel.m_hWnd;
     const bool bOwnPress = IsOwnRightPress(*pMsg, hWnd);
     if (pMsg->message == WM_RBUTTONDOWN) {
         confirm();
@@ -79,19 +82,6 @@ template <class DeliverTexts>
     const HWND hWnd = panel.m_hWnd;
     panel.ShowWindow(SW_HIDE);
     return deliver() && IsWindow(hWnd);
-}
-
-// The same for a panel with one text, which finish() puts into m_strResult unless it answers false.
-template <class Panel, class Finish>
-[[nodiscard]] bool ConfirmResult(Panel& panel, const Route& route, Finish finish)
-{
-    return Confirm(panel, [&] {
-        const bool bDelivers = finish();
-        if (bDelivers) {
-            Deliver(panel, route, panel.m_strResult);
-        }
-        return bDelivers;
-    });
 }
 
 }  // namespace PanelFrame

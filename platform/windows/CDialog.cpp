@@ -55,8 +55,8 @@ BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd)
     Window& popUp = State().windows.Add(WindowKind::PopUp, parent != nullptr ? parent->handle : nullptr);
     const HWND handle = popUp.handle;
     popUp.shape = m_pTemplate;
-    popUp.place = CRect(corner.x, corner.y, corner.x + DialogUnitsAcross(m_pTemplate->width),
-                        corner.y + DialogUnitsDown(m_pTemplate->height));
+    popUp.place = PlaceOf(corner.x, corner.y, DialogUnitsAcross(m_pTemplate->width),
+                          DialogUnitsDown(m_pTemplate->height));
     popUp.attached = this;
     m_hWnd = handle;
     for (const ControlTemplate& control : m_pTemplate->controls) {

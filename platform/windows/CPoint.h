@@ -16,17 +16,15 @@ public:
     }
     constexpr CPoint(POINT point) noexcept : POINT(point) {}
 
+    // How far from the screen's corner a position can lie, in pixels; a few such distances still add up
+    // within 32 bits.
+    static constexpr int Farthest = 1 << 28;
+    // What lies beyond the farthest pixel is put there. Absurd positions go through this before anything
+    // is added to them.
+    [[nodiscard]] constexpr CPoint Clamped() const noexcept
+    {
+        return {std::clamp(x, -Farthest, Farthest), std::clamp(y, -Farthest, Farthest)};
+    }
+
     friend constexpr bool operator==(CPoint a, CPoint b) noexcept { return a.x == b.x && a.y == b.y; }
 };
-
-// How far from the screen's corner a position can lie, in pixels; a few such distances still add up
-// within 32 bits.
-inline constexpr int FarthestPixel = 1 << 28;
-
-// A position with what lies beyond the farthest pixel put there. Absurd positions go through this
-// before anything is added to them.
-[[nodiscard]] constexpr CPoint Clamped(CPoint point) noexcept
-{
-    return {std::clamp(point.x, -FarthestPixel, FarthestPixel),
-            std::clamp(point.y, -FarthestPixel, FarthestPixel)};
-}

@@ -108,7 +108,7 @@ void CWnd::ScreenToClient(POINT* lpPoint) const
 {
     if (const Window* const window = Find(m_hWnd)) {
         const CPoint origin = WindowLayer::ClientOrigin(*window);
-        const CPoint point = Clamped(*lpPoint);
+        const CPoint point = CPoint(*lpPoint).Clamped();
         *lpPoint = CPoint(point.x - origin.x, point.y - origin.y);
     }
 }
@@ -117,7 +117,7 @@ void CWnd::ClientToScreen(POINT* lpPoint) const
 {
     if (const Window* const window = Find(m_hWnd)) {
         const CPoint origin = WindowLayer::ClientOrigin(*window);
-        const CPoint point = Clamped(*lpPoint);
+        const CPoint point = CPoint(*lpPoint).Clamped();
         *lpPoint = CPoint(point.x + origin.x, point.y + origin.y);
     }
 }

@@ -3,6 +3,7 @@
 
 #include <limits>
 
+#include "platform/windows/Display.h"
 #include "tests/panels/Panels.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/Watched.h"
@@ -55,6 +56,25 @@ TYPED_TEST(PanelFrameTest, ReceiverDisablesOrHidesWhatWasPressed)
             control->EnableWindow();
         }
     }
+}
+
+// Hiding tells the display, which may take the item away.
+TYPED_TEST(PanelFrameTest, DeliversToTheItemThatIsSetAfterTheHide)
+{
+    struct Taker : Display {
+        explicit Taker(CPropertyGridItem*& pItem) : m_pItem(pItem) { SetDisplay(this); }
+        ~Taker() override { SetDisplay(nullptr); }
+        void WindowCreated(const WindowRecord&) override {}
+        void WindowChanged(const WindowRecord&, WindowChange) override { m_pItem = nullptr; }
+        void WindowDestroyed(HWND) override {}
+        int ShowMessageBox(const CString&) override { return IDOK; }
+        CPropertyGridItem*& m_pItem;
+    };
+    Stage<TypeParam> stage;
+    const Taker taker(stage.panel->m_pItem);
+    stage.hands.RightClick(stage.BareSurface());
+    EXPECT_EQ(stage.receiver.Count(), 0U);
+    EXPECT_FALSE(stage.panel->IsWindowVisible());
 }
 
 TYPED_TEST(PanelFrameTest, GoesToParentHostDataOrNobody)

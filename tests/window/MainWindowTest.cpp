@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "desk/project/Encoding.h"
 #include "desk/window/MainWindow.h"
 #include "desk/window/ScreenReport.h"
 #include "platform/windows/Hands.h"
@@ -78,7 +79,7 @@ protected:
         QTest::mouseClick(&Control(id), Qt::LeftButton, {}, list.visualRect(found[0]).center());
     }
 
-    QtDisplay display;
+    QtDisplay display{{Utf8FromGbk, GbkFromUtf8}};
     MainWindow window{display};
 };
 

@@ -3,6 +3,7 @@
 
 #include "desk/console/panel/Picture.h"
 #include "desk/console/panel/Step.h"
+#include "platform/windows/Hands.h"
 
 namespace Desk::Panels {
 

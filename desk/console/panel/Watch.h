@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "desk/console/panel/Picture.h"
+#include "platform/windows/Hands.h"
 
 namespace Desk::Panels {
 

@@ -7,7 +7,7 @@
 class CWinApp;
 
 struct LayerState {
-    CWinApp* application = nullptr;  // none while no CWinApp is alive
+    CWinApp* application = nullptr;  // the first one made, while it is alive
     WindowTable windows;
     HWND focus = nullptr;
     HWND pressedButton = nullptr;  // under the left button since its press

@@ -86,9 +86,9 @@ Window* HolderOf(HWND hWnd)
 CRect PlaceOf(int x, int y, std::int64_t nWidth, std::int64_t nHeight)
 {
     const auto length = [](std::int64_t wanted) {
-        return static_cast<int>(std::clamp<std::int64_t>(wanted, 0, FarthestPixel));
+        return static_cast<int>(std::clamp<std::int64_t>(wanted, 0, CPoint::Farthest));
     };
-    const CPoint corner = Clamped(CPoint(x, y));
+    const CPoint corner = CPoint(x, y).Clamped();
     return {corner.x, corner.y, corner.x + length(nWidth), corner.y + length(nHeight)};
 }
 
