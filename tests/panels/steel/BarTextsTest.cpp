@@ -9,6 +9,13 @@ namespace {
 
 using BarPiece::Rows;
 
+TEST(BarPiece, NeedsBothCountsForARowSplit)
+{
+    EXPECT_EQ(BarPiece::Compose({"6", "B", "25", "2", "4", " "}), "6B25 2/4 ");
+    EXPECT_EQ(BarPiece::Compose({"6", "B", "25", "2", "", ","}), "6B25,");
+    EXPECT_EQ(BarPiece::Compose({"6", "B", "25", "", "4", ","}), "6B25,");
+}
+
 TEST(BarPiece, OpeningAnEndHandsTheTailOver)
 {
     CString group = "+(2B12+2B14);";
