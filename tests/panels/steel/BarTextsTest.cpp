@@ -89,6 +89,12 @@ TEST(BarPiece, ReadsBackFromTheOutsideIn)
     }
 }
 
+TEST(BarGroups, TypesOutOfRangeHaveNone)
+{
+    EXPECT_EQ(BarGroups::OfType(-1), -1);
+    EXPECT_EQ(BarGroups::OfType(6), -1);
+}
+
 TEST(BarGroups, OnlyAFirstAndFinalTerminatorComesOff)
 {
     const char* const texts[][2] = {
