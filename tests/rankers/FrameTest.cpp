@@ -1,25 +1,41 @@
-// What all rankers share: repeats, virtual steps in their order, copying.
+// What all rankers share: a run to read of each, virtual steps in their order, copying.
 #include <gtest/gtest.h>
 
 #include "tests/support/FakeHost.h"
 
 namespace {
 
-TEST(RankerFrame, RemovesRepeatsKeepingTheFirst)
+template <class Ranker>
+Texts RunOn(const Texts& project, int projectKind = 2)
 {
-    const std::pair<Texts, Texts> cases[] = {
-        {{}, {}},
-        {{"a"}, {"a"}},
-        {{"A", "B", "A", "C", "B"}, {"A", "B", "C"}},
-        {{"0.3", "0.300", "a", "A", " a", "0.3"}, {"0.3", "0.300", "a", "A", " a"}},
-        {{"", "", "\xB2\xBF", "\xB2", "\xB2\xBF"}, {"", "\xB2\xBF", "\xB2"}},
-    };
-    for (const auto& [before, after] : cases) {
-        CStringArray list;
-        Fill(list, before);
-        HITNESS_RANKER().EliminateSameResult(list);
-        EXPECT_EQ(TextsOf(list), after);
+    FakeHost host;
+    host.m_texts = project;
+    Ranker ranker;
+    if constexpr (requires { ranker.m_nProjectKind; }) {
+        ranker.m_nProjectKind = projectKind;
     }
+    if constexpr (requires { ranker.m_pSteelBiao; }) {
+        ranker.SetPara(300, 1000, nullptr, "1");
+    }
+    CStringArray list;
+    ranker.ProcessController(list);
+    return TextsOf(list);
+}
+
+// One run of each kind to read; random lists compare all others.
+TEST(RankerFrame, ExampleRuns)
+{
+    EXPECT_EQ(RunOn<BEAMLEVEL_HITNESS_RANKER>({"(-0.300)", "0.100", "-0.200", "0.100"}),
+              (Texts{"      ", "-0.200", "(-0.300)", "0.100"}));
+    EXPECT_EQ(RunOn<BEAMSIZE_HITNESS_RANKER>({}, 0),
+              (Texts{"300x1200", "250x500", "300x500", "350x500", "400x500", "450x500", "250x600",
+                     "300x600", "350x600", "400x600", "450x600"}));
+    EXPECT_EQ(
+        RunOn<GUJIN_HITNESS_RANKER>({"A8@100/200(2)", "A8@200(2)", "A8@200(2)"}),
+        (Texts{"A8@200(2)", "A8@100/200(2)", "A8@100/150(2)", "A8@150/200(2)", "A8@150/250(2)",
+               "A10@100/150(2)", "A10@200(2)", "A10@100/200(2)", "A10@150/200(2)", "A10@150/250(2)"}));
+    EXPECT_EQ(RunOn<CHABIAO_HITNESS_RANKER>({"2B20", "2B25", "2B20", "N2B25"}),
+              (Texts{"2B20", "2B25", "2B12", "2B14", "2B16", "2B18", "2B22", "2B28"}));
 }
 
 TEST(RankerFrame, BaseStepsLeaveTheListAlone)

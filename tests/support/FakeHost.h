@@ -34,10 +34,7 @@ public:
         SetBeamSectionFunc([](CStringArray& list) { Append(list, s_host->m_texts); });
         SetBeamEleFunc([](CStringArray& list) { Append(list, s_host->m_texts); });
         SetBeamGujinFunc([](CStringArray& list) { Append(list, s_host->m_texts); });
-        SetBeamSteelFunc([](CStringArray& list, CString kind) {
-            s_host->m_kindAsked = kind.View();
-            Append(list, s_host->m_texts);
-        });
+        SetBeamSteelFunc([](CStringArray& list, CString /*kind*/) { Append(list, s_host->m_texts); });
     }
 
     ~FakeHost()
@@ -61,7 +58,6 @@ public:
     Texts m_typesOnEntry;  // what the last type callback found in its array
     Texts m_numberCalls;
     bool m_numberArraysWereEmpty = true;
-    std::string m_kindAsked;
 
 private:
     static void Append(CStringArray& list, const Texts& texts)

@@ -1,4 +1,4 @@
-// The longitudinal bar table: what its rows must satisfy as a whole, and its look-ups.
+// The longitudinal bar table: what its rows must satisfy as a whole; random look-ups compare the rest.
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -7,7 +7,6 @@
 #include <tuple>
 #include <utility>
 
-#include "platform/text/Numbers.h"
 #include "tests/support/Texts.h"
 
 namespace {
@@ -94,150 +93,6 @@ TEST(SteelBiao, BottomBarsFollowTheArea)
                       std::make_tuple(CString("2B18"), CString("2B18+2B20"), CString(diJin)));
         }
     }
-}
-
-using LookUp = int (SteelBiao::*)(int, int, CStringArray&);
-
-TEST(SteelBiao, LookUpsByAreaAndWidening)
-{
-    struct Case {
-        LookUp lookUp;
-        int width, area;
-        Texts texts;
-        bool found;  // the integer result is not negative
-    };
-    const LookUp top = &SteelBiao::GetTopJin;
-    const LookUp total = &SteelBiao::GetTotalJin;
-    const LookUp bottom = &SteelBiao::GetDiJin;
-    const Case cases[] = {
-        {top, 300, 1000, {"2B16", "2B18", "2B20", "2B25"}, true},
-        {total, 300, 1000, {"5B16", "2B16+2B20", "4B18", "3B20", "2B20+1B22", "2B25"}, true},
-        {bottom, 300, 1000, {"3B20"}, false},
-        {top, 250, 100, {"2B12", "2B14", "2B16", "2B18", "2B20", "2B22", "2B25"}, false},
-        {total,
-         250,
-         100,
-         {"2B12+1B14", "2B12+1B16", "4B12", "2B12+2B14", "2B12+2B16", "3B14", "2B14+1B16", "2B14+1B18"},
-         false},
-        {top, 250, 3000, {"2B25", "2B22", "2B20", "2B18", "2B16", "2B14", "2B12"}, false},
-        {bottom, 250, 3000, {"3B25", "3B20", "3B22", "3B18", "3B16", "3B14", "3B12"}, false},
-        {top, 250, 1850, {}, false},
-        {top, 350, 3500, {}, false},
-        // The difference is exclusive: 311 is 69 from 380 and a hit, 310 is 70 from it and widens.
-        {total, 250, 311, {"2B12+1B14"}, true},
-        {total,
-         250,
-         310,
-         {"2B12+1B14", "2B12+1B16", "4B12", "2B12+2B14", "2B12+2B16", "3B14", "2B14+1B16", "2B14+1B18"},
-         false},
-        {top, 199, 1000, {}, false},
-        {top, 701, 1000, {}, false},
-        {top, 300, INT_MIN, {"2B12", "2B14", "2B16", "2B18", "2B20", "2B22", "2B25"}, false},
-    };
-    SteelBiao table = FilledTable();
-    for (const Case& c : cases) {
-        CStringArray list;
-        const int result = (table.*c.lookUp)(c.width, c.area, list);
-        EXPECT_EQ(TextsOf(list), c.texts) << c.width << ' ' << c.area;
-        EXPECT_EQ(result >= 0, c.found) << c.width << ' ' << c.area;
-    }
-    CStringArray nine;
-    table.GetTotalJin(300, 654, nine);
-    EXPECT_EQ(nine.GetSize(), 9);
-}
-
-TEST(SteelBiao, BandsOfTheWidth)
-{
-    // A table whose arrays name themselves.
-    SteelBiao table;
-    const auto name = [](CArray<SteelBiaoItem>& rows, const char* width) {
-        SteelBiaoItem item;
-        item.Init(NumberValue(width), 1000, width, width);
-        rows.Add(item);
-    };
-    name(table.m_arBiao250, "250");
-    name(table.m_arBiao300, "300");
-    name(table.m_arBiao350, "350");
-    name(table.m_arBiao400, "400");
-    name(table.m_arBiao450, "450");
-    name(table.m_arBiao500, "500");
-    name(table.m_arBiao550, "550");
-    name(table.m_arBiao600, "600");
-    const std::pair<int, const char*> cases[] = {
-        {200, "250"}, {274, "250"}, {275, "300"}, {324, "300"}, {325, "350"}, {374, "350"},
-        {375, "400"}, {424, "400"}, {425, "450"}, {474, "450"}, {475, "500"}, {524, "500"},
-        {525, "550"}, {574, "550"}, {575, "600"}, {700, "600"},
-    };
-    for (const auto& [width, band] : cases) {
-        CStringArray list;
-        table.GetTotalJin(width, 1000, list);
-        EXPECT_EQ(TextsOf(list), Texts{band}) << width;
-    }
-}
-
-TEST(SteelBiao, ExactTotalBarsStandBehindTheGivenOnes)
-{
-    SteelBiao table = FilledTable();
-    struct Case {
-        int width, area;
-        const char* topJin;
-        Texts texts;
-        bool found;
-    };
-    const Case cases[] = {
-        {300, 1000, "2B16", {"2B16", "5B16"}, true}, {300, 1000, "2B18", {"2B18", "4B18"}, true},
-        {300, 1000, "2B28", {"2B28"}, false},        {300, 402, "2B16", {"2B16"}, false},
-        {199, 1000, "2B16", {"2B16"}, false},        {300, 976, "2B16", {"2B16", "5B16"}, true},
-        {300, 975, "2B16", {"2B16"}, false},
-    };
-    for (const Case& c : cases) {
-        CStringArray list;
-        EXPECT_EQ(table.GetExactTotalJin(c.width, c.area, c.topJin, list) >= 0, c.found) << c.topJin;
-        EXPECT_EQ(TextsOf(list), c.texts) << c.topJin << ' ' << c.area;
-    }
-    CStringArray twice;
-    table.GetExactTotalJin(300, 1000, "2B16", twice);
-    table.GetExactTotalJin(300, 1000, "2B16", twice);
-    EXPECT_EQ(TextsOf(twice), (Texts{"2B16", "5B16", "2B16"}));
-}
-
-TEST(SteelBiao, AListThatHoldsTextsIsNeitherWidenedNorRepeated)
-{
-    SteelBiao table = FilledTable();
-    CStringArray list;
-    list.Add("2B12");
-    EXPECT_EQ(table.GetTopJin(250, 100, list), -1);
-    EXPECT_EQ(TextsOf(list), Texts{"2B12"});
-    Fill(list, {"2B18"});
-    table.GetTopJin(300, 1000, list);
-    EXPECT_EQ(TextsOf(list), (Texts{"2B18", "2B16", "2B20", "2B25"}));
-}
-
-TEST(SteelBiao, ResultIsTheNearestRowThatAddedAText)
-{
-    SteelBiao table = FilledTable();
-    CStringArray list;
-    const int row = table.GetTotalJin(300, 1006, list);
-    ASSERT_GE(row, 0);
-    EXPECT_EQ(table.m_arBiao300[row].m_strTotalJin, "5B16");
-    // Repeats do not count: only "2B25" with 982 is still to be added.
-    Fill(list, {"5B16", "2B16+2B20", "4B18", "3B20", "2B20+1B22"});
-    EXPECT_EQ(table.m_arBiao300[table.GetTotalJin(300, 1006, list)].m_strTotalJin, "2B25");
-}
-
-TEST(SteelBiao, UnfilledAndTwiceFilled)
-{
-    SteelBiao table;
-    CStringArray list;
-    EXPECT_EQ(table.GetTopJin(300, 1000, list), -1);
-    EXPECT_EQ(table.GetDiJin(300, 1000, list), -1);
-    EXPECT_TRUE(list.IsEmpty());
-    EXPECT_EQ(table.GetExactTotalJin(300, 1000, "2B16", list), -1);
-    EXPECT_EQ(TextsOf(list), Texts{"2B16"});
-    table.InintOnce();
-    table.InintOnce();
-    EXPECT_EQ(table.m_arBiao250.GetSize(), 96);
-    EXPECT_EQ(table.m_arBiao250[0].m_strTotalJin, table.m_arBiao250[48].m_strTotalJin);
 }
 
 }  // namespace
