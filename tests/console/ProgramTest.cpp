@@ -59,6 +59,8 @@ TEST(Program, AnswersWithStatusZero)
           "its rows are in the list already: 2B16, 2B18", "> "}},
         {"rank bars --top 2B16 --width 300 --area 1000 --table", {"the through bars themselves", "5B16"}},
         {"rank bars --beam KL3 --kind ends", {"on through bars 2B25", " *", "what KL3(3) has now"}},
+        {"rank bars --beam KL2 --kind left", {"on through bars 2B25", "area 1725 mm²"}},
+        {"rank bars --beam KL2 --kind right", {"on through bars 2B25", "area 1935 mm²"}},
         {"rank bars --kind 1 --width 250 --area 3000 --table",
          {"table: the bar table has no row within 70"}},
         {"rank stirrups --beam 'KL2(7)' --table",
