@@ -79,7 +79,7 @@ void Sections(CStringArray& arResult) { DeliverAll(arResult, &Beam::section); }
 void Elevations(CStringArray& arResult) { DeliverAll(arResult, &Beam::elevation); }
 void Stirrups(CStringArray& arResult) { DeliverAll(arResult, &Beam::stirrup); }
 
-void Bars(CStringArray& arResult, CString strKind)
+void BarsOfKind(CStringArray& arResult, CString strKind)
 {
     const std::string kind = Utf8FromGbk(strKind);
     for (const Beam& beam : g_project->beams) {
@@ -102,7 +102,7 @@ ProjectHost::ProjectHost(const Project& project)
     SetBeamSectionFunc(&Sections);
     SetBeamEleFunc(&Elevations);
     SetBeamGujinFunc(&Stirrups);
-    SetBeamSteelFunc(&Bars);
+    SetBeamSteelFunc(&BarsOfKind);
 }
 
 ProjectHost::~ProjectHost()
