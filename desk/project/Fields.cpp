@@ -37,6 +37,17 @@ constexpr FieldRow Rows[] = {
     {Field::VerticalBars, "verticalBars", nullptr, &Wall::verticalBars, Ranker::OtherWalls, "", false, nullptr, false, "",
      PanelKind::VerticalBars, -1, -1, "Vertical bars", "竖向分布筋"},
 };
+
+constexpr RoleRow Roles[] = {
+    {Role::TopSupport, "topSupport", Field::LeftEnd, "Top bars at a support", "支座上部筋"},
+    {Role::TopSpan, "topSpan", Field::TopBars, "Top bars along a span", "跨中上部筋"},
+    {Role::Bottom, "bottom", Field::BottomBars, "Bottom bars of a span", "跨下部筋"},
+    {Role::Stirrup, "stirrup", Field::Stirrup, "Stirrups of a span", "跨箍筋"},
+    {Role::Side, "side", Field::Side, "Side bars of a span", "跨侧面构造筋"},
+    {Role::Torsion, "torsion", Field::Torsion, "Torsion bars of a span", "跨受扭纵筋"},
+    {Role::Section, "section", Field::Section, "Section of a span", "跨截面"},
+    {Role::Elevation, "elevation", Field::Elevation, "Elevation of a span", "跨标高"},
+};
 // clang-format on
 
 constexpr Field FieldsOfBeam[] = {
@@ -49,6 +60,9 @@ constexpr Field FieldsOfWall[] = {Field::Name, Field::HorizontalBars, Field::Ver
 template <class AnyProject>
 auto& Text(AnyProject& project, const FieldRef& ref)
 {
+    if (ref.inPlace >= 0) {
+        return project.beams.at(ref.index).inPlace.at(static_cast<std::size_t>(ref.inPlace)).text;
+    }
     const FieldRow& row = RowOf(ref.field);
     if (ref.isWall ? row.ofWall == nullptr : row.ofBeam == nullptr) {
         throw std::out_of_range("a field that its owner does not have");
@@ -59,11 +73,28 @@ auto& Text(AnyProject& project, const FieldRef& ref)
 }  // namespace
 
 const FieldRow& RowOf(Field field) { return Rows[static_cast<std::size_t>(field)]; }
+const RoleRow& RowOf(Role role) { return Roles[static_cast<std::size_t>(role)]; }
+std::span<const RoleRow> AllRoles() { return Roles; }
 std::span<const Field> BeamFields() { return FieldsOfBeam; }
 std::span<const Field> WallFields() { return FieldsOfWall; }
 std::span<const Field> FieldsOf(const FieldRef& owner)
 {
     return owner.isWall ? WallFields() : BeamFields();
+}
+
+std::vector<FieldRef> RefsOf(const Project& project, const FieldRef& owner)
+{
+    std::vector<FieldRef> refs;
+    for (const Field field : FieldsOf(owner)) {
+        refs.push_back({owner.isWall, owner.index, field});
+    }
+    if (!owner.isWall) {
+        for (const InPlace& text : project.beams.at(owner.index).inPlace) {
+            refs.push_back({false, owner.index, RowOf(text.role).field,
+                            static_cast<int>(&text - project.beams[owner.index].inPlace.data())});
+        }
+    }
+    return refs;
 }
 
 std::string_view HeadOf(std::string_view text, std::string_view heads)
@@ -81,6 +112,11 @@ bool Exists(const Project& project, const FieldRef& ref)
 {
     const std::span<const Field> fields = FieldsOf(ref);
     const std::size_t count = ref.isWall ? project.walls.size() : project.beams.size();
+    if (ref.inPlace >= 0) {
+        const auto at = static_cast<std::size_t>(ref.inPlace);
+        return !ref.isWall && ref.index < count && at < project.beams[ref.index].inPlace.size() &&
+               RowOf(project.beams[ref.index].inPlace[at].role).field == ref.field;
+    }
     return ref.index < count && std::find(fields.begin(), fields.end(), ref.field) != fields.end();
 }
 

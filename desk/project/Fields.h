@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "desk/project/Project.h"
 
@@ -63,6 +64,19 @@ struct FieldRow {
 };
 
 [[nodiscard]] const FieldRow& RowOf(Field field);
+
+// What a role is called, and the field that serves its texts: ranker, panel and piece type are that
+// field's.
+struct RoleRow {
+    Role role;
+    const char* key;  // in a project file
+    Field field;
+    const char* english;
+    const char* chinese;
+};
+
+[[nodiscard]] const RoleRow& RowOf(Role role);
+[[nodiscard]] std::span<const RoleRow> AllRoles();
 [[nodiscard]] std::span<const Field> BeamFields();
 [[nodiscard]] std::span<const Field> WallFields();
 
@@ -74,11 +88,15 @@ struct FieldRef {
     bool isWall = false;
     std::size_t index = 0;  // in the project's beams or walls
     Field field = Field::Name;
+    int inPlace =
+        -1;  // index in the beam's texts in place, whose role the field serves; -1 for its own text
 
     auto operator<=>(const FieldRef&) const = default;
 };
 
 [[nodiscard]] std::span<const Field> FieldsOf(const FieldRef& owner);
+// All annotations of a beam or wall, which must exist: its own, then those in place.
+[[nodiscard]] std::vector<FieldRef> RefsOf(const Project& project, const FieldRef& owner);
 [[nodiscard]] PanelKind PanelOf(const FieldRef& ref);
 
 // The index is in range and the field is one of a beam or a wall.

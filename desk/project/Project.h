@@ -1,6 +1,7 @@
 // The drafting host's project: the beams and walls of a building with their annotation texts.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -26,6 +27,27 @@ struct SteelArea {
     int rightEnd = 0;
 };
 
+// Where a text is drawn: its lower left corner, the direction in which it is read, in degrees from x
+// towards y, and the height of its characters in mm. Height 0 for a text that has no position of its own.
+struct TextPlace {
+    PlanPoint at;
+    double angle = 0.0;
+    double height = 0.0;
+};
+
+// What a text in place is for its beam.
+enum class Role { TopSupport, TopSpan, Bottom, Stirrup, Side, Torsion, Section, Elevation };
+
+// A text in place: what it says replaces the beam's own annotation at one support or along one span.
+struct InPlace {
+    Role role = Role::Bottom;
+    int number = 1;  // of the support for TopSupport, else of the span, from 1 at the beam's start
+    std::string text;
+    TextPlace place;
+    int drawn = -1;  // index in the texts of the drawing that it was read from
+    InFile inFile;
+};
+
 // A beam with its annotation texts, in UTF-8; an empty text means that the beam has none.
 struct Beam {
     std::string name;        // KL1(3)
@@ -45,6 +67,9 @@ struct Beam {
     SteelArea area;
     PlanPoint start;
     PlanPoint end;
+    std::vector<double> spans;      // lengths in mm from the start, one span at least; empty when not known
+    std::vector<InPlace> inPlace;   // in the order in which they were read
+    std::vector<TextPlace> places;  // of its texts, parallel to BeamFields(); empty without a drawing
     InFile inFile;
 };
 
@@ -71,6 +96,8 @@ struct Project {
     std::vector<Wall> walls;
     std::vector<Axis> axesAcross;  // those that cross x, from left to right
     std::vector<Axis> axesUp;      // those that cross y, from below
+    // Texts of a drawing whose beam a person has pointed to: handle, and a position on that beam.
+    std::map<std::string, PlanPoint> pointed;
     InFile inFile;
 };
 
