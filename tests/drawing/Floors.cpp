@@ -109,9 +109,7 @@ std::vector<std::string> LinesOf(const Beam& texts)
 
 void DrawOn(DrawingMaker& maker, const DrawnFloor& floor, const PlanPoint& moved)
 {
-    if (moved.x != 0 || moved.y != 0) {
-        maker.BeginBlock({{moved.x * maker.TheShape().scale, moved.y * maker.TheShape().scale}});
-    }
+    maker.Shift(moved);
     for (const Outline& outline : floor.outlines) {
         DrawOutline(maker, outline, floor.columns);
     }
@@ -137,15 +135,13 @@ void DrawOn(DrawingMaker& maker, const DrawnFloor& floor, const PlanPoint& moved
             maker.MText({text.at, text.angle, Height}, {text.text}, "PUB_TEXT");
         }
     }
-    if (moved.x != 0 || moved.y != 0) {
-        maker.EndBlock();
-    }
+    maker.Shift({});
 }
 
 std::string Draw(const Shape& shape, const DrawnFloor& floor)
 {
     DrawingMaker maker(shape);
-    const Frame frames[] = {{{5000, -3000}, 90, 2}, {{-400, 700}, 30, 0.25}};
+    const Insertion frames[] = {{{5000, -3000}, 90, 2}, {{-400, 700}, 30, 0.25}};
     for (int i = 0; i < shape.depth; ++i) {
         maker.BeginBlock(frames[i]);
     }

@@ -83,7 +83,7 @@ double DrawingMaker::Scale() const
 
 void DrawingMaker::Point(int code, const PlanPoint& point)
 {
-    PlanPoint at{point.x * m_shape.scale, point.y * m_shape.scale};
+    PlanPoint at{(point.x + m_shift.x) * m_shape.scale, (point.y + m_shift.y) * m_shape.scale};
     for (const auto& [name, frame, content] : m_open) {
         at = Turned({at.x - frame.at.x, at.y - frame.at.y}, -frame.angle, 1 / frame.scale);
         at = {at.x + Base.x, at.y + Base.y};
@@ -269,7 +269,7 @@ void DrawingMaker::Circle(const PlanPoint& center, double radius, const std::str
     Number(40, radius / Scale());
 }
 
-void DrawingMaker::BeginBlock(const Frame& frame)
+void DrawingMaker::BeginBlock(const Insertion& frame)
 {
     m_names.push_back("B" + std::to_string(m_names.size() + 1));
     m_open.push_back({m_names.back(), frame, std::exchange(m_pairs, {})});

@@ -38,7 +38,7 @@ struct Shape {
 };
 
 // Where a block is inserted.
-struct Frame {
+struct Insertion {
     PlanPoint at;
     double angle = 0.0;
     double scale = 1.0;
@@ -49,7 +49,7 @@ class DrawingMaker {
 public:
     explicit DrawingMaker(const Shape& shape);
 
-    void BeginBlock(const Frame& frame);
+    void BeginBlock(const Insertion& frame);
     // columns and rows of an arrayed insert, a step apart
     void EndBlock(int columns = 1, int rows = 1, PlanPoint step = {});
 
@@ -63,6 +63,8 @@ public:
     void Line(const PlanPoint& from, const PlanPoint& to, const std::string& layer);
     void Polyline(const std::vector<PlanPoint>& points, bool isClosed, const std::string& layer);
     void Circle(const PlanPoint& center, double radius, const std::string& layer);
+    // What follows lies so far from where it is given.
+    void Shift(const PlanPoint& by) { m_shift = by; }
     void HideLayer(const std::string& layer) { m_hidden.push_back(layer); }
     [[nodiscard]] const Shape& TheShape() const { return m_shape; }
 
@@ -73,7 +75,7 @@ public:
 private:
     struct Block {
         std::string name;
-        Frame frame;
+        Insertion frame;
         std::string content;
     };
 
@@ -94,6 +96,7 @@ private:
     std::string m_blocks;              // those that are done
     std::vector<std::string> m_names;  // of blocks
     std::vector<std::string> m_hidden;
+    PlanPoint m_shift;
     unsigned m_handle = 0x100;
     unsigned m_texts = 0;
 };

@@ -100,7 +100,7 @@ TEST(ReadDrawing, BetweenTwoBeamsALeaderTellsAndNothingElse)
 {
     const Drawing led = Parsed(Draw({}, TwoNearBeams(true)));
     EXPECT_FALSE(TextOf(led, "L7(1)").open.has_value());
-    EXPECT_EQ(Told(led.Get().beams.at(0).start), "0,1000");
+    EXPECT_EQ(Told(led.Get().beams.at(0).start), "150,1000");
 
     const Drawing open = Parsed(Draw({}, TwoNearBeams(false)));
     const AnnotationText& name = TextOf(open, "L7(1)");
@@ -123,7 +123,7 @@ TEST(ReadDrawing, BetweenTwoBeamsALeaderTellsAndNothingElse)
     EXPECT_FALSE(point("L7(1)", {3000, 9000}));
     EXPECT_TRUE(point("L7(1)", {4000, 20}));
     EXPECT_TRUE(point("3%%13220", {3500, 0}));
-    EXPECT_EQ(Told(project), "L7(1) 0,0 to 8000,0 (8000):; topSpan 1 3C20\n");
+    EXPECT_EQ(Told(project), "L7(1) 150,0 to 7850,0 (7700):; topSpan 1 3C20\n");
     // The companion remembers.
     const std::string companion = Drawing::CompanionOf(project);
     const Drawing again = Drawing::Parse(Draw({}, TwoNearBeams(false)), "floor.dxf", companion);
@@ -290,7 +290,6 @@ TEST(ReadDrawing, SaysWhatItDoesNotRead)
         {"0\n", ""},
     };
     for (const auto& [bytes, part] : cases) {
-        EXPECT_TRUE(IsDrawing(bytes)) << bytes.substr(0, 20);
         try {
             static_cast<void>(Parsed(bytes));
             ADD_FAILURE() << "read: " << bytes.substr(0, 20);
