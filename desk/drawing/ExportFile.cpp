@@ -11,12 +11,12 @@ namespace Desk {
 
 namespace {
 
-struct LayerRow {
+struct ExportLayer {
     const char* name;
     int colour;
     const char* lineType;
 };
-constexpr LayerRow ExportLayers[] = {
+constexpr ExportLayer ExportLayers[] = {
     {"0", 7, "CONTINUOUS"},           {"BEAM", 3, "CONTINUOUS"}, {"BEAM_TEXT_X", 7, "CONTINUOUS"},
     {"BEAM_TEXT_Y", 7, "CONTINUOUS"}, {"AXIS", 1, "CENTER"},     {"WALL", 8, "CONTINUOUS"},
 };
@@ -126,7 +126,7 @@ void AddLineTypes(std::string& out)
 void AddLayers(std::string& out)
 {
     Table(out, "LAYER", static_cast<int>(std::size(ExportLayers)));
-    for (const LayerRow& layer : ExportLayers) {
+    for (const ExportLayer& layer : ExportLayers) {
         WritePair(out, 0, "LAYER");
         WritePair(out, 2, layer.name);
         WritePair(out, 70, 0);
