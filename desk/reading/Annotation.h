@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "desk/project/Fields.h"
+#include "desk/reading/DrawingText.h"
 
 namespace Desk {
 
@@ -18,8 +19,9 @@ namespace Desk {
 struct Annotation {
     Field field = Field::Name;
     std::string text;
+    Stretch at = {};  // where the plain text has it; empty where that cannot be told
 
-    bool operator==(const Annotation&) const = default;
+    bool operator==(const Annotation& other) const { return field == other.field && text == other.text; }
 };
 
 // What the text did not say in the module's words, and how it was understood.

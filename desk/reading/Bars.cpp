@@ -121,7 +121,9 @@ bool ReadErection(Cursor& at, DrawnBars& drawn)
         return false;
     }
     DrawnBars found = drawn;
+    found.erectionAt.begin = cursor.At();
     found.erection.layers.push_back(ReadLayer(cursor, found));
+    found.erectionAt.end = cursor.At();
     cursor.SkipBlank();
     if (found.erection.layers.front().empty() || !cursor.Eat(')')) {
         return false;
@@ -133,6 +135,7 @@ bool ReadErection(Cursor& at, DrawnBars& drawn)
 
 void ReadHead(Cursor& at, DrawnBars& drawn)
 {
+    drawn.at.begin = at.At();
     switch (const char ch = at.EatOneOf("GgNn*TB")) {
     case 'g': drawn.bars.head = 'G'; break;
     case 'n': drawn.bars.head = 'N'; break;
@@ -140,6 +143,8 @@ void ReadHead(Cursor& at, DrawnBars& drawn)
     case 'B':
         drawn.label = ch;
         static_cast<void>(at.Eat(':'));
+        at.SkipBlank();
+        drawn.at.begin = at.At();
         break;
     default: drawn.bars.head = ch; break;
     }
@@ -226,6 +231,7 @@ std::optional<DrawnBars> ReadDrawnBars(Cursor& at)
             break;
         }
         drawn.bars.layers.push_back(std::move(layer));
+        drawn.at.end = cursor.At();
         ReadErection(cursor, drawn);
         at = cursor;
     } while (cursor.EatJoint('/'));

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "desk/reading/DrawingText.h"
+
 namespace Desk {
 
 class Cursor;
@@ -52,6 +54,8 @@ struct DrawnBars {
     Bars erection;           // what is in brackets after a "+"
     char label = '\0';       // T (top) or B (bottom) in front of the bars
     bool endsShort = false;  // some bars stop before the supports, which only bottom bars do
+    Stretch at;              // of the bars with their head, in the text
+    Stretch erectionAt;      // of the erection bars without their brackets
     std::string leftOut;     // brackets that the grammar has no meaning for, separated by blanks
 };
 

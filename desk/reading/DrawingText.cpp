@@ -154,40 +154,51 @@ void AppendCharacter(std::string& out, char32_t value)
     }
 }
 
+// Appends what the head of a text stands for and answers how many bytes spell it.
+std::size_t AppendFirst(std::string& plain, std::string_view drawn)
+{
+    for (const Spelling& code : Codes) {
+        if (drawn.starts_with(code.drawn)) {
+            plain += code.plain;
+            return code.drawn.size();
+        }
+    }
+    if (const std::optional<char32_t> escaped = EscapedCharacter(drawn)) {
+        constexpr std::size_t Escape = 7;
+        AppendCharacter(plain, *escaped);
+        return Escape;
+    }
+    const Character character = FirstCharacter(drawn);
+    if (character.value >= 0x10000 || (character.bytes == 1 && character.value >= 0x80)) {
+        plain += drawn.substr(0, character.bytes);
+    } else {
+        AppendCharacter(plain, character.value);
+    }
+    return character.bytes;
+}
+
 }  // namespace
 
 std::string PlainText(std::string_view drawn)
 {
+    std::vector<Stretch> spelled;
+    return PlainText(drawn, spelled);
+}
+
+std::string PlainText(std::string_view drawn, std::vector<Stretch>& spelled)
+{
     std::string plain;
     plain.reserve(drawn.size());
-    while (!drawn.empty()) {
-        bool isCode = false;
-        for (const Spelling& code : Codes) {
-            if (drawn.substr(0, code.drawn.size()) == code.drawn) {
-                plain += code.plain;
-                drawn.remove_prefix(code.drawn.size());
-                isCode = true;
-                break;
-            }
-        }
-        if (isCode) {
-            continue;
-        }
-        if (const std::optional<char32_t> escaped = EscapedCharacter(drawn)) {
-            AppendCharacter(plain, *escaped);
-            drawn.remove_prefix(7);
-            continue;
-        }
-        const Character character = FirstCharacter(drawn);
-        if (character.value >= 0x10000 || (character.bytes == 1 && character.value >= 0x80)) {
-            plain += drawn.substr(0, character.bytes);
-        } else {
-            AppendCharacter(plain, character.value);
-        }
-        drawn.remove_prefix(character.bytes);
+    spelled.clear();
+    spelled.reserve(drawn.size());
+    for (std::size_t at = 0; at < drawn.size();) {
+        const std::size_t begin = at;
+        at += AppendFirst(plain, drawn.substr(at));
+        spelled.resize(plain.size(), {begin, at});
     }
     if (!plain.empty() && plain.back() == ' ') {
         plain.pop_back();
+        spelled.pop_back();
     }
     return plain;
 }

@@ -18,11 +18,14 @@ bool IsSeparator(char ch) { return ch == ' ' || ch == ',' || ch == ';'; }
 constexpr std::string_view BeamWords[] = {"屋面框架梁", "非框架梁", "框架梁", "悬挑梁",
                                           "连梁",       "次梁",     "梁"};
 constexpr std::string_view SectionWords[] = {"截面尺寸", "截面"};
-constexpr std::string_view ElevationWords[] = {"标高"};
+constexpr std::string_view ElevationWords[] = {"梁顶标高", "标高"};
 
 class LineReader {
 public:
-    LineReader(std::string_view plain, const Choices& choices) : m_at(plain, choices) {}
+    LineReader(std::string_view plain, const Choices& choices) : m_at(plain, choices)
+    {
+        m_line.beginsWithBottom = plain.starts_with(';');
+    }
 
     Line Read()
     {
@@ -73,9 +76,13 @@ private:
         return true;
     }
 
+    // What read takes here is kept, and where; start is where the words before it begin.
     template <class Found>
-    bool Keep(std::optional<Found>& kept, std::optional<Found> found, const Cursor& start)
+    bool Keep(std::optional<Found>& kept, Stretch& where, std::optional<Found> (*read)(Cursor&),
+              const Cursor& start)
     {
+        const std::size_t begin = m_at.At();
+        std::optional<Found> found = read(m_at);
         if (!found) {
             return false;
         }
@@ -84,30 +91,39 @@ private:
             m_at.ForgetMarksSince(start);
         } else {
             kept = std::move(found);
+            where = {begin, m_at.At()};
         }
         return true;
+    }
+    bool KeepName(const Cursor& start) { return Keep(m_line.name, m_line.nameAt, ReadName, start); }
+    bool KeepSection(const Cursor& start)
+    {
+        return Keep(m_line.section, m_line.sectionAt, ReadSection, start);
+    }
+    bool KeepElevation(const Cursor& start)
+    {
+        return Keep(m_line.elevation, m_line.elevationAt, ReadElevation, start);
     }
 
     bool ReadOne()
     {
         const Cursor start = m_at;
+        if (EatWord(m_at, ElevationWords)) {
+            return KeepElevation(start);
+        }
         if (EatWord(m_at, BeamWords)) {
-            return Keep(m_line.name, ReadName(m_at), start);
+            return KeepName(start);
         }
         if (EatWord(m_at, SectionWords)) {
-            return Keep(m_line.section, ReadSection(m_at), start);
+            return KeepSection(start);
         }
-        if (EatWord(m_at, ElevationWords)) {
-            return Keep(m_line.elevation, ReadElevation(m_at), start);
-        }
-        return Keep(m_line.name, ReadName(m_at), start) || ReadSpacedBars(start) ||
-               Keep(m_line.section, ReadSection(m_at), start) ||
-               Keep(m_line.elevation, ReadElevation(m_at), start) || ReadBars() || ReadSpans();
+        return KeepName(start) || ReadSpacedBars(start) || KeepSection(start) || KeepElevation(start) ||
+               ReadBars() || ReadSpans();
     }
 
     bool ReadSpacedBars(const Cursor& start)
     {
-        if (!Keep(m_line.stirrup, ReadStirrup(m_at), start)) {
+        if (!Keep(m_line.stirrup, m_line.stirrupAt, ReadStirrup, start)) {
             return false;
         }
         if (Cursor end = m_at; m_line.stirrup->legs == 0 && end.EatJoint('(') && end.AtEnd()) {

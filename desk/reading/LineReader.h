@@ -22,8 +22,14 @@ struct Line {
     std::optional<Section> section;
     std::optional<Elevation> elevation;
     std::optional<Stirrup> stirrup;  // or a wall's spaced bars
-    bool isCutOff = false;           // the stirrup ends in an open bracket with nothing in it
+    // Where they are in the text.
+    Stretch nameAt;
+    Stretch sectionAt;
+    Stretch elevationAt;
+    Stretch stirrupAt;
+    bool isCutOff = false;  // the stirrup ends in an open bracket with nothing in it
     std::vector<DrawnBars> bars;
+    bool beginsWithBottom = false;  // a ";" at the head of the text: there are no top bars
     std::set<Filled> filled;
     std::string spans;                       // span lengths after the name; empty for none
     std::vector<std::string> notUnderstood;  // stretches that no reader takes, each up to a separator

@@ -23,13 +23,13 @@ public:
     void Take(const Line& line, Kind kind)
     {
         m_reading.filled = line.filled;
-        TakeField(Field::Name, line.name);
-        TakeField(Field::Section, line.section);
+        TakeField(Field::Name, line.name, line.nameAt);
+        TakeField(Field::Section, line.section, line.sectionAt);
         if (line.stirrup) {
             TakeSpaced(line, kind);
         }
-        TakeBars(line.bars);
-        TakeField(Field::Elevation, line.elevation);
+        TakeBars(line.bars, line.beginsWithBottom);
+        TakeField(Field::Elevation, line.elevation, line.elevationAt);
         if (!line.spans.empty()) {
             LeaveOut(line.spans, "span lengths");
         }
@@ -56,20 +56,20 @@ private:
                            [field](const Annotation& a) { return a.field == field; });
     }
 
-    void Add(Field field, std::string text)
+    void Add(Field field, std::string text, const Stretch& at)
     {
         if (Holds(field)) {
             LeaveOut(text, std::string("more than one for ").append(FieldName(field)));
         } else {
-            m_reading.annotations.push_back({field, std::move(text)});
+            m_reading.annotations.push_back({field, std::move(text), at});
         }
     }
 
     template <class Value>
-    void TakeField(Field field, const std::optional<Value>& value)
+    void TakeField(Field field, const std::optional<Value>& value, const Stretch& at)
     {
         if (value) {
-            Add(field, value->Text());
+            Add(field, value->Text(), at);
         }
     }
 
@@ -83,7 +83,7 @@ private:
         if (line.isCutOff) {
             LeaveOut(bars.Text(), "the text ends in an open bracket: the legs are cut off");
         } else if (bars.legs == 0 && isAlone && (kind == Kind::Distributed || (isPlain && !isBeams))) {
-            Add(Field::HorizontalBars, bars.Text());
+            Add(Field::HorizontalBars, bars.Text(), line.stirrupAt);
         } else if (bars.legs == 0 && m_choices.legs == 0) {
             LeaveOut(bars.Text(), "a stirrup without legs");
         } else {
@@ -91,11 +91,11 @@ private:
                 bars.legs = m_choices.legs;
                 m_reading.filled.insert(Filled::Legs);
             }
-            Add(Field::Stirrup, bars.Text());
+            Add(Field::Stirrup, bars.Text(), line.stirrupAt);
         }
     }
 
-    void TakeBars(const std::vector<DrawnBars>& all)
+    void TakeBars(const std::vector<DrawnBars>& all, bool beginsWithBottom)
     {
         const auto isOpen = [](const DrawnBars& drawn) {
             return drawn.label == '\0' && drawn.bars.head == '\0' && !drawn.bars.IsEmpty();
@@ -103,13 +103,14 @@ private:
         const auto open = std::count_if(all.begin(), all.end(), isOpen);
         for (const DrawnBars& drawn : all) {
             if (isOpen(drawn)) {
-                const bool isBottom = Holds(Field::TopBars) || (open == 1 && drawn.endsShort);
-                Add(isBottom ? Field::BottomBars : Field::TopBars, drawn.bars.Text());
+                const bool isBottom =
+                    beginsWithBottom || Holds(Field::TopBars) || (open == 1 && drawn.endsShort);
+                Add(isBottom ? Field::BottomBars : Field::TopBars, drawn.bars.Text(), drawn.at);
             } else if (!drawn.bars.IsEmpty()) {
-                Add(FieldOf(drawn), drawn.bars.Text());
+                Add(FieldOf(drawn), drawn.bars.Text(), drawn.at);
             }
             if (!drawn.erection.IsEmpty()) {
-                Add(Field::Erection, drawn.erection.Text());
+                Add(Field::Erection, drawn.erection.Text(), drawn.erectionAt);
             }
             if (!drawn.leftOut.empty()) {
                 LeaveOut(drawn.leftOut, drawn.endsShort ? "bars that stop before the supports"
@@ -180,10 +181,12 @@ Reading ReadText(std::string_view drawn, Kind kind, const Choices& choices)
         return reading;
     }
     Line line = ReadLine(plain, choices);
+    bool isRewritten = false;
     const bool mayBeBars = kind == Kind::Bars || plain.find('+') != std::string::npos;
     if (line.IsEmpty() && mayBeBars) {
         if (const std::optional<std::string> signs = WithLostGrades(plain)) {
             line = ReadLine(*signs, choices);
+            isRewritten = true;
             if (line.filled.erase(Filled::Grade) > 0) {
                 line.filled.insert(Filled::LostGrade);
             }
@@ -191,6 +194,11 @@ Reading ReadText(std::string_view drawn, Kind kind, const Choices& choices)
     }
     Gatherer gatherer(choices, reading);
     gatherer.Take(line, kind);
+    if (isRewritten) {
+        for (Annotation& annotation : reading.annotations) {
+            annotation.at = {};
+        }
+    }
     if (reading.annotations.empty() || line.notUnderstood.size() > reading.annotations.size()) {
         std::string why = line.IsEmpty() ? WhyUnread(plain, kind) : gatherer.LeftOut();
         Refuse(reading, kind == Kind::NameTrap ? Outcome::NoBeam : Outcome::Unread, std::move(why));

@@ -15,7 +15,7 @@ QJsonArray Json(const QRect& rect) { return {rect.x(), rect.y(), rect.width(), r
 
 QRect OnScreen(const QWidget& widget) { return {widget.mapToGlobal(QPoint()), widget.size()}; }
 
-QJsonArray Rows(const QAbstractItemView& view)
+QJsonArray RowsOf(const QAbstractItemView& view)
 {
     QJsonArray rows;
     const QRect inView = view.viewport()->rect();
@@ -45,7 +45,7 @@ QJsonObject Describe(const QWidget& widget)
     } else if (const auto* const label = qobject_cast<const QLabel*>(&widget)) {
         told["text"] = label->text();
     } else if (const auto* const view = qobject_cast<const QAbstractItemView*>(&widget)) {
-        told["rows"] = Rows(*view);
+        told["rows"] = RowsOf(*view);
     }
     return told;
 }
