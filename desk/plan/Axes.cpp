@@ -7,10 +7,10 @@ namespace {
 constexpr double Overhang = 2200.0;  // mm that an axis goes beyond the last crossing one
 constexpr double Bubble = 450.0;     // mm, radius
 
-class AxesItem : public QGraphicsItem {
+class AxesItem : public PlanItem {
 public:
-    AxesItem(std::vector<Axis> across, std::vector<Axis> up, const PlanColors& colors)
-        : m_across(std::move(across)), m_up(std::move(up)), m_colors(colors)
+    AxesItem(std::vector<Axis> across, std::vector<Axis> up)
+        : m_across(std::move(across)), m_up(std::move(up))
     {
         const auto range = [](const std::vector<Axis>& axes) {
             return axes.empty() ? std::pair(0.0, 0.0) : std::pair(axes.front().at, axes.back().at);
@@ -29,8 +29,8 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/, QWidget* /*widget*/) override
     {
-        QPen dashes(m_colors.axis, 1.0, Qt::DashDotLine);
-        dashes.setCosmetic(true);
+        QPen dashes = LinePen(Colors(), Colors().axis);
+        dashes.setStyle(Qt::DashDotLine);
         painter->setFont(PlanFont());
         for (const Axis& axis : m_across) {
             painter->setPen(dashes);
@@ -49,9 +49,7 @@ public:
 private:
     void PaintBubble(QPainter& painter, const QPointF& middle, const QString& label) const
     {
-        QPen line(m_colors.axis, 1.0);
-        line.setCosmetic(true);
-        painter.setPen(line);
+        painter.setPen(LinePen(Colors(), Colors().axis));
         painter.setBrush(Qt::NoBrush);
         painter.drawEllipse(middle, Bubble, Bubble);
         painter.drawText(QRectF(middle.x() - Bubble, middle.y() - Bubble, 2 * Bubble, 2 * Bubble),
@@ -60,17 +58,16 @@ private:
 
     std::vector<Axis> m_across;
     std::vector<Axis> m_up;
-    PlanColors m_colors;
     QRectF m_lines;
 };
 
 }  // namespace
 
-QGraphicsItem* MakeAxes(const Project& project, bool dark)
+PlanItem* MakeAxes(const Project& project)
 {
     return project.axesAcross.empty() && project.axesUp.empty()
                ? nullptr
-               : new AxesItem(project.axesAcross, project.axesUp, ColorsFor(dark));
+               : new AxesItem(project.axesAcross, project.axesUp);
 }
 
 }  // namespace Desk

@@ -1,11 +1,11 @@
 // The axes of a floor with their bubbles.
 #pragma once
 
-#include "desk/plan/OwnerItem.h"
+#include "desk/plan/PlanItem.h"
 
 namespace Desk {
 
 // Null for a project without axes.
-[[nodiscard]] QGraphicsItem* MakeAxes(const Project& project, bool dark);
+[[nodiscard]] PlanItem* MakeAxes(const Project& project);
 
 }  // namespace Desk

@@ -1,16 +1,18 @@
 #include "desk/plan/FloorView.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "desk/plan/Axes.h"
-#include "desk/plan/PlaceBlocks.h"
+#include "desk/plan/FloorItems.h"
+#include "desk/plan/MarksItem.h"
 
 namespace Desk {
 
 namespace {
 
-constexpr double BodyReach = 4.0;  // pixels beside a beam that still count as on it
-constexpr int ViewMargin = 30;     // pixels around an annotation that is brought into view
+constexpr double BodyReach = 4.0;    // pixels beside a beam that still count as on it
+constexpr int ViewMargin = 30;       // pixels around an annotation that is brought into view
+constexpr double GoodHeight = 16.0;  // pixels of a text that is read with ease
 
 }  // namespace
 
@@ -25,39 +27,27 @@ FloorView::FloorView(QWidget* parent) : PanView(parent)
 
 FloorView::~FloorView() = default;
 
-void FloorView::SetProject(const Project* project)
+void FloorView::SetProject(const Project* project, const Backdrop* behind)
 {
     m_project = project;
     m_chosen.reset();
     m_hovered = nullptr;
+    m_marks = nullptr;
     m_items.clear();
+    m_all.clear();
+    SetPointing(false);
     scene()->clear();
     if (project == nullptr) {
         return;
     }
-    m_items.reserve(project->beams.size() + project->walls.size());
-    for (const bool wall : {false, true}) {
-        const std::size_t count = wall ? project->walls.size() : project->beams.size();
-        for (std::size_t i = 0; i < count; ++i) {
-            m_items.push_back(new OwnerItem(*project, wall, i));
-        }
-    }
-    m_covering = PlaceBlocks(m_items);
-    for (OwnerItem* const item : m_items) {
-        item->SetColors(&ColorsFor(m_isDark));
-        scene()->addItem(item);
-    }
-    AddAxes();
-    const QRectF all = scene()->itemsBoundingRect();
+    FloorItems floor = AddFloor(*scene(), *project, behind, ColorsFor(m_isDark));
+    m_all = std::move(floor.all);
+    m_items = std::move(floor.owners);
+    m_covering = floor.covering;
+    const QRectF all = scene()->itemsBoundingRect() | floor.shown;
     scene()->setSceneRect(all.adjusted(-all.width(), -all.height(), all.width(), all.height()));
+    SetContent(floor.shown, GoodHeight / floor.textHeight);
     Fit();
-}
-
-void FloorView::AddAxes()
-{
-    if (QGraphicsItem* const axes = m_project != nullptr ? MakeAxes(*m_project, m_isDark) : nullptr) {
-        scene()->addItem(axes);
-    }
 }
 
 void FloorView::Refresh(const FieldRef& ref)
@@ -77,9 +67,12 @@ void FloorView::SetChosen(std::optional<FieldRef> ref)
         return;
     }
     OwnerItem& item = *ItemOf(*m_chosen);
-    item.SetLit(m_chosen->field);
-    const QRectF box = item.mapRectToScene(item.BoxOf(m_chosen->field));
-    const QRect inView = mapFromScene(box).boundingRect();
+    item.SetLit(m_chosen);
+    BringIntoView(mapFromScene(item.mapToScene(item.BoxOf(*m_chosen))).boundingRect());
+}
+
+void FloorView::BringIntoView(const QRect& inView)
+{
     const QRect room = viewport()->rect().adjusted(ViewMargin, ViewMargin, -ViewMargin, -ViewMargin);
     if (!room.intersects(inView)) {
         PanBy(room.center() - inView.center());
@@ -92,8 +85,45 @@ QRect FloorView::OnScreen(const FieldRef& ref) const
     if (item == nullptr) {
         return {};
     }
-    const QRect inView = mapFromScene(item->mapToScene(item->BoxOf(ref.field))).boundingRect();
+    const QRect inView = mapFromScene(item->mapToScene(item->BoxOf(ref))).boundingRect();
     return {viewport()->mapToGlobal(inView.topLeft()), inView.size()};
+}
+
+QPoint FloorView::OnScreen(const PlanPoint& at) const
+{
+    return viewport()->mapToGlobal(mapFromScene(OnSheet(at)));
+}
+
+void FloorView::SetMarks(std::vector<PlanText> marks)
+{
+    if (m_marks != nullptr) {
+        m_all.erase(std::remove(m_all.begin(), m_all.end(), m_marks), m_all.end());
+        delete std::exchange(m_marks, nullptr);
+    }
+    if (!marks.empty()) {
+        m_marks = new MarksItem(std::move(marks));
+        m_marks->SetColors(&ColorsFor(m_isDark));
+        m_all.push_back(m_marks);
+        scene()->addItem(m_marks);
+    }
+}
+
+void FloorView::LightMark(std::optional<std::size_t> mark)
+{
+    if (m_marks == nullptr) {
+        return;
+    }
+    mark = mark && *mark < m_marks->Count() ? mark : std::nullopt;
+    m_marks->Light(mark);
+    if (mark) {
+        BringIntoView(mapFromScene(m_marks->OutlineOf(*mark)).boundingRect());
+    }
+}
+
+void FloorView::SetPointing(bool pointing)
+{
+    m_isPointing = pointing;
+    viewport()->setCursor(pointing ? Qt::CrossCursor : Qt::ArrowCursor);
 }
 
 void FloorView::ZoomBy(double factor)
@@ -110,16 +140,8 @@ void FloorView::SetDark(bool dark)
 {
     m_isDark = dark;
     setBackgroundBrush(ColorsFor(dark).ground);
-    for (OwnerItem* const item : m_items) {
+    for (PlanItem* const item : m_all) {
         item->SetColors(&ColorsFor(dark));
-    }
-    const QList<QGraphicsItem*> all = scene()->items();
-    const auto axes = std::find_if(all.begin(), all.end(), [](const QGraphicsItem* item) {
-        return item->type() != static_cast<int>(OwnerItem::Type);
-    });
-    if (axes != all.end()) {
-        delete *axes;
-        AddAxes();
     }
     viewport()->update();
 }
@@ -136,8 +158,11 @@ OwnerItem* FloorView::ItemOf(const FieldRef& ref) const
 FloorView::Hit FloorView::HitAt(const QPoint& inView) const
 {
     const QPointF at = mapToScene(inView);
-    const double reach = BodyReach / transform().m11();
-    const bool readable = OwnerItem::IsReadable(transform().m11());
+    const double scale = transform().m11();
+    const double reach = BodyReach / scale;
+    if (const auto mark = m_marks != nullptr ? m_marks->MarkAt(at, scale) : std::nullopt) {
+        return {nullptr, std::nullopt, mark};
+    }
     Hit body;
     for (QGraphicsItem* const each :
          scene()->items(QRectF(at.x() - reach, at.y() - reach, 2 * reach, 2 * reach),
@@ -147,8 +172,8 @@ FloorView::Hit FloorView::HitAt(const QPoint& inView) const
             continue;
         }
         const QPointF local = item->mapFromScene(at);
-        if (const std::optional<Field> field = readable ? item->FieldAt(local) : std::nullopt) {
-            return {item, *field, true};
+        if (const std::optional<FieldRef> text = item->RefAt(local, scale)) {
+            return {item, text};
         }
         if (body.item == nullptr && item->IsOnBody(local, reach)) {
             body.item = item;
@@ -164,16 +189,25 @@ void FloorView::Hover(const Hit& hit)
     }
     m_hovered = hit.item;
     if (hit.item != nullptr) {
-        hit.item->SetHovered(hit.onText ? std::optional(hit.field) : std::nullopt);
+        hit.item->SetHovered(hit.text);
     }
-    viewport()->setCursor(hit.item != nullptr ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    const bool isThing = hit.item != nullptr || hit.mark;
+    viewport()->setCursor(m_isPointing ? Qt::CrossCursor
+                          : isThing    ? Qt::PointingHandCursor
+                                       : Qt::ArrowCursor);
 }
 
 void FloorView::mousePressEvent(QMouseEvent* event)
 {
     const Hit hit = HitAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && hit.item != nullptr) {
-        emit Picked(hit.item->RefOf(hit.field));
+    const bool left = event->button() == Qt::LeftButton;
+    if (left && m_isPointing) {
+        const QPointF at = mapToScene(event->position().toPoint());
+        emit Pointed({at.x(), -at.y()});
+    } else if (left && hit.mark) {
+        emit MarkPicked(*hit.mark);
+    } else if (left && hit.item != nullptr) {
+        emit Picked(hit.Ref());
     } else {
         PanView::mousePressEvent(event);
     }
@@ -190,8 +224,8 @@ void FloorView::mouseMoveEvent(QMouseEvent* event)
 void FloorView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     const Hit hit = HitAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && hit.item != nullptr) {
-        emit PanelAsked(hit.item->RefOf(hit.field));
+    if (event->button() == Qt::LeftButton && hit.item != nullptr && !m_isPointing) {
+        emit PanelAsked(hit.Ref());
     }
 }
 

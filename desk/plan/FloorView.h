@@ -1,4 +1,5 @@
-// FloorView: the floor plan of a project with every annotation beside its beam or wall.
+// FloorView: the floor plan of a project with every annotation beside its beam or wall, or where a drawing
+// has it.
 #pragma once
 
 #include <optional>
@@ -6,8 +7,11 @@
 
 #include "desk/plan/OwnerItem.h"
 #include "desk/plan/PanView.h"
+#include "desk/project/Backdrop.h"
 
 namespace Desk {
+
+class MarksItem;
 
 class FloorView : public PanView {
     Q_OBJECT
@@ -16,8 +20,9 @@ public:
     explicit FloorView(QWidget* parent = nullptr);
     ~FloorView() override;
 
-    // Draws the project anew and fits it; borrowed, null for nothing.
-    void SetProject(const Project* project);
+    // Draws the project anew and fits it; borrowed, null for nothing. What a drawing shows behind it is
+    // copied.
+    void SetProject(const Project* project, const Backdrop* behind = nullptr);
     // A text of this beam or wall has changed.
     void Refresh(const FieldRef& ref);
 
@@ -25,8 +30,17 @@ public:
     void SetChosen(std::optional<FieldRef> ref);
     [[nodiscard]] std::optional<FieldRef> Chosen() const { return m_chosen; }
 
+    // Texts that wait for a person, drawn apart from the others, by numbers from 0.
+    void SetMarks(std::vector<PlanText> marks);
+    // Lights up a mark and brings it into view; nothing for none. Does not signal.
+    void LightMark(std::optional<std::size_t> mark);
+    // The next press tells a position, whatever is there.
+    void SetPointing(bool pointing);
+    [[nodiscard]] bool IsPointing() const { return m_isPointing; }
+
     // Where an annotation's text shows, in pixels of the screen; where it would be when it is empty.
     [[nodiscard]] QRect OnScreen(const FieldRef& ref) const;
+    [[nodiscard]] QPoint OnScreen(const PlanPoint& at) const;
     // Blocks of texts that lie on another text for want of room.
     [[nodiscard]] int CoveringBlocks() const { return m_covering; }
 
@@ -37,6 +51,8 @@ signals:
     // A press on an annotation; on a beam or wall itself: its name.
     void Picked(const Desk::FieldRef& ref);
     void PanelAsked(const Desk::FieldRef& ref);  // a double click
+    void MarkPicked(std::size_t mark);
+    void Pointed(const Desk::PlanPoint& at);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -46,20 +62,25 @@ protected:
 private:
     struct Hit {
         OwnerItem* item = nullptr;
-        Field field = Field::Name;
-        bool onText = false;
+        std::optional<FieldRef> text;  // nothing for the beam or wall itself
+        std::optional<std::size_t> mark = std::nullopt;
+
+        [[nodiscard]] FieldRef Ref() const { return text.value_or(item->NameRef()); }
     };
 
     [[nodiscard]] Hit HitAt(const QPoint& inView) const;
     [[nodiscard]] OwnerItem* ItemOf(const FieldRef& ref) const;
-    void AddAxes();
     void Hover(const Hit& hit);
+    void BringIntoView(const QRect& inView);
 
     const Project* m_project = nullptr;
-    std::vector<OwnerItem*> m_items;  // beams, then walls; the scene owns them
+    std::vector<PlanItem*> m_all;     // the scene owns them
+    std::vector<OwnerItem*> m_items;  // beams, then walls
+    MarksItem* m_marks = nullptr;
     int m_covering = 0;
     std::optional<FieldRef> m_chosen;
     OwnerItem* m_hovered = nullptr;
+    bool m_isPointing = false;
     bool m_isDark = false;
 };
 

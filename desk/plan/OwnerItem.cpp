@@ -11,32 +11,16 @@ namespace Desk {
 namespace {
 
 constexpr double DefaultWidth = 250.0;  // mm, of a beam whose section cannot be read
-constexpr double TextGap = 120.0;       // mm between a beam's edge and a text
-constexpr double EndInset = 350.0;      // mm from a beam's end to its text
+constexpr double BlockGap = 120.0;      // mm between a beam's edge and the block
 constexpr double LeaderReach = 260.0;   // mm that the leader goes beyond the beam's far edge
-constexpr double ReadableHeight = 4.0;  // pixels; lower texts are not drawn
-constexpr double HitMargin = 50.0;      // mm around a text
 constexpr double FieldLeader = 90.0;    // mm from the leader to the texts
 
 double DegreesOf(double dx, double dy) { return std::atan2(dy, dx) * 180.0 / std::numbers::pi; }
 
 }  // namespace
 
-const PlanColors& ColorsFor(bool dark)
-{
-    static const PlanColors onDark = {QColor(0x14, 0x18, 0x1E), QColor(0x9C, 0x4A, 0x46),
-                                      QColor(0x4A, 0xC6, 0xD8), QColor(0x8A, 0x93, 0xA0),
-                                      QColor(0xD8, 0xE4, 0xD0), QColor(0xF0, 0xC6, 0x74),
-                                      QColor(0xFF, 0xB3, 0x00), QColor(0x1F, 0x5F, 0xB0)};
-    static const PlanColors onLight = {QColor(0xFF, 0xFF, 0xFF), QColor(0xD9, 0x8C, 0x86),
-                                       QColor(0x0B, 0x72, 0x85), QColor(0x6B, 0x74, 0x80),
-                                       QColor(0x1B, 0x1F, 0x24), QColor(0x8A, 0x4B, 0x08),
-                                       QColor(0xE0, 0x7B, 0x00), QColor(0xFF, 0xE0, 0x8A)};
-    return dark ? onDark : onLight;
-}
-
 OwnerItem::OwnerItem(const Project& project, bool isWall, std::size_t index)
-    : m_isWall(isWall), m_index(index), m_colors(&ColorsFor(false))
+    : m_isWall(isWall), m_index(index)
 {
     const PlanPoint start = isWall ? project.walls[index].start : project.beams[index].start;
     const PlanPoint end = isWall ? project.walls[index].end : project.beams[index].end;
@@ -47,8 +31,9 @@ OwnerItem::OwnerItem(const Project& project, bool isWall, std::size_t index)
     if (dx < -Upright * std::abs(dy) || (std::abs(dx) <= Upright * std::abs(dy) && dy > 0.0)) {
         dx = -dx;
         dy = -dy;
+        m_body.isReversed = true;
     }
-    m_length = std::hypot(dx, dy);
+    m_body.length = std::hypot(dx, dy);
     setPos((start.x + end.x) / 2.0, -(start.y + end.y) / 2.0);
     setRotation(DegreesOf(dx, dy));
     TakeTexts(project);
@@ -59,9 +44,9 @@ QRectF OwnerItem::boundingRect() const
 {
     QRectF all = Body().adjusted(0, -LeaderReach, 0, LeaderReach);
     for (const Label& label : AllLabels()) {
-        all |= label.box;
+        all |= label.Outline().boundingRect();
     }
-    return all.adjusted(-HitMargin, -HitMargin, HitMargin, HitMargin);
+    return all;
 }
 
 void OwnerItem::TakeTexts(const Project& project)
@@ -69,39 +54,35 @@ void OwnerItem::TakeTexts(const Project& project)
     prepareGeometryChange();
     if (m_isWall) {
         const Wall& wall = project.walls[m_index];
-        m_width = wall.thickness > 0 ? wall.thickness : DefaultWidth;
+        m_body.width = wall.thickness > 0 ? wall.thickness : DefaultWidth;
         m_block = BlockOf(wall);
     } else {
         const Beam& beam = project.beams[m_index];
         const int width = WidthOf(beam.section);
-        m_width = width > 0 ? width : DefaultWidth;
+        m_body.width = width > 0 ? width : DefaultWidth;
+        m_isDrawn = !beam.places.empty();
         m_block = BlockOf(beam);
-        m_ends = {EndLabel(Field::LeftEnd, beam.leftEnd), EndLabel(Field::RightEnd, beam.rightEnd)};
+        m_fixed = TextsBeside(beam, m_body);
+        for (Label& label : PlacedTexts(beam)) {
+            label.box.moveBottomLeft(mapFromScene(label.box.bottomLeft()));
+            label.turn = label.turn.value_or(0.0) - rotation();
+            m_fixed.push_back(std::move(label));
+        }
     }
     update();
-}
-
-// At the ends above the beam, where the supports' bars are told. A short beam has them in its halves.
-Label OwnerItem::EndLabel(Field field, const std::string& text) const
-{
-    const QString drawn = QString::fromStdString(text);
-    constexpr double EmptyWidth = 900.0;
-    const double width = drawn.isEmpty() ? EmptyWidth : TextWidth(drawn);
-    const double inset = std::min(EndInset, std::max(0.0, m_length / 2.0 - width));
-    const double x = field == Field::LeftEnd ? -m_length / 2.0 + inset : m_length / 2.0 - inset - width;
-    return {field, drawn, QRectF(x, -m_width / 2.0 - TextGap - TextHeight, width, TextHeight)};
 }
 
 std::vector<QPointF> OwnerItem::BlockPositions() const
 {
     const QSizeF size = BlockSize();
-    const double above = -m_width / 2.0 - TextGap - TextHeight - LineStep - size.height();
-    const double below = m_width / 2.0 + TextGap;
+    const double length = m_body.length;
+    const double above = -m_body.width / 2.0 - BlockGap - TextHeight - LineStep - size.height();
+    const double below = m_body.width / 2.0 + BlockGap;
     std::vector<QPointF> positions;
     for (const double top : {below, above}) {
         for (const double part : {0.5, 0.35, 0.65, 0.2, 0.8, 0.1, 0.9, 0.42, 0.58, 0.28, 0.72}) {
-            positions.emplace_back(-m_length / 2.0 + m_length * part -
-                                       (m_length < 3.0 * size.width() ? size.width() / 2 : 0.0),
+            positions.emplace_back(-length / 2.0 + length * part -
+                                       (length < 3.0 * size.width() ? size.width() / 2 : 0.0),
                                    top);
         }
     }
@@ -116,7 +97,7 @@ void OwnerItem::SetBlock(const QPointF& corner)
 
 std::vector<Label> OwnerItem::AllLabels() const
 {
-    std::vector<Label> all = m_ends;
+    std::vector<Label> all = m_fixed;
     for (Label label : m_block) {
         label.box.translate(m_corner);
         all.push_back(std::move(label));
@@ -124,14 +105,12 @@ std::vector<Label> OwnerItem::AllLabels() const
     return all;
 }
 
-bool OwnerItem::IsReadable(double scale) { return scale * TextHeight >= ReadableHeight; }
-
-std::optional<Field> OwnerItem::FieldAt(const QPointF& local) const
+std::optional<FieldRef> OwnerItem::RefAt(const QPointF& local, double scale) const
 {
     for (const Label& label : AllLabels()) {
-        if (!label.text.isEmpty() &&
-            label.box.adjusted(-HitMargin, -HitMargin, HitMargin, HitMargin).contains(local)) {
-            return label.field;
+        if (!label.text.isEmpty() && IsReadable(label.box.height(), scale) &&
+            label.Outline().containsPoint(local, Qt::OddEvenFill)) {
+            return RefOf(label);
         }
     }
     return std::nullopt;
@@ -142,39 +121,42 @@ bool OwnerItem::IsOnBody(const QPointF& local, double reach) const
     return Body().adjusted(-reach, -reach, reach, reach).contains(local);
 }
 
-QRectF OwnerItem::BoxOf(Field field) const
+QPolygonF OwnerItem::BoxOf(const FieldRef& ref) const
 {
     for (const Label& label : AllLabels()) {
-        if (label.field == field) {
-            return label.box;
+        if (RefOf(label) == ref) {
+            return label.Turned().map(QPolygonF(label.box));
         }
     }
     return Body();
 }
 
-QRectF OwnerItem::Body() const { return {-m_length / 2.0, -m_width / 2.0, m_length, m_width}; }
+QRectF OwnerItem::Body() const
+{
+    return {-m_body.length / 2.0, -m_body.width / 2.0, m_body.length, m_body.width};
+}
 
-std::vector<QRectF> OwnerItem::EndBoxes() const
+std::vector<QRectF> OwnerItem::FixedBoxes() const
 {
     std::vector<QRectF> boxes;
-    for (const Label& label : m_ends) {
+    for (const Label& label : m_fixed) {
         if (!label.text.isEmpty()) {
-            boxes.push_back(label.box);
+            boxes.push_back(label.Turned().mapRect(label.box));
         }
     }
     return boxes;
 }
 
-void OwnerItem::SetLit(std::optional<Field> field)
+void OwnerItem::SetLit(const std::optional<FieldRef>& ref)
 {
-    m_lit = field;
-    setZValue(field ? 1.0 : 0.0);
+    m_lit = ref;
+    setZValue(ref ? 1.0 : 0.0);
     update();
 }
 
-void OwnerItem::SetHovered(std::optional<Field> field)
+void OwnerItem::SetHovered(const std::optional<FieldRef>& ref)
 {
-    m_hovered = field;
+    m_hovered = ref;
     update();
 }
 
@@ -182,23 +164,33 @@ void OwnerItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*optio
 {
     PaintBody(*painter);
     const double scale = QStyleOptionGraphicsItem::levelOfDetailFromTransform(painter->worldTransform());
-    if (IsReadable(scale)) {
-        PaintTexts(*painter);
+    if (!m_isDrawn && IsReadable(TextHeight, scale)) {
+        PaintLeader(*painter);
+    }
+    for (const Label& label : AllLabels()) {
+        if (IsReadable(label.box.height(), scale)) {
+            PaintText(*painter, label);
+        }
     }
 }
 
 void OwnerItem::PaintBody(QPainter& painter) const
 {
     const QRectF body = Body();
-    QPen pen(m_lit ? m_colors->chosen : m_isWall ? m_colors->wall : m_colors->beam, m_lit ? 2.0 : 1.0);
-    pen.setCosmetic(true);
-    painter.setPen(pen);
+    const QColor line = m_lit ? Colors().chosen : m_isWall ? Colors().wall : Colors().beam;
+    painter.setPen(LinePen(Colors(), line, m_lit ? 2.0 : 1.0));
     if (m_isWall) {
-        painter.fillRect(body, m_lit ? m_colors->chosen : m_colors->wall);
+        painter.fillRect(body, line);
+        return;
+    }
+    if (m_isDrawn) {
+        if (m_lit) {
+            painter.drawLine(QPointF(body.left(), 0.0), QPointF(body.right(), 0.0));
+        }
         return;
     }
     if (m_lit) {
-        QColor fill = m_colors->chosen;
+        QColor fill = Colors().chosen;
         fill.setAlpha(60);
         painter.fillRect(body, fill);
     }
@@ -208,37 +200,45 @@ void OwnerItem::PaintBody(QPainter& painter) const
     painter.drawLine(body.topRight(), body.bottomRight());
 }
 
-void OwnerItem::PaintTexts(QPainter& painter) const
+// From the beam along the left of the block's lines.
+void OwnerItem::PaintLeader(QPainter& painter) const
 {
-    // The leader: from the beam along the left of the block's lines.
     const QSizeF size = BlockSize();
-    if (!size.isEmpty()) {
-        QPen pen(m_lit ? m_colors->chosen : m_colors->beam, 1.0);
-        pen.setCosmetic(true);
-        painter.setPen(pen);
-        const double x = m_corner.x() - FieldLeader;
-        const double far = m_corner.y() > 0.0 ? m_corner.y() + size.height() : m_corner.y();
-        painter.drawLine(QPointF(x, 0.0), QPointF(x, far));
+    if (size.isEmpty()) {
+        return;
     }
+    painter.setPen(LinePen(Colors(), m_lit ? Colors().chosen : Colors().beam));
+    const double x = m_corner.x() - FieldLeader;
+    const double far = m_corner.y() > 0.0 ? m_corner.y() + size.height() : m_corner.y();
+    painter.drawLine(QPointF(x, 0.0), QPointF(x, far));
+}
+
+void OwnerItem::PaintText(QPainter& painter, const Label& label) const
+{
+    if (m_lit == RefOf(label)) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Colors().chosenText);
+        painter.drawPolygon(label.Outline());
+    } else if (m_hovered == RefOf(label)) {
+        painter.setPen(LinePen(Colors(), Colors().chosen));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPolygon(label.Outline());
+    }
+    if (label.turn) {
+        painter.setPen(Colors().text);
+        DrawPlaced(painter, label.box.bottomLeft(), *label.turn, label.box.height(), label.text);
+        return;
+    }
+    const bool end = label.field == Field::LeftEnd || label.field == Field::RightEnd;
+    painter.setPen(end && !m_isDrawn ? Colors().endText : Colors().text);
     painter.setFont(PlanFont());
-    for (const Label& label : AllLabels()) {
-        const bool lit = m_lit == label.field;
-        if (lit) {
-            painter.fillRect(label.box.adjusted(-HitMargin, -HitMargin, HitMargin, HitMargin),
-                             m_colors->chosenText);
-        } else if (m_hovered == label.field) {
-            QPen pen(m_colors->chosen, 1.0);
-            pen.setCosmetic(true);
-            painter.setPen(pen);
-            painter.setBrush(Qt::NoBrush);
-            painter.drawRect(label.box.adjusted(-HitMargin, -HitMargin, HitMargin, HitMargin));
-        }
-        const bool end = label.field == Field::LeftEnd || label.field == Field::RightEnd;
-        painter.setPen(end ? m_colors->endText : m_colors->text);
-        painter.drawText(QRectF(label.box.left(), label.box.top() - TextHeight,
-                                label.box.width() + TextHeight, 3.0 * TextHeight),
-                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, label.text);
-    }
+    const double unit = label.box.height() / TextHeight;
+    const QTransform before = painter.transform();
+    painter.translate(label.box.topLeft());
+    painter.scale(unit, unit);
+    painter.drawText(QRectF(0, -TextHeight, label.box.width() / unit + TextHeight, 3.0 * TextHeight),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, label.text);
+    painter.setTransform(before);
 }
 
 }  // namespace Desk

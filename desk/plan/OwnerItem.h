@@ -7,23 +7,10 @@
 
 namespace Desk {
 
-struct PlanColors {
-    QColor ground;
-    QColor axis;
-    QColor beam;
-    QColor wall;
-    QColor text;
-    QColor endText;
-    QColor chosen;      // of the lit beam
-    QColor chosenText;  // ground of the lit text
-};
-
-[[nodiscard]] const PlanColors& ColorsFor(bool dark);
-
 // Local coordinates: mm, x along the beam in reading direction, 0 in its middle, y down the sheet.
-class OwnerItem : public QGraphicsItem {
+class OwnerItem : public PlanItem {
 public:
-    // Type of the item, by which the view tells it from the axes.
+    // Type of the item, by which the view tells it from the others.
     enum { Type = UserType + 1 };
 
     OwnerItem(const Project& project, bool isWall, std::size_t index);
@@ -32,7 +19,7 @@ public:
     [[nodiscard]] QRectF boundingRect() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
-    // The texts have changed; their positions stay.
+    // The texts have changed; the block's position stays.
     void TakeTexts(const Project& project);
 
     // Positions of the block's upper left corner beside the beam, the best first.
@@ -40,37 +27,38 @@ public:
     [[nodiscard]] QSizeF BlockSize() const { return SizeOf(m_block); }
     void SetBlock(const QPointF& corner);
 
-    // Texts are drawn, and found, from a height on that can be read; the scale is pixels a mm.
-    [[nodiscard]] static bool IsReadable(double scale);
-    [[nodiscard]] std::optional<Field> FieldAt(const QPointF& local) const;
+    [[nodiscard]] std::optional<FieldRef> RefAt(const QPointF& local, double scale) const;
     [[nodiscard]] bool IsOnBody(const QPointF& local, double reach) const;
-    // The rectangle of a field's text, drawn or not.
-    [[nodiscard]] QRectF BoxOf(Field field) const;
+    // Around an annotation's text, drawn or not.
+    [[nodiscard]] QPolygonF BoxOf(const FieldRef& ref) const;
     [[nodiscard]] QRectF Body() const;
-    // Rectangles of the texts at the ends.
-    [[nodiscard]] std::vector<QRectF> EndBoxes() const;
+    // Rectangles of the texts that are not in the block.
+    [[nodiscard]] std::vector<QRectF> FixedBoxes() const;
 
-    [[nodiscard]] FieldRef RefOf(Field field) const { return {m_isWall, m_index, field}; }
-    void SetColors(const PlanColors* colors) { m_colors = colors; }
-    void SetLit(std::optional<Field> field);
-    void SetHovered(std::optional<Field> field);
+    [[nodiscard]] FieldRef NameRef() const { return {m_isWall, m_index, Field::Name}; }
+    // Each an annotation of this beam or wall, or nothing.
+    void SetLit(const std::optional<FieldRef>& ref);
+    void SetHovered(const std::optional<FieldRef>& ref);
 
 private:
-    [[nodiscard]] Label EndLabel(Field field, const std::string& text) const;
+    [[nodiscard]] FieldRef RefOf(const Label& label) const
+    {
+        return {m_isWall, m_index, label.field, label.inPlace};
+    }
     [[nodiscard]] std::vector<Label> AllLabels() const;
     void PaintBody(QPainter& painter) const;
-    void PaintTexts(QPainter& painter) const;
+    void PaintLeader(QPainter& painter) const;
+    void PaintText(QPainter& painter, const Label& label) const;
 
     bool m_isWall;
+    bool m_isDrawn = false;  // its outline and its leader are among the drawing's own lines
     std::size_t m_index;
-    double m_length = 0.0;  // mm
-    double m_width = 0.0;
+    BeamBody m_body;
     QPointF m_corner;  // of the block
     std::vector<Label> m_block;
-    std::vector<Label> m_ends;  // in local coordinates
-    std::optional<Field> m_lit;
-    std::optional<Field> m_hovered;
-    const PlanColors* m_colors = nullptr;
+    std::vector<Label> m_fixed;  // in local coordinates
+    std::optional<FieldRef> m_lit;
+    std::optional<FieldRef> m_hovered;
 };
 
 }  // namespace Desk

@@ -7,10 +7,10 @@ namespace Desk {
 
 namespace {
 
-constexpr double LeastScale = 1e-4;  // pixels a mm
-constexpr double MostScale = 0.5;
-constexpr double WheelStep = 1.2;  // a notch of the wheel
-constexpr int KeySteps = 8;        // strokes of an arrow key across the view
+constexpr double LeastPart = 0.005;  // of the scale that shows all
+constexpr double MostTimes = 10.0;   // the scale that texts are read best at
+constexpr double WheelStep = 1.2;    // a notch of the wheel
+constexpr int KeySteps = 8;          // strokes of an arrow key across the view
 
 }  // namespace
 
@@ -26,21 +26,30 @@ PanView::PanView(QWidget* parent) : QGraphicsView(parent)
     setFocusPolicy(Qt::StrongFocus);
 }
 
+void PanView::SetContent(const QRectF& content, double readingScale)
+{
+    m_content = content.isEmpty() ? QRectF(-1000, -1000, 2000, 2000) : content;
+    m_readingScale = readingScale;
+}
+
 void PanView::Fit()
 {
-    QRectF all = scene()->itemsBoundingRect();
-    if (all.isEmpty()) {
-        all = QRectF(-1000, -1000, 2000, 2000);
-    }
-    fitInView(all, Qt::KeepAspectRatio);
+    fitInView(m_content, Qt::KeepAspectRatio);
     m_isFitted = true;
+}
+
+double PanView::FittingScale() const
+{
+    return std::min(viewport()->width() / m_content.width(), viewport()->height() / m_content.height());
 }
 
 void PanView::ZoomAbout(const QPoint& inView, double factor)
 {
     const QPointF before = mapToScene(inView);
     const double now = transform().m11();
-    const double by = std::clamp(now * factor, LeastScale, MostScale) / now;
+    const double least = LeastPart * FittingScale();
+    const double most = std::max(MostTimes * m_readingScale, FittingScale());
+    const double by = std::clamp(now * factor, std::min(least, now), std::max(most, now)) / now;
     scale(by, by);
     PanBy(inView - mapFromScene(before));
 }

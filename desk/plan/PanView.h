@@ -11,13 +11,15 @@ class PanView : public QGraphicsView {
 public:
     explicit PanView(QWidget* parent = nullptr);
 
-    // Shows the whole scene, and goes on doing so when the size changes, until it is zoomed or moved.
+    // Shows the whole content, and goes on doing so when the size changes, until it is zoomed or moved.
     void Fit();
 
 signals:
     void NothingPicked();  // a press without a drag where a derived view leaves presses to this one
 
 protected:
+    // What Fit shows, on the sheet, and the scale that texts are read best at, in pixels a mm.
+    void SetContent(const QRectF& content, double readingScale);
     // What is at a point of the view stays there.
     void ZoomAbout(const QPoint& inView, double factor);
     void PanBy(const QPoint& pixels);
@@ -33,6 +35,10 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    [[nodiscard]] double FittingScale() const;
+
+    QRectF m_content{-1000, -1000, 2000, 2000};
+    double m_readingScale = 0.05;
     bool m_isFitted = true;
     bool m_isPanning = false;
     bool m_mayPan = false;

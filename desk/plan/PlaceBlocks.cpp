@@ -95,13 +95,16 @@ int PlaceBlocks(const std::vector<OwnerItem*>& items)
     Ground ground;
     for (const OwnerItem* const item : items) {
         OccupyBody(ground, *item);
-        for (const QRectF& box : item->EndBoxes()) {
+        for (const QRectF& box : item->FixedBoxes()) {
             ground.Occupy(item->mapRectToScene(box), OnText);
         }
     }
     int covering = 0;
     for (OwnerItem* const item : items) {
         const QSizeF size = item->BlockSize();
+        if (size.isEmpty()) {
+            continue;
+        }
         double least = std::numeric_limits<double>::max();
         QPointF best;
         QRectF bestRect;

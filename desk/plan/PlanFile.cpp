@@ -1,0 +1,124 @@
+#include "desk/plan/PlanFile.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include <QtSvg/QSvgGenerator>
+
+#include "desk/plan/FloorItems.h"
+#include "desk/project/Failure.h"
+#include "desk/project/SafeFile.h"
+
+namespace Desk {
+
+namespace {
+
+constexpr double Margin = 10.0;       // mm of paper on each side
+constexpr double LineWidth = 0.18;    // mm of paper
+constexpr double MostPaper = 5000.0;  // mm; readers of PDF files take 5080
+constexpr int DotsAMm = 50;
+constexpr int Resolution = 1270;  // the same in dots an inch
+
+// The toolkit draws only with an application, which a command of the console has none of.
+class WithApplication {
+public:
+    WithApplication()
+    {
+        if (QCoreApplication::instance() == nullptr) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+            QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+            m_made.emplace(m_count, m_arguments);
+        }
+    }
+
+private:
+    int m_count = 1;
+    char m_name[9] = "beamdesk";
+    char* m_arguments[2] = {m_name, nullptr};
+    std::optional<QApplication> m_made;
+};
+
+QSizeF PaperFor(const QSizeF& plan)
+{
+    const QSizeF needed = plan + QSizeF(2 * Margin, 2 * Margin);
+    for (const QPageSize::PageSizeId id :
+         {QPageSize::A4, QPageSize::A3, QPageSize::A2, QPageSize::A1, QPageSize::A0}) {
+        const QSizeF paper = QPageSize(id).size(QPageSize::Millimeter).transposed();
+        if (needed.width() <= paper.width() && needed.height() <= paper.height()) {
+            return paper;
+        }
+    }
+    return needed;
+}
+
+void Paint(QPaintDevice& device, QGraphicsScene& scene, const QRectF& shown, const QSizeF& paper,
+           double scale)
+{
+    QPainter painter(&device);
+    const QSizeF size = shown.size() / scale * DotsAMm;
+    const QPointF middle(paper.width() / 2.0 * DotsAMm, paper.height() / 2.0 * DotsAMm);
+    scene.render(&painter, QRectF(middle - QPointF(size.width() / 2.0, size.height() / 2.0), size), shown);
+}
+
+QByteArray AsPdf(QGraphicsScene& scene, const QRectF& shown, const QSizeF& paper, double scale,
+                 const QString& title)
+{
+    QBuffer made;
+    made.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&made);
+    writer.setResolution(Resolution);
+    writer.setTitle(title);
+    writer.setPageSize(QPageSize(paper, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
+    writer.setPageMargins(QMarginsF(0, 0, 0, 0));
+    Paint(writer, scene, shown, paper, scale);
+    return made.data();
+}
+
+QByteArray AsSvg(QGraphicsScene& scene, const QRectF& shown, const QSizeF& paper, double scale,
+                 const QString& title)
+{
+    QBuffer made;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&made);
+    generator.setResolution(Resolution);
+    generator.setTitle(title);
+    const QSize size = (paper * DotsAMm).toSize();
+    generator.setSize(size);
+    generator.setViewBox(QRect(QPoint(0, 0), size));
+    Paint(generator, scene, shown, paper, scale);
+    return made.data();
+}
+
+}  // namespace
+
+void WritePlan(const Project& project, const Backdrop* behind, const std::filesystem::path& file,
+               double scale)
+{
+    const QString ending = QString::fromStdString(file.extension().string()).toLower();
+    const bool pdf = ending == QLatin1String(".pdf");
+    if (!pdf && ending != QLatin1String(".svg")) {
+        throw Failure(file.string() + ": a plan is written as .pdf or .svg");
+    }
+    if (!(scale > 0.0) || !std::isfinite(scale)) {
+        throw Failure("a plan's scale is a number above 0");
+    }
+    const WithApplication application;
+    PlanColors colors = ColorsFor(false);
+    colors.lineWidth = LineWidth * scale;
+    QGraphicsScene scene;
+    scene.setItemIndexMethod(QGraphicsScene::NoIndex);  // everything is drawn once
+    const QRectF shown = AddFloor(scene, project, behind, colors).shown;
+    const QSizeF paper = PaperFor(shown.size() / scale);
+    if (const double most = std::max(paper.width(), paper.height()); most > MostPaper) {
+        throw Failure("at 1:" + QString::number(scale).toStdString() + " the plan would be " +
+                      QString::number(most / 1000.0, 'f', 1).toStdString() +
+                      " m long, and 5 m are the most; a larger scale number makes it smaller");
+    }
+    const QString title = QString::fromStdString(project.title);
+    const QByteArray bytes =
+        pdf ? AsPdf(scene, shown, paper, scale, title) : AsSvg(scene, shown, paper, scale, title);
+    ReplaceFile(file, bytes.toStdString());
+}
+
+}  // namespace Desk

@@ -1,0 +1,18 @@
+// A plan as a PDF or SVG file.
+#pragma once
+
+#include <filesystem>
+
+#include "desk/project/Backdrop.h"
+
+namespace Desk {
+
+// Draws a project, and what a drawing shows behind it, at 1:scale on the smallest paper from A4 to A0,
+// lying, that it fits on, or else on one of its own size. Lines and texts stay such. The name's ending,
+// .pdf or .svg, says which. Needs no display: without an application it makes one for itself. Throws
+// Failure when the plan is too large for a paper, and when the file cannot be written; an old file is left
+// then.
+void WritePlan(const Project& project, const Backdrop* behind, const std::filesystem::path& file,
+               double scale = 100.0);
+
+}  // namespace Desk
