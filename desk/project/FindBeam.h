@@ -8,7 +8,8 @@
 
 namespace Desk {
 
-// A beam by its full name, or by its name without the span suffix. The first one when several have it.
+// A beam by its full name, or by its name without the span suffix. The first one when several have it,
+// or the one that is written out where the first has its name alone.
 // Throws Failure that names beams like it when there is none.
 [[nodiscard]] const Beam& FindBeam(const Project& project, const std::string& name);
 
