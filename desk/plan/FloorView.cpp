@@ -105,6 +105,9 @@ void FloorView::SetMarks(std::vector<PlanText> marks)
         m_marks->SetColors(&ColorsFor(m_isDark));
         m_all.push_back(m_marks);
         scene()->addItem(m_marks);
+        if (const QRectF around = m_marks->sceneBoundingRect(); !sceneRect().contains(around)) {
+            scene()->setSceneRect(sceneRect() | around);
+        }
     }
 }
 

@@ -42,7 +42,8 @@ OwnerItem::OwnerItem(const Project& project, bool isWall, std::size_t index)
 
 QRectF OwnerItem::boundingRect() const
 {
-    QRectF all = Body().adjusted(0, -LeaderReach, 0, LeaderReach);
+    const double reach = m_isDrawn ? m_body.width : LeaderReach;
+    QRectF all = Body().adjusted(0, -reach, 0, reach);
     for (const Label& label : AllLabels()) {
         all |= label.Outline().boundingRect();
     }
@@ -61,6 +62,9 @@ void OwnerItem::TakeTexts(const Project& project)
         const int width = WidthOf(beam.section);
         m_body.width = width > 0 ? width : DefaultWidth;
         m_isDrawn = !beam.places.empty();
+        if (m_isDrawn) {  // in units of its own, perhaps
+            m_body.width = std::min(m_body.width, 1.5 * HeightOf(beam));
+        }
         m_block = BlockOf(beam);
         m_fixed = TextsBeside(beam, m_body);
         for (Label& label : PlacedTexts(beam)) {
