@@ -39,14 +39,14 @@ constexpr FieldRow Rows[] = {
 };
 
 constexpr RoleRow Roles[] = {
-    {Role::TopSupport, "topSupport", Field::LeftEnd, "Top bars at a support", "支座上部筋"},
-    {Role::TopSpan, "topSpan", Field::TopBars, "Top bars along a span", "跨中上部筋"},
-    {Role::Bottom, "bottom", Field::BottomBars, "Bottom bars of a span", "跨下部筋"},
-    {Role::Stirrup, "stirrup", Field::Stirrup, "Stirrups of a span", "跨箍筋"},
-    {Role::Side, "side", Field::Side, "Side bars of a span", "跨侧面构造筋"},
-    {Role::Torsion, "torsion", Field::Torsion, "Torsion bars of a span", "跨受扭纵筋"},
-    {Role::Section, "section", Field::Section, "Section of a span", "跨截面"},
-    {Role::Elevation, "elevation", Field::Elevation, "Elevation of a span", "跨标高"},
+    {Role::TopSupport, "topSupport", Field::LeftEnd, "Top bars at support %1", "第%1支座上部筋"},
+    {Role::TopSpan, "topSpan", Field::TopBars, "Top bars along span %1", "第%1跨上部筋"},
+    {Role::Bottom, "bottom", Field::BottomBars, "Bottom bars of span %1", "第%1跨下部筋"},
+    {Role::Stirrup, "stirrup", Field::Stirrup, "Stirrups of span %1", "第%1跨箍筋"},
+    {Role::Side, "side", Field::Side, "Side bars of span %1", "第%1跨侧面构造筋"},
+    {Role::Torsion, "torsion", Field::Torsion, "Torsion bars of span %1", "第%1跨受扭纵筋"},
+    {Role::Section, "section", Field::Section, "Section of span %1", "第%1跨截面"},
+    {Role::Elevation, "elevation", Field::Elevation, "Elevation of span %1", "第%1跨标高"},
 };
 // clang-format on
 
@@ -95,6 +95,30 @@ std::vector<FieldRef> RefsOf(const Project& project, const FieldRef& owner)
         }
     }
     return refs;
+}
+
+Field FieldAt(const Beam& beam, const InPlace& text)
+{
+    const bool isLast = text.role == Role::TopSupport && !beam.spans.empty() &&
+                        text.number == static_cast<int>(beam.spans.size()) + 1;
+    return isLast ? Field::RightEnd : RowOf(text.role).field;
+}
+
+Beam BeamAt(const Beam& beam, const InPlace& text)
+{
+    Beam at = beam;
+    const Field field = FieldAt(beam, text);
+    const int span = field == Field::RightEnd ? text.number - 1 : text.number;
+    for (const InPlace& other : beam.inPlace) {
+        if (other.role != Role::TopSupport && other.number == span && !other.text.empty()) {
+            at.*RowOf(RowOf(other.role).field).ofBeam = other.text;
+        }
+    }
+    at.*RowOf(field).ofBeam = text.text;
+    if (field == Field::LeftEnd && text.number > 1) {
+        at.area.leftEnd = 0;
+    }
+    return at;
 }
 
 std::string_view HeadOf(std::string_view text, std::string_view heads)

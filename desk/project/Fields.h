@@ -71,7 +71,7 @@ struct RoleRow {
     Role role;
     const char* key;  // in a project file
     Field field;
-    const char* english;
+    const char* english;  // with %1 for the number of the support or span
     const char* chinese;
 };
 
@@ -79,6 +79,13 @@ struct RoleRow {
 [[nodiscard]] std::span<const RoleRow> AllRoles();
 [[nodiscard]] std::span<const Field> BeamFields();
 [[nodiscard]] std::span<const Field> WallFields();
+
+// The field that a text in place of a beam is instead of: its role's, at the last support the right end.
+[[nodiscard]] Field FieldAt(const Beam& beam, const InPlace& text);
+// The beam as it is at a text in place: the texts in place along its span instead of the beam's own, for a
+// support along the span after it, and the text itself. Between spans no area of end bars is known: it is
+// 0.
+[[nodiscard]] Beam BeamAt(const Beam& beam, const InPlace& text);
 
 // "G" of "G4B12" where heads has it, else empty.
 [[nodiscard]] std::string_view HeadOf(std::string_view text, std::string_view heads = "GN*");

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "desk/project/Failure.h"
+#include "desk/project/Fields.h"
 
 namespace Desk {
 
@@ -31,6 +32,13 @@ std::string NamesLike(const Project& project, const std::string& name)
     return names;
 }
 
+std::ptrdiff_t TextsBesideName(const Beam& beam)
+{
+    return std::count_if(BeamFields().begin(), BeamFields().end(), [&beam](Field field) {
+        return field != Field::Name && !(beam.*RowOf(field).ofBeam).empty();
+    });
+}
+
 }  // namespace
 
 const Beam& FindBeam(const Project& project, const std::string& name)
@@ -46,6 +54,26 @@ const Beam& FindBeam(const Project& project, const std::string& name)
     const std::string names = NamesLike(project, name);
     throw Failure("no beam " + name + " in the project; " +
                   (names.empty() ? "it has no beams with a name" : "it has " + names));
+}
+
+std::size_t WrittenOut(const Project& project, std::size_t beam)
+{
+    const std::string& name = project.beams.at(beam).name;
+    std::size_t best = beam;
+    std::ptrdiff_t most = TextsBesideName(project.beams[beam]);
+    if (most > 0 || name.empty()) {
+        return beam;
+    }
+    for (std::size_t i = 0; i < project.beams.size(); ++i) {
+        if (project.beams[i].name != name) {
+            continue;
+        }
+        if (const std::ptrdiff_t count = TextsBesideName(project.beams[i]); count > most) {
+            best = i;
+            most = count;
+        }
+    }
+    return best;
 }
 
 }  // namespace Desk

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cmath>
-#include <optional>
 
 #include "desk/project/Fields.h"
 #include "desk/project/JsonText.h"
@@ -10,7 +9,8 @@
 namespace Desk {
 
 inline constexpr int FormatVersion = 1;
-inline constexpr double PlanLimit = 1e9;  // mm, a thousand kilometres
+inline constexpr int PlanLimit = 1'000'000'000;  // mm, a thousand kilometres
+inline constexpr int MaxSpans = 200;             // of a beam
 
 struct FileObject {
     Json json = Json::object();
@@ -23,55 +23,80 @@ struct TextField {
     std::string Owner::*member;
 };
 
-template <class Owner>
-struct NumberField {
+// A whole number, a number or a position with the range of its numbers.
+template <class Owner, class Value>
+struct DataField {
     const char* key;
-    int Owner::*member;
+    Value Owner::*member;
     int least;
     int most;
 };
 
-template <class Owner>
-struct PointField {
-    const char* key;
-    PlanPoint Owner::*member;
-};
-
 inline constexpr TextField<Project> ProjectTexts[] = {{"title", &Project::title}};
 inline constexpr TextField<Beam> BeamTexts[] = {{"floor", &Beam::floor}};
-inline constexpr NumberField<Beam> BeamNumbers[] = {
+inline constexpr DataField<Beam, int> BeamNumbers[] = {
     {"concreteGrade", &Beam::concreteGrade, 10, 100},
     {"seismicClass", &Beam::seismicClass, 1, 4},
 };
-inline constexpr NumberField<SteelArea> AreaNumbers[] = {
+inline constexpr DataField<SteelArea, int> AreaNumbers[] = {
     {"top", &SteelArea::top, 0, 1'000'000},
     {"bottom", &SteelArea::bottom, 0, 1'000'000},
     {"leftEnd", &SteelArea::leftEnd, 0, 1'000'000},
     {"rightEnd", &SteelArea::rightEnd, 0, 1'000'000},
 };
-inline constexpr PointField<Beam> BeamPoints[] = {{"start", &Beam::start}, {"end", &Beam::end}};
+inline constexpr DataField<Beam, PlanPoint> BeamPoints[] = {
+    {"start", &Beam::start, -PlanLimit, PlanLimit},
+    {"end", &Beam::end, -PlanLimit, PlanLimit},
+};
+inline constexpr DataField<TextPlace, PlanPoint> PlacePoints[] = {
+    {"at", &TextPlace::at, -PlanLimit, PlanLimit}};
+inline constexpr DataField<TextPlace, double> PlaceNumbers[] = {
+    {"angle", &TextPlace::angle, -PlanLimit, PlanLimit},
+    {"height", &TextPlace::height, 0, PlanLimit},
+};
 
-inline constexpr NumberField<Wall> WallNumbers[] = {{"thickness", &Wall::thickness, 0, 10'000}};
-inline constexpr PointField<Wall> WallPoints[] = {{"start", &Wall::start}, {"end", &Wall::end}};
+inline constexpr DataField<Wall, int> WallNumbers[] = {{"thickness", &Wall::thickness, 0, 10'000}};
+inline constexpr DataField<Wall, PlanPoint> WallPoints[] = {
+    {"start", &Wall::start, -PlanLimit, PlanLimit},
+    {"end", &Wall::end, -PlanLimit, PlanLimit},
+};
 
-// A whole number however it is written, 300.0 too; nothing for anything else.
-[[nodiscard]] inline std::optional<int> WholeNumber(const Json& value)
+// The number of a text in place: of a support, of which a beam has one more than spans, or of a span.
+[[nodiscard]] constexpr DataField<InPlace, int> NumberOf(Role role)
 {
-    double number = 0.0;
-    if (!JsonNumber(value, number) || std::trunc(number) != number || std::abs(number) > 1e9) {
-        return std::nullopt;
-    }
-    return static_cast<int>(number);
+    return role == Role::TopSupport ? DataField<InPlace, int>{"support", &InPlace::number, 1, MaxSpans + 1}
+                                    : DataField<InPlace, int>{"span", &InPlace::number, 1, MaxSpans};
 }
 
-// The two coordinates of a position; nothing for anything else.
-[[nodiscard]] inline std::optional<PlanPoint> Point(const Json& value)
+// Takes a value of a field's kind whose numbers are in the range; false, and nothing taken, for anything
+// else. A whole number may be written as 300.0.
+[[nodiscard]] inline bool TakeValue(const Json& value, int least, int most, double& to)
+{
+    double number = 0.0;
+    if (!JsonNumber(value, number) || !(number >= least && number <= most)) {
+        return false;
+    }
+    to = number;
+    return true;
+}
+[[nodiscard]] inline bool TakeValue(const Json& value, int least, int most, int& to)
+{
+    double number = 0.0;
+    if (!TakeValue(value, least, most, number) || std::trunc(number) != number) {
+        return false;
+    }
+    to = static_cast<int>(number);
+    return true;
+}
+[[nodiscard]] inline bool TakeValue(const Json& value, int least, int most, PlanPoint& to)
 {
     PlanPoint point;
-    const bool good = value.is_array() && value.size() == 2 && JsonNumber(value[0], point.x) &&
-                      JsonNumber(value[1], point.y) && std::abs(point.x) <= PlanLimit &&
-                      std::abs(point.y) <= PlanLimit;
-    return good ? std::optional(point) : std::nullopt;
+    if (!value.is_array() || value.size() != 2 || !TakeValue(value[0], least, most, point.x) ||
+        !TakeValue(value[1], least, most, point.y)) {
+        return false;
+    }
+    to = point;
+    return true;
 }
 
 // Where the table of fields keeps an annotation of a beam or a wall.

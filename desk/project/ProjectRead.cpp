@@ -42,10 +42,11 @@ public:
         RequireObject(source, root, Phrase("Desk", "a project"));
         ReadVersion(source);
         ReadTexts(source, root, ProjectTexts, project);
-        ReadList(source, "beams", project.beams);
-        ReadList(source, "walls", project.walls);
+        ReadList(source, root, "beams", project.beams);
+        ReadList(source, root, "walls", project.walls);
         project.axesAcross = ReadAxes(source, "x");
         project.axesUp = ReadAxes(source, "y");
+        ReadPointed(source, project.pointed);
         project.inFile = Keep(std::move(source));
         return project;
     }
@@ -79,22 +80,23 @@ private:
             FailAt(Path(),
                    Phrase("Desk", "no \"version\" of the file format; this program reads version 1"));
         }
-        const std::optional<int> number = WholeNumber(*version);
+        int number = 0;
+        const bool isNumber = TakeValue(*version, -PlanLimit, PlanLimit, number);
         if (number != FormatVersion) {
             FailAt(Path() / "version",
                    {Phrase("Desk", "this program reads \"version\" 1 of the file format, not %1"),
-                    number ? Message(std::to_string(*number)) : Kind(*version)});
+                    isNumber ? Message(std::to_string(number)) : Kind(*version)});
         }
     }
 
     template <class Item>
-    void ReadList(Json& source, const char* key, std::vector<Item>& items) const
+    void ReadList(Json& source, const Path& owner, const char* key, std::vector<Item>& items) const
     {
         const auto list = source.find(key);
         if (list == source.end()) {
             return;
         }
-        const Path path = Path() / key;
+        const Path path = owner / key;
         if (!list->is_array()) {
             FailType(path, Phrase("Desk", "a list"), *list);
         }
@@ -168,53 +170,103 @@ private:
         return text;
     }
 
-    template <class Owner, std::size_t Count>
-    void ReadNumbers(const Json& source, const Path& path, const NumberField<Owner> (&fields)[Count],
-                     Owner& owner) const
+    static Message Wanted(int /*value*/, const char* key, int least, int most)
     {
-        for (const NumberField<Owner>& field : fields) {
-            const Json* const value = Member(source, field.key);
-            if (value == nullptr) {
-                continue;
-            }
-            double number = 0.0;
-            if (!JsonNumber(*value, number)) {
-                FailType(path / field.key, Phrase("Desk", "a whole number"), *value);
-            }
-            const std::optional<int> whole = WholeNumber(*value);
-            if (!whole || *whole < field.least || *whole > field.most) {
-                FailAt(path / field.key,
-                       {Phrase("Desk", "\"%1\" must be a whole number from %2 to %3"), field.key,
-                        std::to_string(field.least), std::to_string(field.most)});
-            }
-            owner.*field.member = *whole;
+        return {Phrase("Desk", "\"%1\" must be a whole number from %2 to %3"), key, std::to_string(least),
+                std::to_string(most)};
+    }
+    static Message Wanted(double /*value*/, const char* key, int least, int most)
+    {
+        return {Phrase("Desk", "\"%1\" must be a number from %2 to %3"), key, std::to_string(least),
+                std::to_string(most)};
+    }
+    static Message Wanted(const PlanPoint& /*value*/, const char* key, int /*least*/, int most)
+    {
+        return {Phrase("Desk", "\"%1\" must be two coordinates in mm up to %2, as in [0, 8400]"), key,
+                std::to_string(most)};
+    }
+
+    template <class Owner, class Value>
+    void ReadValue(const Json& value, const Path& path, const DataField<Owner, Value>& field,
+                   Owner& owner) const
+    {
+        if (!TakeValue(value, field.least, field.most, owner.*field.member)) {
+            FailAt(path, Wanted(Value(), field.key, field.least, field.most));
         }
     }
 
-    template <class Owner, std::size_t Count>
-    void ReadPoints(const Json& source, const Path& path, const PointField<Owner> (&fields)[Count],
-                    Owner& owner) const
+    template <class Owner, class Value, std::size_t Count>
+    void ReadData(const Json& source, const Path& path, const DataField<Owner, Value> (&fields)[Count],
+                  Owner& owner) const
     {
-        for (const PointField<Owner>& field : fields) {
-            const Json* const value = Member(source, field.key);
-            if (value == nullptr) {
-                continue;
+        for (const DataField<Owner, Value>& field : fields) {
+            if (const Json* const value = Member(source, field.key)) {
+                ReadValue(*value, path / field.key, field, owner);
             }
-            const std::optional<PlanPoint> point = Point(*value);
-            if (!point) {
-                FailAt(path / field.key, {Phrase("Desk", "\"%1\" must be two coordinates in mm up to "
-                                                         "1000000000, as in [0, 8400]"),
-                                          field.key});
-            }
-            owner.*field.member = *point;
         }
     }
+
+    void ReadSpans(const Json& source, const Path& path, std::vector<double>& spans) const
+    {
+        const Json* const list = Member(source, "spans");
+        if (list == nullptr) {
+            return;
+        }
+        if (!list->is_array() || list->size() > MaxSpans) {
+            FailAt(path / "spans", {Phrase("Desk", "\"%1\" must be a list of at most %2 lengths in mm"),
+                                    "spans", std::to_string(MaxSpans)});
+        }
+        for (std::size_t i = 0; i < list->size(); ++i) {
+            double length = 0.0;
+            if (!TakeValue((*list)[i], 0, PlanLimit, length) || length <= 0.0) {
+                FailAt(path / "spans" / i, {Phrase("Desk", "the length of a span must be more than 0 mm "
+                                                           "and at most %1"),
+                                            std::to_string(PlanLimit)});
+            }
+            spans.push_back(length);
+        }
+    }
+
+    void ReadPointed(const Json& source, std::map<std::string, PlanPoint>& pointed) const
+    {
+        const Json* const all = Member(source, "pointed");
+        if (all == nullptr) {
+            return;
+        }
+        const Path path = Path() / "pointed";
+        RequireObject(*all, path, {Phrase("Desk", "\"%1\""), "pointed"});
+        for (const auto& [handle, at] : all->items()) {
+            if (!TakeValue(at, -PlanLimit, PlanLimit, pointed[handle])) {
+                FailAt(path / handle, Wanted(PlanPoint(), handle.c_str(), -PlanLimit, PlanLimit));
+            }
+        }
+    }
+
+    Role ReadRole(const Json& source, const Path& path) const
+    {
+        const Json* const value = Member(source, "role");
+        const auto isNamed = [&](const RoleRow& row) { return *value == row.key; };
+        if (value == nullptr) {
+            FailAt(path, {Phrase("Desk", "%1 without a \"%2\""), TextInPlace(), "role"});
+        }
+        const auto found = std::find_if(AllRoles().begin(), AllRoles().end(), isNamed);
+        if (found == AllRoles().end()) {
+            std::string keys;
+            for (const RoleRow& row : AllRoles()) {
+                keys.append(keys.empty() ? "" : ", ").append(row.key);
+            }
+            FailAt(path / "role", {Phrase("Desk", "\"%1\" must be one of %2"), "role", keys});
+        }
+        return found->role;
+    }
+
+    static Message TextInPlace() { return Phrase("Desk", "a text in place"); }
 
     void RequireName(const Json& source, const Path& path, const Message& what) const
     {
         RequireObject(source, path, what);
         if (Member(source, "name") == nullptr) {
-            FailAt(path, {Phrase("Desk", "%1 without a \"name\""), what});
+            FailAt(path, {Phrase("Desk", "%1 without a \"%2\""), what, "name"});
         }
     }
 
@@ -223,18 +275,41 @@ private:
 };
 
 template <>
+InPlace Reader::ReadItem(Json&& source, const Path& path) const
+{
+    InPlace text;
+    RequireObject(source, path, TextInPlace());
+    text.role = ReadRole(source, path);
+    const DataField<InPlace, int> number = NumberOf(text.role);
+    const Json* const value = Member(source, number.key);
+    if (value == nullptr) {
+        FailAt(path, {Phrase("Desk", "%1 without a \"%2\""), TextInPlace(), number.key});
+    }
+    ReadValue(*value, path / number.key, number, text);
+    if (const Json* const written = Member(source, "text")) {
+        text.text = ReadText(*written, path / "text", true);
+    }
+    ReadData(source, path, PlacePoints, text.place);
+    ReadData(source, path, PlaceNumbers, text.place);
+    text.inFile = Keep(std::move(source));
+    return text;
+}
+
+template <>
 Beam Reader::ReadItem(Json&& source, const Path& path) const
 {
     Beam beam;
     RequireName(source, path, Phrase("Desk", "a beam"));
     ReadAnnotations(source, path, beam);
     ReadTexts(source, path, BeamTexts, beam);
-    ReadNumbers(source, path, BeamNumbers, beam);
+    ReadData(source, path, BeamNumbers, beam);
     if (const Json* const area = Member(source, "area")) {
         RequireObject(*area, path / "area", {Phrase("Desk", "\"%1\""), "area"});
-        ReadNumbers(*area, path / "area", AreaNumbers, beam.area);
+        ReadData(*area, path / "area", AreaNumbers, beam.area);
     }
-    ReadPoints(source, path, BeamPoints, beam);
+    ReadData(source, path, BeamPoints, beam);
+    ReadSpans(source, path, beam.spans);
+    ReadList(source, path, "inPlace", beam.inPlace);
     beam.inFile = Keep(std::move(source));
     return beam;
 }
@@ -245,8 +320,8 @@ Wall Reader::ReadItem(Json&& source, const Path& path) const
     Wall wall;
     RequireName(source, path, Phrase("Desk", "a wall"));
     ReadAnnotations(source, path, wall);
-    ReadNumbers(source, path, WallNumbers, wall);
-    ReadPoints(source, path, WallPoints, wall);
+    ReadData(source, path, WallNumbers, wall);
+    ReadData(source, path, WallPoints, wall);
     wall.inFile = Keep(std::move(source));
     return wall;
 }

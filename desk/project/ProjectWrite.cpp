@@ -1,6 +1,9 @@
 // Writes a project so that only what was changed looks changed.
 #include "desk/project/ProjectFile.h"
 
+#include <algorithm>
+#include <optional>
+
 #include "desk/project/Failure.h"
 #include "desk/project/ProjectFields.h"
 #include "desk/project/SafeFile.h"
@@ -28,39 +31,62 @@ void WriteAnnotations(const Owner& owner, Json& source)
     }
 }
 
-template <class Owner, std::size_t Count>
-void WriteNumbers(const Owner& owner, const NumberField<Owner> (&fields)[Count], Json& source)
-{
-    for (const NumberField<Owner>& field : fields) {
-        const int number = owner.*field.member;
-        const Json* const present = Member(source, field.key);
-        const int told = present != nullptr ? WholeNumber(*present).value_or(0) : Owner().*field.member;
-        if (told != number) {
-            source[field.key] = number;
-        }
-    }
-}
-
-Json Coordinate(double value)
+Json AsJson(int value) { return value; }
+Json AsJson(double value)
 {
     const bool whole = std::trunc(value) == value && std::abs(value) <= PlanLimit;
     return whole ? Json(static_cast<std::int64_t>(value)) : Json(value);
 }
+Json AsJson(const PlanPoint& point) { return Json::array({AsJson(point.x), AsJson(point.y)}); }
 
-template <class Owner, std::size_t Count>
-void WritePoints(const Owner& owner, const PointField<Owner> (&fields)[Count], Json& source)
+// Always written where nothing says what a missing key stands for.
+template <class Value>
+void WriteValue(const Value& value, const char* key, std::optional<Value> told, Json& source)
 {
-    for (const PointField<Owner>& field : fields) {
-        const PlanPoint& point = owner.*field.member;
-        const Json* const present = Member(source, field.key);
-        const PlanPoint told = present != nullptr ? Point(*present).value_or(PlanPoint()) : PlanPoint();
-        if (told.x != point.x || told.y != point.y) {
-            source[field.key] = Json::array({Coordinate(point.x), Coordinate(point.y)});
-        }
+    if (const Json* const present = Member(source, key)) {
+        told.emplace();
+        static_cast<void>(TakeValue(*present, -PlanLimit, PlanLimit, *told));
+    }
+    if (!told || AsJson(*told) != AsJson(value)) {
+        source[key] = AsJson(value);
     }
 }
 
+template <class Owner, class Value, std::size_t Count>
+void WriteData(const Owner& owner, const DataField<Owner, Value> (&fields)[Count], Json& source)
+{
+    for (const DataField<Owner, Value>& field : fields) {
+        WriteValue(owner.*field.member, field.key, std::optional(Owner().*field.member), source);
+    }
+}
+
+// The lengths that the source has already; a beam without the key has none.
+std::vector<double> SpansIn(const Json& source)
+{
+    std::vector<double> spans;
+    if (const Json* const list = Member(source, "spans"); list != nullptr && list->is_array()) {
+        for (const Json& length : *list) {
+            static_cast<void>(JsonNumber(length, spans.emplace_back()));
+        }
+    }
+    return spans;
+}
+
 Json Kept(const InFile& inFile) { return inFile != nullptr ? inFile->json : Json::object(); }
+
+template <class Item>
+void WriteList(const std::vector<Item>& items, Json& list);
+
+Json Written(const InPlace& text)
+{
+    Json source = Kept(text.inFile);
+    source["role"] = RowOf(text.role).key;
+    WriteValue(text.number, NumberOf(text.role).key, {}, source);
+    source["text"] = text.text;
+    WriteData(text.place, PlacePoints, source);
+    WriteData(text.place, PlaceNumbers, source);
+    return source;
+}
 
 Json Written(const Beam& beam)
 {
@@ -69,13 +95,21 @@ Json Written(const Beam& beam)
     for (const TextField<Beam>& field : BeamTexts) {
         WriteText(beam.*field.member, field.key, source);
     }
-    WriteNumbers(beam, BeamNumbers, source);
+    WriteData(beam, BeamNumbers, source);
     Json area = source.value("area", Json::object());
-    WriteNumbers(beam.area, AreaNumbers, area);
+    WriteData(beam.area, AreaNumbers, area);
     if (!area.empty()) {
         source["area"] = std::move(area);
     }
-    WritePoints(beam, BeamPoints, source);
+    WriteData(beam, BeamPoints, source);
+    if (SpansIn(source) != beam.spans) {
+        source["spans"] = Json::array();
+        std::transform(beam.spans.begin(), beam.spans.end(), std::back_inserter(source["spans"]),
+                       [](double length) { return AsJson(length); });
+    }
+    if (!beam.inPlace.empty() || source.contains("inPlace")) {
+        WriteList(beam.inPlace, source["inPlace"]);
+    }
     return source;
 }
 
@@ -83,8 +117,8 @@ Json Written(const Wall& wall)
 {
     Json source = Kept(wall.inFile);
     WriteAnnotations(wall, source);
-    WriteNumbers(wall, WallNumbers, source);
-    WritePoints(wall, WallPoints, source);
+    WriteData(wall, WallNumbers, source);
+    WriteData(wall, WallPoints, source);
     return source;
 }
 
@@ -94,6 +128,24 @@ void WriteList(const std::vector<Item>& items, Json& list)
     list = Json::array();
     for (const Item& item : items) {
         list.push_back(Written(item));
+    }
+}
+
+void WritePointed(const std::map<std::string, PlanPoint>& pointed, Json& source)
+{
+    if (pointed.empty() && !source.contains("pointed")) {
+        return;
+    }
+    Json kept = Json::object();
+    source["pointed"].swap(kept);
+    Json& now = source["pointed"] = Json::object();
+    for (const auto& [handle, at] : kept.items()) {
+        if (pointed.contains(handle)) {
+            now[handle] = at;
+        }
+    }
+    for (const auto& [handle, at] : pointed) {
+        WriteValue(at, handle.c_str(), {}, now);
     }
 }
 
@@ -116,6 +168,7 @@ std::string FormatProject(const Project& project)
     }
     WriteList(project.beams, source["beams"]);
     WriteList(project.walls, source["walls"]);
+    WritePointed(project.pointed, source);
     try {
         return WriteJson(source);
     } catch (const nlohmann::json::exception&) {

@@ -25,10 +25,10 @@ void Deliver(CStringArray& to, const std::string& text)
     }
 }
 
-void DeliverAll(CStringArray& to, std::string Beam::*member)
+void DeliverAll(CStringArray& to, Field field)
 {
     for (const Beam& beam : g_project->beams) {
-        Deliver(to, beam.*member);
+        ForEachText(beam, field, [&to](const std::string& text) { Deliver(to, text); });
     }
 }
 
@@ -75,9 +75,9 @@ void BeamNumbers(CUIntArray& arXu, CStringArray& arSuffix, CString strType)
     }
 }
 
-void Sections(CStringArray& arResult) { DeliverAll(arResult, &Beam::section); }
-void Elevations(CStringArray& arResult) { DeliverAll(arResult, &Beam::elevation); }
-void Stirrups(CStringArray& arResult) { DeliverAll(arResult, &Beam::stirrup); }
+void Sections(CStringArray& arResult) { DeliverAll(arResult, Field::Section); }
+void Elevations(CStringArray& arResult) { DeliverAll(arResult, Field::Elevation); }
+void Stirrups(CStringArray& arResult) { DeliverAll(arResult, Field::Stirrup); }
 
 void BarsOfKind(CStringArray& arResult, CString strKind)
 {

@@ -56,17 +56,41 @@ Question QuestionFor(const Beam& beam, Field field, bool wantsTable)
     return question;
 }
 
+Question QuestionFor(const Project& project, const FieldRef& ref, bool wantsTable)
+{
+    const Beam& beam = project.beams.at(ref.index);
+    if (ref.inPlace < 0) {
+        return QuestionFor(beam, ref.field, wantsTable);
+    }
+    const InPlace& text = beam.inPlace.at(static_cast<std::size_t>(ref.inPlace));
+    const Field field = FieldAt(beam, text);
+    Beam at = BeamAt(beam, text);
+    at.topBars = beam.topBars;  // end bars lie on those of all spans
+    Question question = QuestionFor(at, field, wantsTable);
+    if (field == Field::LeftEnd && text.number > 1) {
+        question.area.reset();
+        question.wantsTable = false;
+    }
+    return question;
+}
+
 std::vector<const std::string*> BarTexts(const Beam& beam, const std::string& barKind)
 {
     std::vector<const std::string*> texts;
     std::vector<const std::string*> onThroughBars;
-    for (const Field field : BeamFields()) {
+    const auto take = [&](Field field, const std::string& text) {
         const FieldRow& row = RowOf(field);
         if (row.ranker == Ranker::Bars && barKind == row.barKind) {
-            texts.push_back(&(beam.*row.ofBeam));
+            texts.push_back(&text);
         } else if (row.isOnThroughBars && barKind == beam.topBars) {
-            onThroughBars.push_back(&(beam.*row.ofBeam));
+            onThroughBars.push_back(&text);
         }
+    };
+    for (const Field field : BeamFields()) {
+        take(field, beam.*RowOf(field).ofBeam);
+    }
+    for (const InPlace& text : beam.inPlace) {
+        take(FieldAt(beam, text), text.text);
     }
     return texts.empty() ? onThroughBars : texts;
 }

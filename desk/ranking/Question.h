@@ -29,8 +29,26 @@ struct Question {
 // what the table asks for.
 [[nodiscard]] Question QuestionFor(const Beam& beam, Field field, bool wantsTable);
 
-// The bar texts of a beam that a kind text asks for, empty ones included: those of the fields that have the
-// kind, else both end bars of a beam whose through bars are that text, of another beam none.
+// The same for an annotation of a beam of the project. A text in place asks as the beam would there: as the
+// field that it is instead of, with the section of its span. Between spans no required area of end bars is
+// known.
+[[nodiscard]] Question QuestionFor(const Project& project, const FieldRef& ref, bool wantsTable);
+
+// Calls use with the beam's own text of a field and those in place whose role it serves, empty ones too.
+template <class Use>
+void ForEachText(const Beam& beam, Field field, Use use)
+{
+    use(beam.*RowOf(field).ofBeam);
+    for (const InPlace& text : beam.inPlace) {
+        if (RowOf(text.role).field == field) {
+            use(text.text);
+        }
+    }
+}
+
+// The bar texts of a beam that a kind text asks for, those in place and empty ones included: those of the
+// fields that have the kind, else all end bars of a beam whose through bars are that text, of another beam
+// none.
 [[nodiscard]] std::vector<const std::string*> BarTexts(const Beam& beam, const std::string& barKind);
 
 // A ranker's answer as it stands.

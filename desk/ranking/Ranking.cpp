@@ -27,13 +27,15 @@ void Count(Uses& uses, const std::string& candidate, const std::string& written)
     }
 }
 
-Uses UsesOf(const Project& project, std::string Beam::*member)
+Uses UsesOf(const Project& project, Field field)
 {
     Uses uses;
     for (const Beam& beam : project.beams) {
-        if (const std::string& text = beam.*member; !text.empty()) {
-            Count(uses, text, text);
-        }
+        ForEachText(beam, field, [&uses](const std::string& text) {
+            if (!text.empty()) {
+                Count(uses, text, text);
+            }
+        });
     }
     return uses;
 }
@@ -55,9 +57,9 @@ Uses BarUses(const Project& project, const std::string& kind)
 Uses UsesFor(const Project& project, const Question& question)
 {
     switch (question.ranker) {
-    case Ranker::Sections: return UsesOf(project, &Beam::section);
-    case Ranker::Elevations: return UsesOf(project, &Beam::elevation);
-    case Ranker::Stirrups: return UsesOf(project, &Beam::stirrup);
+    case Ranker::Sections: return UsesOf(project, Field::Section);
+    case Ranker::Elevations: return UsesOf(project, Field::Elevation);
+    case Ranker::Stirrups: return UsesOf(project, Field::Stirrup);
     default: return BarUses(project, question.barKind);
     }
 }
@@ -201,7 +203,7 @@ Ranking ChoicesFor(const Project& project, const FieldRef& ref, bool wantsTable)
 {
     const FieldRow& row = RowOf(ref.field);
     if (!ref.isWall) {
-        return Rank(project, QuestionFor(project.beams.at(ref.index), ref.field, wantsTable));
+        return Rank(project, QuestionFor(project, ref, wantsTable));
     }
     return row.ranker == Ranker::OtherWalls ? OtherWalls(project, row.ofWall) : Ranking();
 }

@@ -67,17 +67,19 @@ public:
 
     KindTally Run()
     {
-        ForEachUse([this](const Beam& beam, const FieldRow& row) {
-            const std::string& text = beam.*row.ofBeam;
-            Pool& pool = PoolOf(beam, row);
-            pool.orders.Add(Shown(text));
-            pool.alike[WithOneJoint(Gbk(text))].insert(Gbk(text));
+        ForEachUse([this](const FieldRef& ref) {
+            const std::string& text = TextAt(m_project, ref);
+            for (const std::string& kind : std::set{AskedKind(ref), OwnKind(ref)}) {
+                Pool& pool = m_pools[kind];
+                pool.orders.Add(Shown(text));
+                pool.alike[WithOneJoint(Gbk(text))].insert(Gbk(text));
+            }
         });
         KindTally tally{m_kind.name, {}, {}, {}};
-        ForEachUse([this, &tally](Beam& beam, const FieldRow& row) {
-            Pool& pool = PoolOf(beam, row);
-            tally.ranker.Add(RankerPlace(pool, beam, row));
-            const SimplePlaces simple = pool.orders.PlacesWithout(Shown(beam.*row.ofBeam));
+        ForEachUse([this, &tally](const FieldRef& ref) {
+            Pool& pool = m_pools[AskedKind(ref)];
+            tally.ranker.Add(RankerPlace(pool, ref));
+            const SimplePlaces simple = pool.orders.PlacesWithout(Shown(TextAt(m_project, ref)));
             tally.alphabetical.Add(simple.alphabetical);
             tally.frequency.Add(simple.frequency);
         });
@@ -88,18 +90,30 @@ private:
     template <class Use>
     void ForEachUse(Use use)
     {
-        for (Beam& beam : m_project.beams) {
-            for (const Field field : m_kind.fields) {
-                if (const FieldRow& row = RowOf(field); !(beam.*row.ofBeam).empty()) {
-                    use(beam, row);
+        for (std::size_t i = 0; i < m_project.beams.size(); ++i) {
+            for (const FieldRef& ref : RefsOf(m_project, {false, i})) {
+                const auto& fields = m_kind.fields;
+                if (std::find(fields.begin(), fields.end(), ref.field) != fields.end() &&
+                    !TextAt(m_project, ref).empty()) {
+                    use(ref);
                 }
             }
         }
     }
 
-    Pool& PoolOf(const Beam& beam, const FieldRow& row)
+    // The kind text that a use is looked for under.
+    [[nodiscard]] std::string AskedKind(const FieldRef& ref) const
     {
-        return m_pools[QuestionFor(beam, row.field, false).barKind];
+        return QuestionFor(m_project, ref, false).barKind;
+    }
+    // That of its field, under which the ranker gets it whatever through bars it lies on.
+    [[nodiscard]] std::string OwnKind(const FieldRef& ref) const
+    {
+        const Beam& beam = m_project.beams[ref.index];
+        const bool inPlace = ref.inPlace >= 0;
+        return RowOf(inPlace ? FieldAt(beam, beam.inPlace[static_cast<std::size_t>(ref.inPlace)])
+                             : ref.field)
+            .barKind;
     }
 
     // As the ranker lists it, which cuts the heads of bars.
@@ -118,9 +132,9 @@ private:
 
     // The first use of a text can stand for the place of its text among equals, and so can every use
     // where the order of bars ties it with another text: these get a run of their own.
-    std::size_t RankerPlace(Pool& pool, Beam& beam, const FieldRow& row)
+    std::size_t RankerPlace(Pool& pool, const FieldRef& ref)
     {
-        std::string& held = beam.*row.ofBeam;
+        std::string& held = TextAt(m_project, ref);
         const CString text = Gbk(held);
         const bool isAgain = !pool.seen.insert(text).second;
         const bool isShared = isAgain && (!IsBars() || pool.alike[WithOneJoint(text)].size() == 1);
@@ -129,7 +143,7 @@ private:
         }
         std::string hidden;
         std::swap(held, hidden);
-        const List list = RunRanker(QuestionFor(beam, row.field, false));
+        const List list = RunRanker(QuestionFor(m_project, ref, false));
         std::swap(held, hidden);
         const std::size_t place = PlaceIn(list.texts, Shown(held));
         if (isShared) {

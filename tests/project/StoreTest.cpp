@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "desk/project/Failure.h"
+#include "desk/project/FindBeam.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/project/SafeFile.h"
 #include "tests/support/Folder.h"
@@ -28,6 +29,8 @@ std::string InBeam(const std::string& members)
     return "{\"version\": 1, \"beams\": [\n{\"name\": \"KL1(3)\"},\n{\"name\": \"楼KL2\", " + members +
            "}]}";
 }
+
+std::string InPlaceList(const std::string& members) { return "\"inPlace\": [{" + members + "}]"; }
 
 TEST(Store, GivesBackWhatItReadWithUnknownKeysTheirOrderAndNumbersAsWritten)
 {
@@ -71,6 +74,95 @@ TEST(Store, GivesBackWhatItReadWithUnknownKeysTheirOrderAndNumbersAsWritten)
     EXPECT_EQ(again.beams[0].area.top, 900);
     EXPECT_EQ(again.walls[1].thickness, 250);
     EXPECT_EQ(FormatProject(again), edited);
+}
+
+TEST(Store, KeepsSpansTextsInPlaceAndPointedTextsAsTheyWereWritten)
+{
+    const std::string text = R"json({
+  "pointed": {
+    "2F": [0.50, 1e3],
+    "1A3": [3, 4]
+  },
+  "version": 1,
+  "beams": [
+    {
+      "spans": [6000.0, 5700],
+      "inPlace": [
+        {"span": 1.0, "role": "bottom", "text": "4B25", "id": 7},
+        {
+          "role": "topSupport",
+          "support": 3,
+          "text": "",
+          "at": [100, 250.5],
+          "angle": 90.0,
+          "height": 300
+        }
+      ],
+      "name": "KL1(2)"
+    }
+  ],
+  "walls": []
+}
+)json";
+    Project project = ParseProject(text, "f");
+    EXPECT_EQ(FormatProject(project), text);
+    Beam& beam = project.beams[0];
+    EXPECT_EQ(beam.spans, (std::vector<double>{6000, 5700}));
+    ASSERT_EQ(beam.inPlace.size(), 2U);
+    EXPECT_EQ(beam.inPlace[1].role, Role::TopSupport);
+    EXPECT_EQ(beam.inPlace[1].number, 3);
+    EXPECT_EQ(beam.inPlace[1].place.at.y, 250.5);
+    EXPECT_EQ(beam.inPlace[1].place.height, 300.0);
+    EXPECT_EQ(project.pointed.at("2F").y, 1000.0);
+
+    beam.inPlace[0].text = "5B25";
+    beam.inPlace[1].number = 2;
+    beam.spans[1] = 5400.5;
+    project.pointed.erase("2F");
+    project.pointed["1A3"].x = 5;
+    project.pointed["0B"] = {};
+    InPlace& added = beam.inPlace.emplace_back();
+    added.role = Role::Stirrup;
+    added.text = "A8@100(2)";
+    std::string edited = text;
+    const std::vector<std::pair<std::string, std::string>> changes = {
+        {R"json("2F": [0.50, 1e3],
+    "1A3": [3, 4])json",
+         R"json("1A3": [5, 4],
+    "0B": [0, 0])json"},
+        {"[6000.0, 5700]", "[6000, 5400.5]"},
+        {"4B25", "5B25"},
+        {R"json("support": 3)json", R"json("support": 2)json"},
+        {"\n        }\n",
+         "\n        },\n        {\"role\": \"stirrup\", \"span\": 1, \"text\": \"A8@100(2)\"}\n"},
+    };
+    for (const auto& [before, after] : changes) {
+        edited.replace(edited.find(before), before.size(), after);
+    }
+    EXPECT_EQ(FormatProject(project), edited);
+}
+
+TEST(FindBeam, ANameAloneRefersToTheFullestBeamOfThatName)
+{
+    Project project;
+    const auto add = [&project](const char* name, const char* section, const char* stirrup) {
+        Beam& beam = project.beams.emplace_back();
+        beam.name = name;
+        beam.section = section;
+        beam.stirrup = stirrup;
+    };
+    add("L4(1)", "", "");
+    add("L4(1)", "200x400", "");
+    add("L4(1)", "200x500", "A8@200(2)");
+    add("L4(1)", "200x600", "A8@100(2)");
+    add("L4(2)", "", "");
+    add("", "", "");
+    add("", "200x400", "");
+    project.beams[0].inPlace.emplace_back().text = "3B20";
+    const std::vector<std::size_t> expected = {2, 1, 2, 3, 4, 5, 6};
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_EQ(WrittenOut(project, i), expected[i]) << i;
+    }
 }
 
 TEST(Store, TellsThePlaceOfWhatIsWrong)
@@ -118,6 +210,22 @@ TEST(Store, TellsThePlaceOfWhatIsWrong)
         {InBeam("\"area\": 5"), "f:3:26: \"area\" must be an object, here stands a number"},
         {InBeam("\"start\": [1]"), "f:3:27: \"start\" must be two coordinates"},
         {InBeam("\"end\": [0, 1e10]"), "f:3:25: \"end\" must be two coordinates"},
+        {InBeam("\"spans\": 6000"), "f:3:27: \"spans\" must be a list of at most 200 lengths in mm"},
+        {InBeam("\"spans\": [6000, 0]"), "f:3:34: the length of a span must be more than 0 mm"},
+        {InBeam("\"spans\": [\"6\"]"), "f:3:28: the length of a span must be more than 0 mm"},
+        {InBeam("\"inPlace\": [{}, 1]"), "f:3:30: a text in place without a \"role\""},
+        {InBeam(InPlaceList("\"role\": \"topBars\"")),
+         "f:3:39: \"role\" must be one of topSupport, topSpan,"},
+        {InBeam(InPlaceList("\"role\": \"bottom\", \"support\": 1")),
+         "f:3:30: a text in place without a \"span\""},
+        {InBeam(InPlaceList("\"role\": \"topSupport\", \"support\": 202")),
+         "f:3:64: \"support\" must be a whole number from 1 to 201"},
+        {InBeam(InPlaceList("\"role\": \"bottom\", \"span\": 1, \"text\": \"😀\"")),
+         "f:3:68: \"text\" holds a character that GBK does not have"},
+        {InBeam(InPlaceList("\"role\": \"bottom\", \"span\": 1, \"height\": -3")),
+         "f:3:70: \"height\" must be a number from 0 to"},
+        {"{\"version\": 1, \"pointed\": {\"1A3\": [1, 2], \"1A4\": 3}}",
+         "f:1:50: \"1A4\" must be two coordinates"},
     };
     for (const Case& wrong : cases) {
         EXPECT_EQ(Complaint(wrong.text).substr(0, std::string(wrong.complaint).size()), wrong.complaint)
@@ -162,11 +270,12 @@ TEST(Store, KeepsNothingThatCouldNotBeReadAgain)
     const std::filesystem::path file = folder / "p.json";
     SaveProject(SampleProject(), file);
     const std::string before = ContentOf(file);
-    std::vector<Project> wrong(4, SampleProject());
+    std::vector<Project> wrong(5, SampleProject());
     wrong[0].beams[0].section = "300\n600";
     wrong[1].beams[0].name = "\xC1\xBA";  // GBK bytes where UTF-8 belongs
     wrong[2].beams[0].seismicClass = 9;
     wrong[3].beams[0].start.x = 1.0 / 0.0;
+    wrong[4].beams[0].spans.assign(201, 1.0);
     for (const Project& project : wrong) {
         EXPECT_THROW(SaveProject(project, file), Failure);
     }

@@ -30,6 +30,8 @@ Project TwoBeams()
     second.topBars = "2B22";
     second.leftEnd = "2B22+1B20";
     second.torsion = "N4B14";
+    second.inPlace = {{Role::Stirrup, 1, "A8@100(2)", {}, -1, {}},
+                      {Role::Section, 1, "250x600", {}, -1, {}}};
     for (const char* const name : {"", "3", "KL(2)", "KL-4", "梁", "KL5(1)"}) {
         project.beams.emplace_back().name = name;
     }
@@ -75,7 +77,7 @@ TEST(Host, AnswersNamesSectionsElevationsAndStirrups)
         BEAMSIZE_HITNESS_RANKER().SelectFromProject(list);
         BEAMLEVEL_HITNESS_RANKER().SelectFromProject(list);
         GUJIN_HITNESS_RANKER().SelectFromProject(list);
-        EXPECT_EQ(TextsOf(list), (Texts{"300x600", "-0.050", "A8@100/200(2)"}));
+        EXPECT_EQ(TextsOf(list), (Texts{"300x600", "250x600", "-0.050", "A8@100/200(2)", "A8@100(2)"}));
     }
     list.RemoveAll();
     BEAMSIZE_HITNESS_RANKER().SelectFromProject(list);

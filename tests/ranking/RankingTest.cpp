@@ -113,6 +113,70 @@ TEST(Question, ComesFromTheTableOfFieldsAndTheBeam)
               "4B25;;||4B25;|;G4B12;");
 }
 
+TEST(Question, OfATextInPlaceGoesByItsSpanOrSupport)
+{
+    Project project;
+    Beam& beam = project.beams.emplace_back();
+    beam.section = "300x600";
+    beam.topBars = "2B25";
+    beam.rightEnd = "4B25";
+    beam.area = {900, 1100, 1300, 1500};
+    beam.inPlace = {
+        {Role::TopSupport, 1, "5B25", {}, -1, {}}, {Role::TopSupport, 2, "6B25", {}, -1, {}},
+        {Role::TopSupport, 3, "7B25", {}, -1, {}}, {Role::TopSpan, 2, "3B22", {}, -1, {}},
+        {Role::Bottom, 1, "3B20", {}, -1, {}},     {Role::Bottom, 2, "", {}, -1, {}},
+        {Role::Section, 2, "250x500", {}, -1, {}}, {Role::Torsion, 1, "N4B12", {}, -1, {}},
+    };
+    const auto told = [&project](bool bare) {
+        project.beams[0].topBars = bare ? "" : "2B25";
+        std::vector<std::string> all;
+        for (const FieldRef& ref : RefsOf(project, {})) {
+            if (ref.inPlace >= 0) {
+                const Question question = QuestionFor(project, ref, true);
+                all.push_back(question.barKind + ' ' + std::to_string(question.width.value_or(-1)) + ' ' +
+                              std::to_string(question.area.value_or(-1)) +
+                              (question.wantsTable ? " table" : "") +
+                              (question.heads.empty() ? "" : " head"));
+            }
+        }
+        return all;
+    };
+    using All = std::vector<std::string>;
+    const All spans = {"1 250 900 table", "5.1 300 1100 table", "5.1 250 1100 table", " 250 -1",
+                       "5.2 300 -1 head"};
+    const auto withSpans = [&spans](All supports) {
+        supports.insert(supports.end(), spans.begin(), spans.end());
+        return supports;
+    };
+    EXPECT_EQ(told(false), withSpans({"2B25 300 1300 table", "2B25 250 -1", "2B25 300 -1"}))
+        << "no last support";
+    beam.spans = {6000, 5700};
+    EXPECT_EQ(told(false), withSpans({"2B25 300 1300 table", "2B25 250 -1", "2B25 250 1500 table"}));
+    EXPECT_EQ(told(true), withSpans({"2 300 1300 table", "2 250 -1", "3 250 1500 table"}));
+
+    const auto texts = [&beam](const char* kind) {
+        std::string all;
+        for (const std::string* const text : BarTexts(beam, kind)) {
+            all += *text + ';';
+        }
+        return all;
+    };
+    EXPECT_EQ(texts("2") + '|' + texts("3") + '|' + texts("1") + '|' + texts("5.2"),
+              ";5B25;6B25;|4B25;7B25;|;3B22;|;;N4B12;");
+    beam.topBars = "2B25";
+    EXPECT_EQ(texts("2B25"), ";4B25;5B25;6B25;7B25;");
+
+    // They count as uses, and are offered, like any other annotation.
+    const Ranking ends = ChoicesFor(project, {false, 0, Field::LeftEnd, 1}, false);
+    const auto own = std::find_if(ends.candidates.begin(), ends.candidates.end(),
+                                  [](const Candidate& each) { return each.text == "7B25"; });
+    ASSERT_NE(own, ends.candidates.end());
+    EXPECT_EQ(own->uses, 1);
+    const Ranking sections = ChoicesFor(project, {false, 0, Field::Section}, false);
+    EXPECT_NE(Told(sections).find("250x500 project 1 "), std::string::npos) << Told(sections);
+    EXPECT_EQ(ChoicesFor(project, {false, 0, Field::Torsion, 7}, false).candidates.front().text, "N4B12");
+}
+
 TEST(Choices, CarryTheHeadThatTheFieldIsWrittenWith)
 {
     Project project = Small();

@@ -3,8 +3,10 @@
 
 #include <algorithm>
 #include <random>
+#include <set>
 
 #include "RankerModule.h"
+#include "desk/project/Fields.h"
 #include "desk/ranking/ProjectHost.h"
 #include "desk/ranking/Replay.h"
 #include "desk/ranking/SimpleOrders.h"
@@ -105,16 +107,20 @@ TEST(Replay, CountsPlacesOfListsByHand)
     EXPECT_EQ(ends.ranker, TallyOf({6, 3, 0}));
     EXPECT_EQ(ends.frequency, TallyOf({0, 0, 0}));
     EXPECT_EQ(Of(ReplayProject(project), "section").ranker.uses, 0U);
-}
 
-using Members = std::vector<std::string Beam::*>;
+    // So are texts at supports; without through bars they are looked for among all ends of that side.
+    project.beams[1].inPlace = {{Role::TopSupport, 2, "4B20", {}, -1, {}}};
+    project.beams[1].topBars.clear();
+    const KindTally inPlace = Of(ReplayProject(project), "end bars");
+    EXPECT_EQ(inPlace.ranker.uses, 4U);
+    EXPECT_EQ(inPlace.frequency, TallyOf({0, 0, 2, 0}));  // after 2B25+2B22, the other one
+}
 
 // The list of a kind the plain way: a copy of the project, the text emptied, a run of its own.
 template <class Ranker>
-std::size_t PlainPlace(Ranker& ranker, Project project, std::size_t beam, std::string Beam::*member,
-                       CString text)
+std::size_t PlainPlace(Ranker& ranker, Project project, const FieldRef& ref, CString text)
 {
-    (project.beams[beam].*member).clear();
+    TextAt(project, ref).clear();
     const ProjectHost host(project);
     CStringArray list;
     ranker.ProcessController(list);
@@ -146,45 +152,59 @@ TEST(Replay, IsWhatHidingOneUseAfterTheOtherGives)
             beam.rightEnd = pick(bars);
             beam.stirrup = pick(stirrups);
             beam.section = pick(sections);
+            beam.spans.resize(random() % 3, 6000);
+            for (unsigned i = random() % 4; i > 0; --i) {
+                const int number = static_cast<int>(random() % 3) + 1;
+                beam.inPlace.push_back({Role::TopSupport, number, pick(bars), {}, -1, {}});
+                beam.inPlace.push_back({Role::Side, number, pick(bars), {}, -1, {}});
+                beam.inPlace.push_back({Role::Stirrup, number, pick(stirrups), {}, -1, {}});
+                beam.inPlace.push_back({Role::Section, number, pick(sections), {}, -1, {}});
+            }
         }
         const std::vector<KindTally> kinds = ReplayProject(project);
-        const auto plain = [&](const Members& members, auto rank) {
+        const auto plain = [&](const std::set<Field>& fields, auto rank) {
             Tally tally;
             for (std::size_t i = 0; i < project.beams.size(); ++i) {
-                for (const auto member : members) {
-                    if (const std::string& text = project.beams[i].*member; !text.empty()) {
-                        tally.Add(rank(i, member, text));
+                for (const FieldRef& ref : RefsOf(project, {false, i})) {
+                    const std::string& text = TextAt(project, ref);
+                    if (fields.contains(ref.field) && !text.empty()) {
+                        tally.Add(rank(ref, text));
                     }
                 }
             }
             return tally;
         };
         const auto rankBars = [&](const auto& kindOf) {
-            return [&project, &kindOf](std::size_t i, std::string Beam::*member, std::string text) {
+            return [&project, &kindOf](const FieldRef& ref, std::string text) {
                 CHABIAO_HITNESS_RANKER ranker;
-                ranker.SetPara(0, 0, nullptr, kindOf(project.beams[i], member));
+                ranker.SetPara(0, 0, nullptr, kindOf(ref));
                 text.erase(0, text.find_first_not_of("GN*"));
-                return PlainPlace(ranker, project, i, member, std::string_view(text));
+                return PlainPlace(ranker, project, ref, std::string_view(text));
             };
         };
-        const auto endKind = [](const Beam& beam, std::string Beam::*end) {
-            const char* const bare = end == &Beam::leftEnd ? "2" : "3";
-            return beam.topBars.empty() ? CString(bare) : CString(std::string_view(beam.topBars));
+        const auto endKind = [&project](const FieldRef& ref) {
+            const Beam& beam = project.beams[ref.index];
+            const bool isRight = ref.inPlace < 0
+                                     ? ref.field == Field::RightEnd
+                                     : !beam.spans.empty() && beam.inPlace[ref.inPlace].number ==
+                                                                  static_cast<int>(beam.spans.size()) + 1;
+            return beam.topBars.empty() ? CString(isRight ? "3" : "2")
+                                        : CString(std::string_view(beam.topBars));
         };
-        const auto sideKind = [](const Beam&, auto) { return CString("5.2"); };
+        const auto sideKind = [](const FieldRef&) { return CString("5.2"); };
         EXPECT_EQ(Of(kinds, "torsion, side").ranker,
-                  plain({&Beam::torsion, &Beam::side}, rankBars(sideKind)));
+                  plain({Field::Torsion, Field::Side}, rankBars(sideKind)));
         EXPECT_EQ(Of(kinds, "end bars").ranker,
-                  plain({&Beam::leftEnd, &Beam::rightEnd}, rankBars(endKind)));
+                  plain({Field::LeftEnd, Field::RightEnd}, rankBars(endKind)));
         EXPECT_EQ(Of(kinds, "stirrups").ranker,
-                  plain({&Beam::stirrup}, [&](auto i, auto member, const auto& text) {
+                  plain({Field::Stirrup}, [&](const FieldRef& ref, const std::string& text) {
                       GUJIN_HITNESS_RANKER ranker;
-                      return PlainPlace(ranker, project, i, member, std::string_view(text));
+                      return PlainPlace(ranker, project, ref, std::string_view(text));
                   }));
         EXPECT_EQ(Of(kinds, "section").ranker,
-                  plain({&Beam::section}, [&](auto i, auto member, const auto& text) {
+                  plain({Field::Section}, [&](const FieldRef& ref, const std::string& text) {
                       BEAMSIZE_HITNESS_RANKER ranker;
-                      return PlainPlace(ranker, project, i, member, std::string_view(text));
+                      return PlainPlace(ranker, project, ref, std::string_view(text));
                   }));
     }
 }
