@@ -53,7 +53,7 @@ void FloorView::SetProject(const Project* project, const Backdrop* behind)
 void FloorView::Refresh(const FieldRef& ref)
 {
     if (OwnerItem* const item = ItemOf(ref)) {
-        item->TakeTexts(*m_project);
+        item->Take(*m_project);
     }
 }
 

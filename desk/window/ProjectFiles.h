@@ -1,4 +1,5 @@
-// ProjectFiles: opening, saving and leaving a project; nothing unsaved is lost without a question.
+// ProjectFiles: opening, saving and leaving a project or a drawing; nothing unsaved is lost without a
+// question.
 #pragma once
 
 #include <functional>
@@ -16,7 +17,8 @@ public:
     // when that was refused, and then nothing is done. The menu gets the files that were used last.
     ProjectFiles(Document& document, QWidget& window, QMenu& recent, std::function<bool()> endEdit);
 
-    // Opens a project file, the sample for an empty name. False when it was not opened, and why was told.
+    // Opens a project file or a drawing, the sample for an empty name. False when it was not opened, and
+    // why was told.
     bool Open(const QString& file);
     void OpenSample() { Open(QString()); }
     void AskOpen();
