@@ -11,6 +11,7 @@
 #include "desk/console/Commands.h"
 #include "desk/console/Options.h"
 #include "desk/console/Print.h"
+#include "desk/drawing/Drawing.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/ranking/Replay.h"
 
@@ -21,7 +22,7 @@ namespace {
 using namespace Hitrate;
 using Json = nlohmann::ordered_json;
 
-struct Options {
+struct HitrateOptions {
     std::string project;
     bool json = false;
 };
@@ -114,7 +115,7 @@ void AddHitrateCommand(CLI::App& program, std::ostream& out)
 {
     CLI::App* const command = program.add_subcommand(
         "hitrate", "Measure the ranking: at which place each text of a project is proposed");
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<HitrateOptions>();
     AddProjectOption(*command, options->project);
     command->add_flag("--json", options->json, "Print JSON for programs");
     command->footer(
@@ -123,7 +124,7 @@ void AddHitrateCommand(CLI::App& program, std::ostream& out)
         "comparison, the other texts are also ordered by alphabet and by frequency.\n\n"
         "Examples:\n  beamdesk hitrate\n  beamdesk hitrate --project tower.json --json");
     command->callback([options, &out] {
-        const Project project = LoadProject(options->project);
+        const Project project = OpenProject(options->project);
         const std::vector<KindTally> kinds = ReplayProject(project);
         if (options->json) {
             PrintTalliesJson(out, project, kinds);

@@ -1,6 +1,7 @@
-// beamdesk import: a project from the texts of a drawing.
+// beamdesk import: a project from a drawing, or from the texts of one.
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -11,6 +12,7 @@
 #include "desk/console/Commands.h"
 #include "desk/console/ImportReport.h"
 #include "desk/console/Options.h"
+#include "desk/drawing/Drawing.h"
 #include "desk/project/Encoding.h"
 #include "desk/project/Failure.h"
 #include "desk/project/ProjectFile.h"
@@ -22,7 +24,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Options {
+struct ImportOptions {
     std::string texts;
     std::string project;
     std::string encoding = "utf-8";
@@ -33,7 +35,7 @@ struct Options {
 };
 
 // Faults of the target file that can be found before the texts are read.
-void CheckTarget(const Options& options)
+void CheckTarget(const ImportOptions& options)
 {
     const fs::path target = options.project;
     std::error_code error;
@@ -57,7 +59,54 @@ std::string TitleFor(const fs::path& texts)
     return isShowable ? title : "import";
 }
 
-void Run(const Options& options, std::ostream& out)
+void SaveImported(const Project& project, const ImportOptions& options, std::ostream& out)
+{
+    SaveProject(project, options.project);
+    out << "\nwritten to " << options.project << ": " << Plural(project.beams.size(), "beam") << ", "
+        << Plural(project.walls.size(), "wall") << "\n";
+}
+
+// By its ending, or because it begins as drawings do: with code 0 and a section.
+bool IsDrawingFile(const fs::path& file)
+{
+    const std::string kind = LowerCaseExtension(file.string());
+    if (kind == ".dxf" || kind == ".dwg") {
+        return true;
+    }
+    std::ifstream in(file);
+    std::string code;
+    std::string value;
+    return in >> code >> value && code == "0" && value == "SECTION";
+}
+
+// Open texts are in no beam, so they are listed; the project has the others.
+void ImportDrawing(const ImportOptions& options, std::ostream& out)
+{
+    const Drawing drawing = Drawing::Read(options.texts);
+    const Project& project = drawing.Get();
+    std::size_t open = 0;
+    std::size_t inPlace = 0;
+    for (const AnnotationText& text : drawing.Texts()) {
+        open += text.open ? 1 : 0;
+        inPlace += text.inPlace ? 1 : 0;
+    }
+    out << options.texts << ": " << Plural(drawing.Texts().size(), "annotation text") << ", "
+        << drawing.Texts().size() - inPlace << " in labels, " << inPlace << " in place; " << open
+        << " open\n";
+    for (const AnnotationText& text : drawing.Texts()) {
+        if (text.open) {
+            out << "  " << text.handle << " at " << Position(text.place.at) << ": " << Quoted(text.text)
+                << ": " << text.open->English() << '\n';
+        }
+    }
+    if (project.beams.empty()) {
+        out.flush();
+        throw Failure(options.texts + ": no beam's label could be read; no project is written");
+    }
+    SaveImported(project, options, out);
+}
+
+void ImportTexts(const ImportOptions& options, std::ostream& out)
 {
     Choices choices;
     if (!options.grade.empty()) {
@@ -65,7 +114,6 @@ void Run(const Options& options, std::ostream& out)
         choices.stirrupGrade = options.grade.front();
     }
     choices.legs = options.legs;
-    CheckTarget(options);
     const TextsFile file =
         ReadTextsFile(options.texts, options.encoding == "gbk" ? Encoding::Gbk : Encoding::Utf8);
     const std::vector<ImportedText> texts = ReadTexts(file, choices);
@@ -75,9 +123,22 @@ void Run(const Options& options, std::ostream& out)
         out.flush();
         throw Failure(options.texts + ": no annotation could be read; no project is written");
     }
-    SaveProject(project, options.project);
-    out << "\nwritten to " << options.project << ": " << Plural(project.beams.size(), "beam") << ", "
-        << Plural(project.walls.size(), "wall") << "\n";
+    SaveImported(project, options, out);
+}
+
+void RunImport(const ImportOptions& options, const std::vector<CLI::Option*>& ofTexts, std::ostream& out)
+{
+    CheckTarget(options);
+    if (!IsDrawingFile(options.texts)) {
+        ImportTexts(options, out);
+        return;
+    }
+    for (const CLI::Option* const option : ofTexts) {
+        if (option->count() > 0) {
+            throw CLI::ValidationError(option->get_name() + " is for files of texts, not for drawings");
+        }
+    }
+    ImportDrawing(options, out);
 }
 
 }  // namespace
@@ -85,34 +146,43 @@ void Run(const Options& options, std::ostream& out)
 void AddImportCommand(CLI::App& program, std::ostream& out)
 {
     CLI::App* const command = program.add_subcommand(
-        "import", "Make a project from the annotation texts of a drawing, one a line");
-    const auto options = std::make_shared<Options>();
-    command->add_option("TEXTS", options->texts, "The file of texts")->required()->option_text("FILE");
+        "import", "Make a project from a drawing, or from the texts of one, one a line");
+    const auto options = std::make_shared<ImportOptions>();
+    command->add_option("TEXTS", options->texts, "Drawing (.dxf), or file of texts")
+        ->required()
+        ->option_text("FILE");
     command->add_option("-o,--output", options->project, "Project file to write")
         ->required()
         ->type_name("FILE");
-    command->add_option("--encoding", options->encoding, "Encoding of the texts. Default utf-8")
-        ->type_name("NAME")
-        ->check(CLI::IsMember({"utf-8", "gbk"}));
-    command
-        ->add_option("--grade", options->grade,
-                     "Grade, A to D, for grade signs that name none. Default B for bars and A for\n"
-                     "stirrups and wall bars, as in the module's tables")
-        ->type_name("LETTER")
-        ->check(CLI::IsMember({"A", "B", "C", "D"}));
-    command
-        ->add_option("--legs", options->legs,
-                     "Legs of stirrups that are written without legs; 0 leaves those unread. Default 2")
-        ->type_name("N")
-        ->check(Whole(0, 9));
+    std::vector<CLI::Option*> ofTexts;
+    ofTexts.push_back(
+        command->add_option("--encoding", options->encoding, "Encoding of the texts. Default utf-8")
+            ->type_name("NAME")
+            ->check(CLI::IsMember({"utf-8", "gbk"})));
+    ofTexts.push_back(
+        command
+            ->add_option("--grade", options->grade,
+                         "Grade, A to D, for grade signs that name none. Default B for bars and A for\n"
+                         "stirrups and wall bars, as in the module's tables")
+            ->type_name("LETTER")
+            ->check(CLI::IsMember({"A", "B", "C", "D"})));
+    ofTexts.push_back(
+        command
+            ->add_option("--legs", options->legs,
+                         "Legs of stirrups that are written without legs; 0 leaves those unread. Default 2")
+            ->type_name("N")
+            ->check(Whole(0, 9)));
     command->add_flag("--force", options->force, "Replace an existing project");
-    command->add_flag("--all", options->all, "List every text with what it was read as");
+    ofTexts.push_back(command->add_flag("--all", options->all, "List every text with what it was read as"));
     command->footer(
-        "The file has one text a line: plain lines, or lines of kind, tab and text below the\n"
+        "Beams of a drawing keep their positions, spans and texts in place; texts of which nothing tells\n"
+        "the beam are listed.\n\n"
+        "A file of texts has one text a line: plain lines, or lines of kind, tab and text below the\n"
         "heading \"kind<TAB>text\". Every text that is not read is listed with its line number.\n\n"
-        "Examples:\n  beamdesk import drawing.txt -o drawing.json\n"
+        "Examples:\n  beamdesk import floor.dxf -o floor.json\n"
+        "  beamdesk import drawing.txt -o drawing.json\n"
         "  beamdesk import drawing.txt -o drawing.json --encoding gbk --grade C --force");
-    command->callback([options, &out] { Run(*options, out); });
+    command->callback([options, ofTexts, &out] { RunImport(*options, ofTexts, out); });
 }
 
 }  // namespace Desk

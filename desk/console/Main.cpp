@@ -91,6 +91,7 @@ int RunDesk(int argc, char** argv)
                    "  beamdesk window\n"
                    "  beamdesk rank bars --kind 1 --width 300 --area 1000 --table\n"
                    "  beamdesk rank name --project tower.json\n"
+                   "  beamdesk set --project floor.dxf --beam KL2 topBars 2B25\n"
                    "  beamdesk table bars --width 300 --area 1000\n\n"
                    "Exit status: 0 on success, 2 for wrong usage and every failure.");
 
@@ -98,6 +99,9 @@ int RunDesk(int argc, char** argv)
     Desk::AddRankCommand(program, std::cout);
     Desk::AddTableCommand(program, std::cout);
     Desk::AddImportCommand(program, std::cout);
+    Desk::AddSetCommand(program, std::cout);
+    Desk::AddLabelsCommand(program, std::cout);
+    Desk::AddExportCommand(program, std::cout);
     Desk::AddHitrateCommand(program, std::cout);
     Desk::AddPanelCommand(program, std::cout);
     Desk::AddEventsCommand(program, std::cout);

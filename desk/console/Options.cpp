@@ -2,6 +2,7 @@
 #include "desk/console/Options.h"
 
 #include <charconv>
+#include <filesystem>
 
 #include <CLI/CLI.hpp>
 
@@ -13,7 +14,7 @@ namespace Desk {
 
 void AddProjectOption(CLI::App& command, std::string& file)
 {
-    command.add_option("--project", file, "Project file. Default: the embedded sample")
+    command.add_option("--project", file, "Project or drawing (.json, .dxf). Default: the embedded sample")
         ->type_name("FILE")
         ->check([](const std::string& name) { return std::string(name.empty() ? "no file name" : ""); });
 }
@@ -29,6 +30,11 @@ CLI::Validator Whole(int least, int most)
         return good ? std::string() : "a whole number from " + range + " is required, not " + Quoted(text);
     };
     return CLI::Validator(check, "");
+}
+
+std::string LowerCaseExtension(const std::string& file)
+{
+    return CLI::detail::to_lower(std::filesystem::path(file).extension().string());
 }
 
 void RequireBars(const std::string& text)

@@ -15,6 +15,9 @@ void AddProjectOption(CLI::App& command, std::string& file);
 // Accepts whole numbers inside the range only.
 [[nodiscard]] CLI::Validator Whole(int least, int most);
 
+// ".dxf" of "Floor.DXF".
+[[nodiscard]] std::string LowerCaseExtension(const std::string& file);
+
 // Throws Failure for a text that is no bars such as 2B25.
 void RequireBars(const std::string& text);
 

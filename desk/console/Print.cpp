@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <ostream>
 
 #include <nlohmann/json.hpp>
@@ -69,6 +70,11 @@ std::string Visible(const std::string& text)
 void PrintJson(const nlohmann::ordered_json& json, std::ostream& out)
 {
     out << json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
+}
+
+std::string Position(const PlanPoint& at)
+{
+    return std::to_string(std::llround(at.x)) + "," + std::to_string(std::llround(at.y));
 }
 
 std::string Times(int count)

@@ -7,6 +7,8 @@
 
 #include <nlohmann/json_fwd.hpp>
 
+#include "desk/project/Project.h"
+
 namespace Desk {
 
 // Cells that a text takes: two for a wide character as in Chinese, one for any other.
@@ -30,6 +32,9 @@ template <class Items, class Name>
     }
     return joined;
 }
+
+// "8400,-1200": to the millimetre.
+[[nodiscard]] std::string Position(const PlanPoint& at);
 
 // For programs. Bytes that are no UTF-8 are replaced.
 void PrintJson(const nlohmann::ordered_json& json, std::ostream& out);

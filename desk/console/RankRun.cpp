@@ -8,6 +8,7 @@
 
 #include "desk/console/Options.h"
 #include "desk/console/Print.h"
+#include "desk/drawing/Drawing.h"
 #include "desk/project/Failure.h"
 #include "desk/project/FindBeam.h"
 #include "desk/project/ProjectFile.h"
@@ -65,7 +66,7 @@ std::optional<Field> EndOf(const std::string& word, const Beam& beam)
 }  // namespace
 
 RankRun::RankRun(const RankOptions& options, std::ostream& out)
-    : m_options(options), m_out(out), m_project(LoadProject(options.project)),
+    : m_options(options), m_out(out), m_project(OpenProject(options.project)),
       m_beam(options.beam.empty() ? nullptr : &FindBeam(m_project, options.beam))
 {
     constexpr int DefaultLimit = 25;

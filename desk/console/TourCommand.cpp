@@ -12,6 +12,7 @@
 #include "desk/console/Options.h"
 #include "desk/console/Print.h"
 #include "desk/console/RankingPrint.h"
+#include "desk/drawing/Drawing.h"
 #include "desk/project/FindBeam.h"
 #include "desk/project/ProjectFile.h"
 
@@ -185,7 +186,7 @@ std::string InShell(const std::string& text)
 
 void PrintTour(const std::string& projectFile, const std::string& beamName, std::ostream& out)
 {
-    const Project project = LoadProject(projectFile);
+    const Project project = OpenProject(projectFile);
     const Beam* const beam = beamName.empty() ? FullestBeam(project) : &FindBeam(project, beamName);
     out << TitleOf(project, projectFile) << ": " << project.beams.size() << " beams, "
         << project.walls.size() << " walls\n\n";

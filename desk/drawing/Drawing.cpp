@@ -1,14 +1,336 @@
 #include "desk/drawing/Drawing.h"
 
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <system_error>
+#include <utility>
+
+#include "desk/drawing/Parts.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/project/SafeFile.h"
 
 namespace Desk {
 
-struct Drawing::Parts {
-    Project project;
-    Backdrop backdrop;
-    std::vector<AnnotationText> texts;
+namespace {
+
+constexpr std::size_t LongestDrawing = std::size_t{1} << 30;  // bytes
+
+std::size_t NumberOf(Field field)
+{
+    const std::span<const Field> fields = BeamFields();
+    return static_cast<std::size_t>(std::find(fields.begin(), fields.end(), field) - fields.begin());
+}
+
+PlanPoint Along(const TextPlace& place, double length)
+{
+    const double angle = place.angle * std::numbers::pi / 180.0;
+    return {place.at.x + length * std::cos(angle), place.at.y + length * std::sin(angle)};
+}
+
+// A second stretch of plain bars in a label is its bottom bars.
+Field FieldIn(const Beam& beam, Field field)
+{
+    return field == Field::TopBars && !beam.topBars.empty() && beam.bottomBars.empty() ? Field::BottomBars
+                                                                                       : field;
+}
+
+void SetAxis(Beam& beam, const OwnerBeam& owner)
+{
+    beam.start = owner.frame.At(owner.supports.front(), owner.axis);
+    beam.end = owner.frame.At(owner.supports.back(), owner.axis);
+    beam.spans.clear();
+    if (owner.run) {
+        for (std::size_t i = 1; i < owner.supports.size(); ++i) {
+            beam.spans.push_back(owner.supports[i] - owner.supports[i - 1]);
+        }
+    }
+}
+
+}  // namespace
+
+// Makes the project out of what was found in the file.
+class DrawingReader {
+public:
+    DrawingReader(std::string bytes, const std::string& name, std::string_view companion)
+        : m_parts(std::make_unique<Drawing::Parts>())
+    {
+        if (!companion.empty()) {
+            m_kept = ParseProject(companion, CompanionFile(name).string());
+        }
+        m_parts->file = ReadEntities(std::move(bytes), name);
+        m_parts->placed = PlaceEntities(m_parts->file, name);
+        m_parts->found = FindTexts(m_parts->file, m_parts->placed);
+    }
+
+    std::unique_ptr<Drawing::Parts> Read()
+    {
+        FindOwners();
+        m_parts->project.title = m_kept.title;
+        m_parts->project.walls = std::move(m_kept.walls);
+        m_parts->project.axesAcross = std::move(m_kept.axesAcross);
+        m_parts->project.axesUp = std::move(m_kept.axesUp);
+        m_parts->project.pointed = std::move(m_kept.pointed);
+        m_parts->project.inFile = m_kept.inFile;
+        ListTexts();
+        AddBeams();
+        AddInPlace();
+        TakeKept();
+        ShowRest();
+        return std::move(m_parts);
+    }
+
+private:
+    void FindOwners()
+    {
+        std::vector<bool> hasLabels(m_parts->file.layers.size(), false);
+        for (const FoundLabel& label : m_parts->found.labels) {
+            hasLabels[m_parts->placed.texts[m_parts->found.lines[label.lines.front()].placed].layer] = true;
+        }
+        std::vector<bool> isOutline(hasLabels.size());
+        for (std::size_t i = 0; i < isOutline.size(); ++i) {
+            isOutline[i] = !hasLabels[i] && IsOutlineLayer(LayerName(i));
+        }
+        std::vector<PlanLine> outlines;
+        for (const PlacedLine& line : m_parts->placed.lines) {
+            if (isOutline[line.layer]) {
+                outlines.push_back(line.line);
+            }
+        }
+        std::map<std::size_t, PlanPoint> pointed;
+        for (std::size_t i = 0; i < m_parts->found.labels.size(); ++i) {
+            const TextLine& name = m_parts->found.lines[m_parts->found.labels[i].lines.front()];
+            if (const auto at = m_kept.pointed.find(HandleOf(name)); at != m_kept.pointed.end()) {
+                pointed.emplace(i, at->second);
+            }
+        }
+        const double unit = m_parts->file.unitScale;
+        m_parts->owners = std::make_unique<Owners>(m_parts->found, FindRuns(outlines, unit), unit, pointed);
+    }
+
+    // In UTF-8.
+    [[nodiscard]] std::string LayerName(std::size_t layer) const
+    {
+        return DecodeText(m_parts->file.layers[layer].name, m_parts->file.charset, false).text;
+    }
+
+    [[nodiscard]] std::string HandleOf(const TextLine& line) const
+    {
+        const std::string_view handle = m_parts->EntityOf(line).handle;
+        return handle.empty() ? "#" + std::to_string(line.placed + 1) : std::string(handle);
+    }
+
+    // One entry a line; the label's lines are told first in which label they are.
+    void ListTexts()
+    {
+        std::vector<std::size_t> textOf(m_parts->found.lines.size(), None);
+        std::vector<std::size_t> shown = m_parts->found.inPlace;
+        for (const FoundLabel& label : m_parts->found.labels) {
+            shown.insert(shown.end(), label.lines.begin(), label.lines.end());
+        }
+        std::sort(shown.begin(), shown.end());
+        for (const std::size_t index : shown) {
+            const TextLine& line = m_parts->found.lines[index];
+            textOf[index] = m_parts->texts.size();
+            AnnotationText text;
+            text.handle = HandleOf(line);
+            text.text = DrawnText(line);
+            text.place = line.place;
+            m_parts->texts.push_back(std::move(text));
+            m_parts->lineOf.push_back(index);
+        }
+        m_textOf = std::move(textOf);
+    }
+
+    [[nodiscard]] std::string DrawnText(const TextLine& line) const
+    {
+        const TextEntity& entity = m_parts->EntityOf(line);
+        const std::string value = ValueOf(m_parts->file, entity);
+        return DecodeText(
+                   std::string_view(value).substr(line.whole.begin, line.whole.end - line.whole.begin),
+                   m_parts->file.charset, entity.kind == TextKind::MText)
+            .text;
+    }
+
+    void AddBeams()
+    {
+        for (std::size_t i = 0; i < m_parts->found.labels.size(); ++i) {
+            const FoundLabel& label = m_parts->found.labels[i];
+            Beam beam;
+            std::vector<std::optional<Source>> sources(BeamFields().size());
+            beam.places.resize(BeamFields().size());
+            const std::string handle = HandleOf(m_parts->found.lines[label.lines.front()]);
+            const OwnerBeam& owner = m_parts->owners->Beams()[i];
+            for (const std::size_t index : label.lines) {
+                const TextLine& line = m_parts->found.lines[index];
+                AnnotationText& text = m_parts->texts[m_textOf[index]];
+                text.label = handle;
+                for (std::size_t k = 0; k < line.annotations.size(); ++k) {
+                    const Field field = FieldIn(beam, line.annotations[k].field);
+                    if (RowOf(field).ofBeam == nullptr || !(beam.*RowOf(field).ofBeam).empty()) {
+                        continue;
+                    }
+                    beam.*RowOf(field).ofBeam = line.annotations[k].text;
+                    sources[NumberOf(field)] = Source{index, k};
+                    beam.places[NumberOf(field)] = PlaceOf(line, line.annotations[k]);
+                    text.roles.emplace_back(RowOf(field).key);
+                    text.refs.push_back({false, i, field});
+                }
+            }
+            m_parts->texts[m_textOf[label.lines.front()]].open = owner.open;
+            SetAxis(beam, owner);
+            m_parts->project.beams.push_back(std::move(beam));
+            m_parts->sources.push_back(std::move(sources));
+        }
+    }
+
+    // The part of a line's length that is before the annotation is told by its bytes.
+    static TextPlace PlaceOf(const TextLine& line, const Annotation& annotation)
+    {
+        TextPlace place = line.place;
+        if (!line.plain.empty()) {
+            const auto part =
+                static_cast<double>(annotation.at.begin) / static_cast<double>(line.plain.size());
+            place.at = Along(place, line.length * part);
+        }
+        return place;
+    }
+
+    void AddInPlace()
+    {
+        for (std::size_t i = 0; i < m_parts->found.inPlace.size(); ++i) {
+            const std::size_t index = m_parts->found.inPlace[i];
+            AnnotationText& text = m_parts->texts[m_textOf[index]];
+            text.inPlace = true;
+            OwnerText owner = m_parts->owners->InPlace()[i];
+            if (const auto at = m_parts->project.pointed.find(text.handle);
+                !owner.beam && at != m_parts->project.pointed.end()) {
+                owner = m_parts->owners->TextAt(index, at->second).value_or(owner);
+            }
+            if (!owner.beam) {
+                text.open = std::move(owner.open);
+                text.roles = RolesAnywhere(m_parts->found.lines[index]);
+                continue;
+            }
+            const FoundLabel& label = m_parts->found.labels[*owner.beam];
+            text.label = HandleOf(m_parts->found.lines[label.lines.front()]);
+            Beam& beam = m_parts->project.beams[*owner.beam];
+            for (InPlace& each : InPlaceOf(*m_parts, m_textOf[index], owner)) {
+                text.roles.emplace_back(RowOf(each.role).key);
+                text.refs.push_back(
+                    {false, *owner.beam, RowOf(each.role).field, static_cast<int>(beam.inPlace.size())});
+                beam.inPlace.push_back(std::move(each));
+            }
+        }
+    }
+
+    // What an open text is for certain.
+    static std::vector<std::string> RolesAnywhere(const TextLine& line)
+    {
+        std::vector<std::string> roles;
+        for (const RoleRow& row : AllRoles()) {
+            for (const Annotation& annotation : line.annotations) {
+                if (annotation.field == row.field && annotation.field != Field::TopBars &&
+                    annotation.field != Field::BottomBars) {
+                    roles.emplace_back(row.key);
+                }
+            }
+        }
+        return roles;
+    }
+
+    // The k-th beam of a name keeps what the companion has for the k-th of it.
+    void TakeKept()
+    {
+        std::multimap<std::string, const Beam*> kept;
+        for (const Beam& beam : m_kept.beams) {
+            kept.emplace(beam.name, &beam);
+        }
+        for (Beam& beam : m_parts->project.beams) {
+            const auto found = kept.find(beam.name);
+            if (found == kept.end()) {
+                continue;
+            }
+            beam.area = found->second->area;
+            beam.concreteGrade = found->second->concreteGrade;
+            beam.seismicClass = found->second->seismicClass;
+            beam.floor = found->second->floor;
+            kept.erase(found);
+        }
+    }
+
+    void ShowRest()
+    {
+        std::vector<bool> isAnnotation(m_parts->placed.texts.size(), false);
+        for (const std::size_t line : m_parts->lineOf) {
+            isAnnotation[m_parts->found.lines[line].placed] = true;
+        }
+        for (std::size_t i = 0; i < isAnnotation.size(); ++i) {
+            const PlacedText& text = m_parts->placed.texts[i];
+            if (!isAnnotation[i] && !text.isHidden) {
+                ShowText(text);
+            }
+        }
+        for (const PlacedLine& line : m_parts->placed.lines) {
+            if (!line.isHidden) {
+                m_parts->behind.lines.push_back(line.line);
+            }
+        }
+        // The lines are in the backdrop now.
+        m_parts->placed.lines = {};
+        m_parts->file.model.lines = {};
+        for (Entities& block : m_parts->file.blocks) {
+            block.lines = {};
+        }
+    }
+
+    void ShowText(const PlacedText& text)
+    {
+        const bool isMText = text.text->kind == TextKind::MText;
+        const std::string drawn =
+            DecodeText(ValueOf(m_parts->file, *text.text), m_parts->file.charset, isMText).text;
+        std::string shown;
+        for (std::size_t begin = 0; begin <= drawn.size();) {
+            const std::size_t end = std::min(drawn.find('\n', begin), drawn.size());
+            shown += begin > 0 ? "\n" : "";
+            shown += ShowPlain(PlainText(std::string_view(drawn).substr(begin, end - begin)));
+            begin = end + 1;
+        }
+        TextPlace place = text.place;
+        if (isMText && text.text->attachment <= 3) {  // its position is the upper edge
+            const double angle = place.angle * std::numbers::pi / 180.0;
+            place.at.x += place.height * std::sin(angle);
+            place.at.y -= place.height * std::cos(angle);
+        }
+        m_parts->behind.texts.push_back({std::move(shown), place});
+    }
+
+public:
+    // The texts in place that one text of the drawing is for its beam.
+    static std::vector<InPlace> InPlaceOf(const Drawing::Parts& parts, std::size_t text,
+                                          const OwnerText& owner)
+    {
+        std::vector<InPlace> all;
+        const TextLine& line = parts.found.lines[parts.lineOf[text]];
+        for (const OwnerRole& role : owner.roles) {
+            const Annotation& annotation = line.annotations[role.annotation];
+            InPlace each;
+            each.role = role.role;
+            each.number = role.number;
+            each.text = annotation.text;
+            each.place = PlaceOf(line, annotation);
+            each.drawn = static_cast<int>(text);
+            all.push_back(std::move(each));
+        }
+        return all;
+    }
+
+private:
+    static constexpr std::size_t None = ~std::size_t{0};
+
+    std::unique_ptr<Drawing::Parts> m_parts;
+    Project m_kept;                     // what the companion holds
+    std::vector<std::size_t> m_textOf;  // by line: index of the texts, or None
 };
 
 Drawing::Drawing(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}
@@ -18,34 +340,143 @@ Drawing::~Drawing() = default;
 
 Drawing Drawing::Read(const std::filesystem::path& file)
 {
-    return Parse(ReadWholeFile(file), file.string());
+    std::string bytes = ReadWholeFile(file, LongestDrawing);
+    const std::filesystem::path companion = CompanionFile(file);
+    std::error_code unknown;
+    return Parse(std::move(bytes), file.string(),
+                 std::filesystem::exists(companion, unknown) ? ReadWholeFile(companion) : std::string());
 }
 
-Drawing Drawing::Parse(std::string /*bytes*/, const std::string& /*name*/, std::string_view /*companion*/)
+Drawing Drawing::Parse(std::string bytes, const std::string& name, std::string_view companion)
 {
-    return Drawing(std::make_unique<Parts>());
+    return Drawing(DrawingReader(std::move(bytes), name, companion).Read());
 }
 
 const Project& Drawing::Get() const { return m_parts->project; }
-const Backdrop& Drawing::Behind() const { return m_parts->backdrop; }
+const Backdrop& Drawing::Behind() const { return m_parts->behind; }
 const std::vector<AnnotationText>& Drawing::Texts() const { return m_parts->texts; }
-std::string Drawing::Written(const Project& /*edited*/) const { return {}; }
-std::string Drawing::CompanionOf(const Project& /*edited*/) { return {}; }
-void Drawing::Save(const Project& edited, const std::filesystem::path& file) const
+std::string Drawing::Written(const Project& edited) const { return WriteEdited(*m_parts, edited); }
+
+std::string Drawing::CompanionOf(const Project& edited)
 {
-    ReplaceFile(file, Written(edited));
+    Project kept;
+    kept.title = edited.title;
+    kept.walls = edited.walls;
+    kept.axesAcross = edited.axesAcross;
+    kept.axesUp = edited.axesUp;
+    kept.pointed = edited.pointed;
+    kept.inFile = edited.inFile;
+    const Beam usual;
+    const auto isUsual = [&usual](const Beam& beam) {
+        const SteelArea& area = beam.area;
+        return area.top == 0 && area.bottom == 0 && area.leftEnd == 0 && area.rightEnd == 0 &&
+               beam.concreteGrade == usual.concreteGrade && beam.seismicClass == usual.seismicClass &&
+               beam.floor.empty();
+    };
+    std::map<std::string, std::size_t> ofName;  // how many entries a name needs, so that each finds its own
+    for (const Beam& beam : edited.beams) {
+        ofName[beam.name] += isUsual(beam) ? 0 : 1;
+    }
+    for (const Beam& beam : edited.beams) {
+        if (ofName[beam.name] == 0) {
+            continue;
+        }
+        Beam& each = kept.beams.emplace_back();
+        each.name = beam.name;
+        each.area = beam.area;
+        each.concreteGrade = beam.concreteGrade;
+        each.seismicClass = beam.seismicClass;
+        each.floor = beam.floor;
+    }
+    const bool isEmpty = kept.title.empty() && kept.walls.empty() && kept.axesAcross.empty() &&
+                         kept.axesUp.empty() && kept.pointed.empty() && kept.beams.empty();
+    return isEmpty ? std::string() : FormatProject(kept);
 }
 
-std::optional<Drawing::Pointed> Drawing::PointTo(const Project& /*project*/, std::size_t /*text*/,
-                                                 const PlanPoint& /*at*/) const
+void Drawing::Save(const Project& edited, const std::filesystem::path& file) const
 {
+    const std::string bytes = Written(edited);
+    std::string companion = CompanionOf(edited);
+    std::error_code error;
+    const std::filesystem::path beside = CompanionFile(file);
+    if (companion.empty() && std::filesystem::exists(beside, error)) {
+        companion = FormatProject(Project());  // what it held is no longer so
+    }
+    if (!companion.empty()) {
+        ReplaceFile(beside, companion);
+    }
+    const std::filesystem::path old = std::filesystem::canonical(file, error);
+    if (!error) {
+        KeepCopy(old, old.string() + ".bak");
+    }
+    ReplaceFile(file, bytes);
+}
+
+std::optional<Drawing::Pointed> Drawing::PointTo(const Project& project, std::size_t text,
+                                                 const PlanPoint& at) const
+{
+    const std::size_t line = m_parts->lineOf.at(text);
+    if (m_parts->texts[text].inPlace) {
+        const std::optional<OwnerText> owner = m_parts->owners->TextAt(line, at);
+        if (!owner) {
+            return std::nullopt;
+        }
+        Pointed pointed{*owner->beam, project.beams.at(*owner->beam), {}};
+        pointed.ref = {false, pointed.beam, RowOf(owner->roles.front().role).field,
+                       static_cast<int>(pointed.as.inPlace.size())};
+        for (InPlace& each : DrawingReader::InPlaceOf(*m_parts, text, *owner)) {
+            pointed.as.inPlace.push_back(std::move(each));
+        }
+        return pointed;
+    }
+    for (std::size_t i = 0; i < m_parts->found.labels.size(); ++i) {
+        if (m_parts->found.labels[i].lines.front() == line) {
+            const std::optional<OwnerBeam> owner = m_parts->owners->BeamAt(i, at);
+            if (!owner) {
+                return std::nullopt;
+            }
+            Pointed pointed{i, project.beams.at(i), {false, i, Field::Name}};
+            SetAxis(pointed.as, *owner);
+            return pointed;
+        }
+    }
     return std::nullopt;
+}
+
+std::optional<Source> Drawing::Parts::SourceOf(const InPlace& text) const
+{
+    if (text.drawn < 0 || static_cast<std::size_t>(text.drawn) >= lineOf.size()) {
+        return std::nullopt;
+    }
+    const std::size_t line = lineOf[static_cast<std::size_t>(text.drawn)];
+    const std::vector<Annotation>& annotations = found.lines[line].annotations;
+    const Field field = text.role == Role::TopSupport ? Field::TopBars : RowOf(text.role).field;
+    std::optional<Source> open;  // plain bars below a beam
+    for (std::size_t i = 0; i < annotations.size(); ++i) {
+        if (annotations[i].field == field) {
+            return Source{line, i};
+        }
+        if (annotations[i].field == Field::TopBars && text.role == Role::Bottom) {
+            open = Source{line, i};
+        }
+    }
+    return open;
 }
 
 bool IsDrawing(std::string_view bytes)
 {
     const std::size_t first = bytes.find_first_not_of(" \t\r\n\xEF\xBB\xBF");
-    return first != std::string_view::npos && bytes[first] != '{' && bytes[first] != '[';
+    if (first == std::string_view::npos) {
+        return false;
+    }
+    const std::string_view rest = bytes.substr(first);
+    const auto isDigit = [](char ch) { return ch >= '0' && ch <= '9'; };
+    const std::size_t digits =
+        static_cast<std::size_t>(std::find_if_not(rest.begin(), rest.end(), isDigit) - rest.begin());
+    const std::size_t code = rest.find_first_not_of(" \t", digits);
+    const bool isPair = digits > 0 && digits <= 4 && code != std::string_view::npos &&
+                        (rest[code] == '\n' || rest[code] == '\r');
+    return isPair || rest.starts_with("AutoCAD Binary DXF") || rest.starts_with("AC10");
 }
 
 std::filesystem::path CompanionFile(const std::filesystem::path& file)
@@ -55,12 +486,20 @@ std::filesystem::path CompanionFile(const std::filesystem::path& file)
 
 Opened OpenFile(const std::filesystem::path& file)
 {
-    std::string bytes = ReadWholeFile(file);
+    std::string bytes = ReadWholeFile(file, LongestDrawing);
     if (!IsDrawing(bytes)) {
+        if (bytes.size() > MaxFileSize) {
+            bytes = ReadWholeFile(file);  // says that it is too long
+        }
         return {ParseProject(bytes, file.string()), std::nullopt};
     }
-    Drawing drawing = Drawing::Read(file);
-    return {drawing.Get(), std::move(drawing)};
+    const std::filesystem::path companion = CompanionFile(file);
+    std::error_code unknown;
+    Drawing drawing = Drawing::Parse(std::move(bytes), file.string(),
+                                     std::filesystem::exists(companion, unknown) ? ReadWholeFile(companion)
+                                                                                 : std::string());
+    Project project = drawing.Get();
+    return {std::move(project), std::move(drawing)};
 }
 
 Project OpenProject(const std::string& file)

@@ -36,6 +36,8 @@ public:
     // The same in memory; name stands for the file in messages, companion is the companion's text or empty.
     [[nodiscard]] static Drawing Parse(std::string bytes, const std::string& name,
                                        std::string_view companion = {});
+    struct Parts;
+    explicit Drawing(std::unique_ptr<Parts> parts);
     Drawing(Drawing&&) noexcept;
     Drawing& operator=(Drawing&&) noexcept;
     ~Drawing();
@@ -68,8 +70,6 @@ public:
                                                  const PlanPoint& at) const;
 
 private:
-    struct Parts;
-    explicit Drawing(std::unique_ptr<Parts> parts);
     std::unique_ptr<Parts> m_parts;
 };
 

@@ -30,9 +30,6 @@ void SaveProject(const Project& project, const std::filesystem::path& file);
 // The embedded sample project: one floor of a building.
 [[nodiscard]] Project SampleProject();
 
-// The project of a file, the sample for an empty name.
-[[nodiscard]] Project LoadProject(const std::string& file);
-
 // "Office building, third floor (embedded sample)", or with the file's name.
 [[nodiscard]] std::string TitleOf(const Project& project, const std::string& file);
 

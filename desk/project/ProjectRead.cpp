@@ -335,8 +335,6 @@ Project ReadProject(const std::filesystem::path& file)
     return ParseProject(ReadWholeFile(file), file.string());
 }
 
-Project LoadProject(const std::string& file) { return file.empty() ? SampleProject() : ReadProject(file); }
-
 std::string TitleOf(const Project& project, const std::string& file)
 {
     const std::string origin = file.empty() ? "embedded sample" : file;

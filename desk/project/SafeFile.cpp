@@ -247,7 +247,7 @@ void SyncFolder(const fs::path& target)
 
 }  // namespace
 
-std::string ReadWholeFile(const fs::path& file)
+std::string ReadWholeFile(const fs::path& file, std::size_t limit)
 {
     const Descriptor descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC));
     if (!descriptor.IsOpen()) {
@@ -267,11 +267,19 @@ std::string ReadWholeFile(const fs::path& file)
             FailWith(file, Phrase("Desk", "%1: cannot be read: %2"), errno);
         }
         text.append(block.data(), static_cast<std::size_t>(count));
-        if (text.size() > MaxFileSize) {
+        if (text.size() > limit) {
             throw Failure(Phrase("Desk", "%1:1:1: longer than %2 MiB, no project is that long"),
-                          file.string(), std::to_string(MaxFileSize >> 20U));
+                          file.string(), std::to_string(limit >> 20U));
         }
     }
+}
+
+void KeepCopy(const fs::path& file, const fs::path& copy)
+{
+    if (link(file.c_str(), copy.c_str()) == 0 || errno == EEXIST) {
+        return;
+    }
+    ReplaceFile(copy, ReadWholeFile(file, std::size_t{1} << 40U));  // a file system without second names
 }
 
 void ReplaceFile(const fs::path& file, std::string_view text)

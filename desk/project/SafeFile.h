@@ -10,8 +10,12 @@ namespace Desk {
 // 64 MiB, about a hundred thousand beams: what is longer is taken for no project.
 inline constexpr std::size_t MaxFileSize = std::size_t{64} << 20;
 
-// Throws Failure when the file cannot be read, is a folder, or is longer than MaxFileSize.
-[[nodiscard]] std::string ReadWholeFile(const std::filesystem::path& file);
+// Throws Failure when the file cannot be read, is a folder, or is longer than the limit in bytes.
+[[nodiscard]] std::string ReadWholeFile(const std::filesystem::path& file, std::size_t limit = MaxFileSize);
+
+// Keeps an ordinary file under a second name, unless that exists: the one that ReplaceFile takes the first
+// name from. Throws Failure when it cannot.
+void KeepCopy(const std::filesystem::path& file, const std::filesystem::path& copy);
 
 // Writes a new file in the same folder, syncs it, renames it over the old one and syncs the folder. A
 // symbolic link is followed and stays; the old file's mode stays, and its owner where the system lets us.

@@ -66,10 +66,24 @@ void Docks::Show(const std::optional<FieldRef>& chosen)
 {
     m_chosen = chosen;
     m_properties->Show(m_document.Get(), chosen);
-    const bool beam = chosen && !chosen->isWall;
-    m_sketch->SetBeam(beam ? &m_document.Get().beams[chosen->index] : nullptr,
-                      beam ? chosen->field : Field::TopBars);
+    ShowSection();
     ShowChoices();
+}
+
+void Docks::ShowSection()
+{
+    if (!m_chosen || m_chosen->isWall) {
+        m_sketch->SetBeam(nullptr);
+        return;
+    }
+    const Beam& beam = m_document.Get().beams[m_chosen->index];
+    if (m_chosen->inPlace < 0) {
+        m_sketch->SetBeam(&beam, m_chosen->field);
+        return;
+    }
+    const InPlace& text = beam.inPlace[static_cast<std::size_t>(m_chosen->inPlace)];
+    const Beam at = BeamAt(beam, text);
+    m_sketch->SetBeam(&at, FieldAt(beam, text));
 }
 
 void Docks::ShowChoices()
@@ -85,7 +99,7 @@ void Docks::ShowChoices()
     } catch (const Failure& failure) {
         emit Failed(Told(failure));
     }
-    m_choices->SetChoices(OwnerName(project, *m_chosen), FieldName(m_chosen->field),
+    m_choices->SetChoices(OwnerName(project, *m_chosen), FieldName(project, *m_chosen),
                           QString::fromStdString(TextAt(project, *m_chosen)), ranking,
                           m_chosen->field == Field::Name);
     m_choices->SetPanelEnabled(PanelOf(*m_chosen) != PanelKind::None);

@@ -46,6 +46,7 @@ signals:
 private:
     QDockWidget* AddDock(QMainWindow& window, QWidget* inside, const char* name);
     void ShowChoices();
+    void ShowSection();
 
     const Document& m_document;
     std::optional<FieldRef> m_chosen;

@@ -30,7 +30,8 @@ public:
     TextChange(Document& document, const FieldRef& ref, std::string text)
         : m_document(document), m_ref(ref), m_before(TextAt(document.Get(), ref)), m_after(std::move(text))
     {
-        setText(QStringLiteral("%1: %2").arg(OwnerName(document.Get(), ref), FieldName(ref.field)));
+        setText(
+            QStringLiteral("%1: %2").arg(OwnerName(document.Get(), ref), FieldName(document.Get(), ref)));
     }
 
     void undo() override { m_document.PutText(m_ref, m_before); }

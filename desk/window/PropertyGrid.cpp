@@ -1,5 +1,7 @@
 #include "desk/window/PropertyGrid.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "desk/window/FieldNames.h"
@@ -11,7 +13,6 @@ namespace {
 constexpr int CaptionColumn = 0;
 constexpr int ValueColumn = 1;
 constexpr int ButtonColumn = 2;
-constexpr int FieldRole = Qt::UserRole;
 
 // Only values are edited in place.
 class ValueDelegate : public QStyledItemDelegate {
@@ -66,23 +67,30 @@ PropertyGrid::PropertyGrid(QWidget* parent) : QTreeWidget(parent)
 void PropertyGrid::Show(const Project& project, const std::optional<FieldRef>& ref)
 {
     const QScopedValueRollback filling(m_isFilling, true);
-    const bool same = ref && m_owner && ref->isWall == m_owner->isWall && ref->index == m_owner->index &&
-                      topLevelItemCount() > 0;
+    std::vector<FieldRef> refs = ref ? RefsOf(project, *ref) : std::vector<FieldRef>();
+    const bool same = refs == m_refs;
+    m_refs = std::move(refs);
     if (!same) {
         clear();
     }
-    m_owner = ref;
     if (!ref) {
         return;
     }
     if (!same) {
-        for (const Field field : ref->isWall ? WallFields() : BeamFields()) {
-            AddText(project, {ref->isWall, ref->index, field});
+        for (const FieldRef& each : m_refs) {
+            AddText(project, each);
         }
         if (ref->isWall) {
             AddFixed(tr("Thickness"), QStringLiteral("%1 mm").arg(project.walls[ref->index].thickness));
         } else {
             const Beam& beam = project.beams[ref->index];
+            if (!beam.spans.empty()) {
+                QStringList lengths;
+                for (const double length : beam.spans) {
+                    lengths << QString::number(std::round(length), 'f', 0);
+                }
+                AddFixed(tr("Spans"), QStringLiteral("%1 mm").arg(lengths.join(QStringLiteral(" + "))));
+            }
             AddFixed(tr("Floor"), QString::fromStdString(beam.floor));
             AddFixed(tr("Concrete"), QStringLiteral("C%1").arg(beam.concreteGrade));
             AddFixed(tr("Seismic class"), QString::number(beam.seismicClass));
@@ -92,8 +100,7 @@ void PropertyGrid::Show(const Project& project, const std::optional<FieldRef>& r
             AddFixed(tr("Required bottom"), QStringLiteral("%1 mm²").arg(beam.area.bottom));
         }
     } else {
-        for (const Field field : ref->isWall ? WallFields() : BeamFields()) {
-            const FieldRef each{ref->isWall, ref->index, field};
+        for (const FieldRef& each : m_refs) {
             RowOf(each)->setText(ValueColumn, QString::fromStdString(TextAt(project, each)));
         }
     }
@@ -138,15 +145,15 @@ void PropertyGrid::TellEdited()
 void PropertyGrid::AddText(const Project& project, const FieldRef& ref)
 {
     auto* const row =
-        new QTreeWidgetItem(this, {FieldName(ref.field), QString::fromStdString(TextAt(project, ref))});
-    row->setData(CaptionColumn, FieldRole, static_cast<int>(ref.field));
+        new QTreeWidgetItem(this, {FieldName(project, ref), QString::fromStdString(TextAt(project, ref))});
     row->setFlags(row->flags() | Qt::ItemIsEditable);
     if (PanelOf(ref) == PanelKind::None) {
         return;
     }
     auto* const open = new QToolButton;
     open->setText(QStringLiteral("..."));
-    open->setObjectName(QStringLiteral("open-%1").arg(static_cast<int>(ref.field)));
+    open->setObjectName(QStringLiteral("open-%1").arg(ref.inPlace < 0 ? static_cast<int>(ref.field)
+                                                                      : indexOfTopLevelItem(row)));
     open->setAutoRaise(true);
     open->setFocusPolicy(Qt::NoFocus);
     open->setToolTip(tr("Opens the panel that composes the text by mouse"));
@@ -168,27 +175,18 @@ void PropertyGrid::AddFixed(const QString& caption, const QString& value)
     }
 }
 
+// The rows of annotations are the first ones.
 std::optional<FieldRef> PropertyGrid::RefOf(const QTreeWidgetItem* row) const
 {
-    if (row == nullptr || !m_owner || !row->data(CaptionColumn, FieldRole).isValid()) {
-        return std::nullopt;
-    }
-    return FieldRef{m_owner->isWall, m_owner->index,
-                    static_cast<Field>(row->data(CaptionColumn, FieldRole).toInt())};
+    const auto place = static_cast<std::size_t>(
+        row != nullptr ? indexOfTopLevelItem(const_cast<QTreeWidgetItem*>(row)) : -1);
+    return place < m_refs.size() ? std::optional(m_refs[place]) : std::nullopt;
 }
 
 QTreeWidgetItem* PropertyGrid::RowOf(const FieldRef& ref) const
 {
-    if (!m_owner || ref.isWall != m_owner->isWall || ref.index != m_owner->index) {
-        return nullptr;
-    }
-    for (int i = 0; i < topLevelItemCount(); ++i) {
-        const std::optional<FieldRef> each = RefOf(topLevelItem(i));
-        if (each && each->field == ref.field) {
-            return topLevelItem(i);
-        }
-    }
-    return nullptr;
+    const auto found = std::find(m_refs.begin(), m_refs.end(), ref);
+    return found == m_refs.end() ? nullptr : topLevelItem(static_cast<int>(found - m_refs.begin()));
 }
 
 }  // namespace Desk

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "desk/Toolkit.h"
 #include "desk/project/Fields.h"
@@ -36,7 +37,7 @@ private:
 
     void TellEdited();
 
-    std::optional<FieldRef> m_owner;                       // its field does not count
+    std::vector<FieldRef> m_refs;                          // of the rows
     std::optional<std::pair<FieldRef, QString>> m_edited;  // not yet told
     bool m_isFilling = false;
 };

@@ -107,7 +107,8 @@ void Selection::Take(const FieldRef& asked, const QString& text)
     if (now == before) {
         Show();  // a change has shown itself
     }
-    emit Said(QStringLiteral("%1, %2: %3").arg(owner, FieldName(ref.field), QString::fromStdString(now)));
+    emit Said(QStringLiteral("%1, %2: %3")
+                  .arg(owner, FieldName(m_document.Get(), ref), QString::fromStdString(now)));
 }
 
 }  // namespace Desk

@@ -31,10 +31,26 @@ FieldRef Start(const Project& project, int by)
     return OwnerAt(project, by > 0 ? OwnerCount(project) - 1 : 0);
 }
 
-std::ptrdiff_t PlaceOf(const FieldRef& ref)
+// Of all annotations of its beam or wall.
+std::size_t PlaceOf(const std::vector<FieldRef>& refs, const FieldRef& ref)
 {
-    const std::span<const Field> fields = FieldsOf(ref);
-    return std::find(fields.begin(), fields.end(), ref.field) - fields.begin();
+    return static_cast<std::size_t>(std::find(refs.begin(), refs.end(), ref) - refs.begin());
+}
+
+// The annotation of an owner that is to it what the given one is to its own.
+FieldRef Alike(const Project& project, FieldRef owner, const FieldRef& from)
+{
+    owner.field = from.field;
+    if (from.inPlace < 0) {
+        return owner;
+    }
+    const InPlace& text = project.beams[from.index].inPlace[static_cast<std::size_t>(from.inPlace)];
+    const auto& there = project.beams[owner.index].inPlace;
+    const auto found = std::find_if(there.begin(), there.end(), [&text](const InPlace& other) {
+        return other.role == text.role && other.number == text.number;
+    });
+    owner.inPlace = found == there.end() ? -1 : static_cast<int>(found - there.begin());
+    return owner;
 }
 
 }  // namespace
@@ -44,9 +60,8 @@ std::optional<FieldRef> StepField(const Project& project, const std::optional<Fi
     if (!from) {
         return StepOwner(project, from, by);
     }
-    const std::span<const Field> fields = FieldsOf(*from);
-    const std::size_t next = Around(static_cast<std::size_t>(PlaceOf(*from)), by, fields.size());
-    return FieldRef{from->isWall, from->index, fields[next]};
+    const std::vector<FieldRef> refs = RefsOf(project, *from);
+    return refs[Around(PlaceOf(refs, *from), by, refs.size())];
 }
 
 std::optional<FieldRef> StepOwner(const Project& project, const std::optional<FieldRef>& from, int by)
@@ -55,12 +70,9 @@ std::optional<FieldRef> StepOwner(const Project& project, const std::optional<Fi
     if (count == 0) {
         return std::nullopt;
     }
-    FieldRef next =
+    const FieldRef next =
         OwnerAt(project, Around(NumberOf(project, from.value_or(Start(project, by))), by, count));
-    if (from && from->isWall == next.isWall) {
-        next.field = from->field;
-    }
-    return next;
+    return from && from->isWall == next.isWall ? Alike(project, next, *from) : next;
 }
 
 std::optional<FieldRef> FindText(const Project& project, const std::optional<FieldRef>& from, int by,
@@ -70,23 +82,18 @@ std::optional<FieldRef> FindText(const Project& project, const std::optional<Fie
     if (count == 0) {
         return std::nullopt;
     }
-    const auto edge = [](const FieldRef& owner, bool last) {
-        return last ? FieldsOf(owner).back() : FieldsOf(owner).front();
-    };
     FieldRef ref = from.value_or(Start(project, by));
-    if (!from) {
-        ref.field = edge(ref, by > 0);
-    }
-    const FieldRef start = ref;
+    std::vector<FieldRef> refs = RefsOf(project, ref);
+    std::size_t place = from ? PlaceOf(refs, ref) : by > 0 ? refs.size() - 1 : 0;
+    const FieldRef start = refs[place];
     do {
-        const std::span<const Field> fields = FieldsOf(ref);
-        const std::ptrdiff_t place = PlaceOf(ref) + by;
-        if (place >= 0 && place < std::ssize(fields)) {
-            ref.field = fields[static_cast<std::size_t>(place)];
+        if (place == (by > 0 ? refs.size() - 1 : 0)) {
+            refs = RefsOf(project, OwnerAt(project, Around(NumberOf(project, ref), by, count)));
+            place = by > 0 ? 0 : refs.size() - 1;
         } else {
-            ref = OwnerAt(project, Around(NumberOf(project, ref), by, count));
-            ref.field = edge(ref, by < 0);
+            place = Around(place, by, refs.size());
         }
+        ref = refs[place];
         if (QString::fromStdString(TextAt(project, ref)).contains(wanted, Qt::CaseInsensitive)) {
             return ref;
         }

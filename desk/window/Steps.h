@@ -13,10 +13,11 @@ namespace Desk {
 // by is 1 for the next one, -1 for the previous one; from nothing: the first one, or the last. Nothing for
 // a project without beams and walls.
 
-// Another field of the same beam or wall.
+// Another annotation of the same beam or wall, the texts in place after the others.
 [[nodiscard]] std::optional<FieldRef> StepField(const Project& project, const std::optional<FieldRef>& from,
                                                 int by);
-// The same field of another beam or wall; its name where it does not have the field.
+// The same field of another beam or wall; its name where it does not have the field. From a text in place:
+// that at the same support or span, else the field that serves it.
 [[nodiscard]] std::optional<FieldRef> StepOwner(const Project& project, const std::optional<FieldRef>& from,
                                                 int by);
 // Another text that contains the wanted one in any case of letters, the one that is left at last; nothing

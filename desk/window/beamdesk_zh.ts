@@ -132,20 +132,8 @@
         <translation>“%1”含有 GBK 中没有的字符</translation>
     </message>
     <message>
-        <source>a whole number</source>
-        <translation>整数</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; must be a whole number from %2 to %3</source>
         <translation>“%1”应为 %2 至 %3 的整数</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; must be two coordinates in mm up to 1000000000, as in [0, 8400]</source>
-        <translation>“%1”应为两个坐标值，单位 mm，不超过 1000000000，例如 [0, 8400]</translation>
-    </message>
-    <message>
-        <source>%1 without a &quot;name&quot;</source>
-        <translation>%1缺少编号“name”</translation>
     </message>
     <message>
         <source>a beam</source>
@@ -487,6 +475,34 @@
         <source>&quot;%1&quot;</source>
         <translation>“%1”</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; must be a number from %2 to %3</source>
+        <translation>“%1”应为 %2 至 %3 的数字</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be two coordinates in mm up to %2, as in [0, 8400]</source>
+        <translation>“%1”应为两个坐标值，单位 mm，不超过 %2，例如 [0, 8400]</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a list of at most %2 lengths in mm</source>
+        <translation>“%1”应为长度列表，最多 %2 个，单位 mm</translation>
+    </message>
+    <message>
+        <source>the length of a span must be more than 0 mm and at most %1</source>
+        <translation>跨长应大于 0 mm，不超过 %1</translation>
+    </message>
+    <message>
+        <source>%1 without a &quot;%2&quot;</source>
+        <translation>%1缺少“%2”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be one of %2</source>
+        <translation>“%1”应为下列之一：“%2”</translation>
+    </message>
+    <message>
+        <source>a text in place</source>
+        <translation>原位标注</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>
@@ -719,6 +735,10 @@
     <message>
         <source>Opens the panel that composes the text by mouse</source>
         <translation>打开鼠标组合面板</translation>
+    </message>
+    <message>
+        <source>Spans</source>
+        <translation>跨长</translation>
     </message>
 </context>
 <context>

@@ -74,7 +74,10 @@ TEST(Languages, FailuresAreToldInTheLanguageOfTheWindow)
     }
     for (const char* const member :
          {R"("side": 1)", R"("side": "\n")", R"("side": "😀")", R"("seismicClass": "")",
-          R"("seismicClass": 9)", R"("area": 9)", R"("end": 9)"}) {
+          R"("seismicClass": 9)", R"("area": 9)", R"("end": 9)", R"("spans": 9)", R"("spans": [0])",
+          R"("inPlace": [9])", R"("inPlace": [{}])", R"("inPlace": [{"role": "x"}])",
+          R"("inPlace": [{"role": "stirrup"}])",
+          R"("inPlace": [{"role": "side", "span": 1, "height": -1}])"}) {
         wrong.push_back(R"({"version": 1, "beams": [{"name": "L1", )" + std::string(member) + "}]}");
     }
     std::vector<std::function<void()>> failing = {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "desk/project/Encoding.h"
+#include "desk/project/ProjectFile.h"
 #include "desk/window/MainWindow.h"
 #include "desk/window/ScreenReport.h"
 #include "platform/windows/Hands.h"
@@ -370,6 +371,100 @@ TEST_F(MainWindowTest, KeysGoFromAnnotationToAnnotationAndTheSearchFinds)
     QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     QCoreApplication::sendEvent(&window, &enter);  // as the line passes it on
     EXPECT_EQ(window.focusWidget(), &search) << "the next Enter searches on";
+}
+
+// A project with texts in place, opened from a file.
+class TextsInPlaceTest : public MainWindowTest {
+protected:
+    TextsInPlaceTest()
+    {
+        Project project = SampleProject();
+        project.beams.resize(3);
+        project.walls.clear();
+        project.beams[0].spans = {6000, 5700};
+        project.beams[0].inPlace = {{Role::TopSupport, 2, "2B20+2B18", {}, -1, {}},
+                                    {Role::Bottom, 1, "3B25", {}, -1, {}}};
+        project.beams[1].inPlace = {{Role::Bottom, 2, "7B20", {}, -1, {}},
+                                    {Role::TopSupport, 2, "6B20 4/2", {}, -1, {}}};
+        SaveProject(project, folder.filePath("p.json").toStdString());
+        window.Files().Open(folder.filePath("p.json"));
+    }
+
+    const FieldRef support{false, 0, Field::LeftEnd, 0};
+    const FieldRef bottom{false, 0, Field::BottomBars, 1};
+    QTemporaryDir folder;
+};
+
+TEST_F(TextsInPlaceTest, AreStepsAndFound)
+{
+    window.Choose(FieldRef{false, 0, Field::Side});
+    const std::pair<const char*, FieldRef> steps[] = {
+        {"nextField", support},
+        {"nextField", bottom},
+        {"nextField", {false, 0, Field::Name}},
+        {"previousField", bottom},
+        {"previousField", support},
+        {"nextOwner", {false, 1, Field::LeftEnd, 1}},  // the text at that support
+        {"previousField", {false, 1, Field::BottomBars, 0}},
+        {"nextOwner", {false, 2, Field::BottomBars}},  // there is none in place
+    };
+    for (const auto& [action, ref] : steps) {
+        Trigger(action);
+        EXPECT_EQ(window.Chosen(), ref) << action;
+    }
+    window.Choose(std::nullopt);
+    Find<QLineEdit>("search").setText("b20 4/");
+    for (const char* const find : {"findNext", "findPrevious"}) {
+        Trigger(find);
+        EXPECT_EQ(window.Chosen(), (FieldRef{false, 1, Field::LeftEnd, 1}));
+        window.Choose(FieldRef{false, 2, Field::Name});
+    }
+}
+
+TEST_F(TextsInPlaceTest, AreTakenFromAnOfferEditedComposedAndUndone)
+{
+    constexpr int Pieces = 1346;
+    window.Choose(support);
+    EXPECT_TRUE(Offer().contains("5B20 3/2")) << "the ends on the same through bars";
+    ClickOffer("5B20 3/2");
+    EXPECT_EQ(Text(support), "5B20 3/2");
+    EXPECT_TRUE(window.statusBar()->currentMessage().contains("Top bars at support 2: 5B20 3/2"));
+    window.Choose(bottom);
+    Trigger("undo");
+    EXPECT_EQ(window.Chosen(), support);
+    EXPECT_EQ(Text(support), "2B20+2B18");
+
+    auto& grid = Find<QTreeWidget>("properties");
+    const auto row = [&grid](const char* caption) {
+        const auto found = grid.findItems(caption, Qt::MatchExactly);
+        return found.isEmpty() ? nullptr : found.front();
+    };
+    ASSERT_NE(row("Bottom bars of span 1"), nullptr);
+    EXPECT_EQ(row("Spans")->text(1), "6000 + 5700 mm");
+    EXPECT_EQ(grid.currentItem(), row("Top bars at support 2"));
+    EXPECT_EQ(row("Top bars at support 2")->text(1), "2B20+2B18");
+    grid.setCurrentItem(row("Bottom bars of span 1"), 1);
+    EXPECT_EQ(window.Chosen(), bottom);
+    Trigger("edit");
+    grid.findChild<QLineEdit*>()->setText("4B25");
+    window.OpenPanel();  // takes it first
+    ASSERT_EQ(window.Panels().Serving(), bottom);
+    EXPECT_EQ(Text(bottom), "4B25");
+    EXPECT_EQ(Text({false, 0, Field::BottomBars}), "3B22") << "the beam's own stays";
+    EXPECT_EQ(qobject_cast<QListView*>(Control(Pieces).parentWidget())->model()->rowCount(), 1);
+    ClickRow(1338, "5");
+    QTest::mouseClick(&Control(1338), Qt::RightButton);
+    EXPECT_EQ(Text(bottom), "5B25");
+    Trigger("undo");
+    Trigger("undo");
+    EXPECT_EQ(Text(bottom), "3B25");
+    window.SetLanguage(Language::Chinese);
+    EXPECT_NE(row("第1跨下部筋"), nullptr);
+    window.SetLanguage(Language::English);
+    window.Choose(FieldRef{false, 1, Field::Name});
+    ASSERT_NE(row("Bottom bars of span 2"), nullptr);
+    EXPECT_EQ(row("Top bars at support 2")->text(1), "6B20 4/2");
+    EXPECT_EQ(row("Bottom bars of span 1"), nullptr);
 }
 
 TEST_F(MainWindowTest, UnsavedWorkIsNeverLeftWithoutAQuestion)

@@ -1,0 +1,306 @@
+// beamdesk set: one annotation of a project or drawing changed.
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "desk/console/Commands.h"
+#include "desk/console/Options.h"
+#include "desk/console/Print.h"
+#include "desk/drawing/Drawing.h"
+#include "desk/project/Encoding.h"
+#include "desk/project/FindBeam.h"
+#include "desk/project/ProjectFile.h"
+#include "desk/project/SafeFile.h"
+#include "desk/reading/Bars.h"
+#include "desk/reading/BeamName.h"
+#include "desk/reading/Section.h"
+#include "desk/reading/Stirrup.h"
+
+namespace Desk {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct SetOptions {
+    std::string project;
+    std::string beam;
+    std::string field;
+    std::string text;
+    std::string target;
+    std::optional<PlanPoint> at;
+    std::string handle;
+};
+
+std::string KeysOfBeams()
+{
+    return Joined(BeamFields(), [](Field field) { return RowOf(field).key; });
+}
+
+// Null for a word that is no key of a beam's annotation.
+const FieldRow* RowOfKey(const std::string& key)
+{
+    for (const Field field : BeamFields()) {
+        if (const FieldRow& row = RowOf(field); key == row.key) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+const FieldRow& RequireRow(const std::string& key)
+{
+    const FieldRow* const row = RowOfKey(key);
+    if (row == nullptr) {
+        throw Failure(Quoted(key) + " is no annotation of a beam; those are " + KeysOfBeams());
+    }
+    return *row;
+}
+
+void RequireText(const std::string& text)
+{
+    const auto isControl = [](char ch) { return static_cast<unsigned char>(ch) < 0x20 || ch == 0x7F; };
+    if (std::any_of(text.begin(), text.end(), isControl)) {
+        throw Failure("the text holds a control character");
+    }
+    if (!GbkFromUtf8(text)) {
+        throw Failure("the text is no UTF-8 or holds a character that GBK does not have");
+    }
+}
+
+// Whether the text is in the grammar of the field; an empty one is.
+bool IsOfField(const std::string& text, const FieldRow& row)
+{
+    const bool hasHead = *row.heads == '\0' || !HeadOf(text, row.heads).empty();
+    switch (row.ranker) {
+    case Ranker::Names: return ReadName(text).has_value();
+    case Ranker::Sections: return ReadSection(text).has_value();
+    case Ranker::Elevations: return ReadElevation(text).has_value();
+    case Ranker::Stirrups: return ReadStirrup(text).has_value();
+    case Ranker::Bars: return hasHead && ReadBars(text).has_value();
+    default: return true;
+    }
+}
+
+std::size_t TextsOf(const Project& project, std::size_t beam)
+{
+    const std::vector<FieldRef> refs = RefsOf(project, {false, beam});
+    return static_cast<std::size_t>(std::count_if(refs.begin(), refs.end(), [&](const FieldRef& ref) {
+        return ref.inPlace < 0 && !TextAt(project, ref).empty();
+    }));
+}
+
+double Distance(const Beam& beam, const PlanPoint& at)
+{
+    const PlanPoint way{beam.end.x - beam.start.x, beam.end.y - beam.start.y};
+    const PlanPoint to{at.x - beam.start.x, at.y - beam.start.y};
+    const double square = way.x * way.x + way.y * way.y;
+    const double part = square > 0.0 ? std::clamp((way.x * to.x + way.y * to.y) / square, 0.0, 1.0) : 0.0;
+    return std::hypot(to.x - part * way.x, to.y - part * way.y);
+}
+
+// Of the beams of that name the nearest to the position, without one the one with the most texts.
+std::size_t BeamNamed(const Project& project, const SetOptions& options)
+{
+    const std::string& name = FindBeam(project, options.beam).name;
+    std::optional<std::size_t> best;
+    for (std::size_t i = 0; i < project.beams.size(); ++i) {
+        if (project.beams[i].name != name) {
+            continue;
+        }
+        const bool isBetter = !best || (options.at ? Distance(project.beams[i], *options.at) <
+                                                         Distance(project.beams[*best], *options.at)
+                                                   : TextsOf(project, i) > TextsOf(project, *best));
+        best = isBetter ? i : best;
+    }
+    return *best;
+}
+
+// On a drawing the bars at a beam's ends are texts in place at its first and last support.
+FieldRef AtEnd(const Project& project, std::size_t beam, Field end)
+{
+    const std::vector<InPlace>& texts = project.beams[beam].inPlace;
+    int last = static_cast<int>(project.beams[beam].spans.size()) + 1;
+    for (const InPlace& text : texts) {
+        last = text.role == Role::TopSupport ? std::max(last, text.number) : last;
+    }
+    const int number = end == Field::LeftEnd ? 1 : last;
+    FieldRef ref{false, beam, end};
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const bool isThere = texts[i].role == Role::TopSupport && texts[i].number == number;
+        if (isThere && last > 1 && (ref.inPlace < 0 || TextAt(project, ref).empty())) {
+            ref = {false, beam, RowOf(Role::TopSupport).field, static_cast<int>(i)};
+        }
+    }
+    return ref;
+}
+
+FieldRef FieldOfBeam(const Opened& opened, std::size_t beam, Field field)
+{
+    if (!opened.drawing || field == Field::Name) {
+        return {false, beam, field};
+    }
+    const bool isEnd = field == Field::LeftEnd || field == Field::RightEnd;
+    return isEnd ? AtEnd(opened.project, beam, field)
+                 : FieldRef{false, WrittenOut(opened.project, beam), field};
+}
+
+// The annotation of a text in place that a word means: its role, or the field that serves it.
+FieldRef RefInPlace(const AnnotationText& text, const SetOptions& options)
+{
+    for (std::size_t i = 0; i < text.refs.size(); ++i) {
+        const bool isEnd = text.refs[i].field == Field::LeftEnd && options.field == "rightEnd";
+        if (isEnd || options.field == text.roles[i] || options.field == RowOf(text.refs[i].field).key) {
+            return text.refs[i];
+        }
+    }
+    throw Failure("text " + text.handle + " " + Quoted(text.text) + " has no " + options.field +
+                  "; it is " + Joined(text.roles, [](const std::string& role) { return role; }));
+}
+
+FieldRef RefByHandle(const Opened& opened, const SetOptions& options)
+{
+    if (!opened.drawing) {
+        throw Failure(options.project + ": a project file; handles are those of a drawing");
+    }
+    const std::vector<AnnotationText>& texts = opened.drawing->Texts();
+    const auto found = std::find_if(texts.begin(), texts.end(), [&](const AnnotationText& text) {
+        return CLI::detail::to_lower(text.handle) == CLI::detail::to_lower(options.handle);
+    });
+    if (found == texts.end()) {
+        throw Failure("no annotation has the handle " + options.handle +
+                      "; \"beamdesk labels\" lists all of them");
+    }
+    if (found->refs.empty()) {
+        throw Failure("text " + found->handle + " " + Quoted(found->text) +
+                      " is open: " + (found->open ? found->open->English() : "it has no beam"));
+    }
+    const Beam& beam = opened.project.beams[found->refs.front().index];
+    if (!options.beam.empty() && beam.name != FindBeam(opened.project, options.beam).name) {
+        throw Failure("text " + found->handle + " belongs to beam " + beam.name + ", not to " +
+                      options.beam);
+    }
+    return found->inPlace ? RefInPlace(*found, options)
+                          : FieldOfBeam(opened, found->refs.front().index, RequireRow(options.field).field);
+}
+
+void RequireSameKind(const SetOptions& options, bool isDrawing)
+{
+    const std::string kind = LowerCaseExtension(options.target);
+    if (isDrawing && kind == ".json") {
+        throw Failure(options.target +
+                      ": \"beamdesk import\" makes a project of a drawing; set writes a .dxf");
+    }
+    if (!isDrawing && kind == ".dxf") {
+        throw Failure(options.target +
+                      ": \"beamdesk export\" makes a drawing of a project; set writes a .json");
+    }
+}
+
+void Save(const Opened& opened, const Project& project, bool isChanged, const SetOptions& options)
+{
+    const std::string target = options.target.empty() ? options.project : options.target;
+    if (!isChanged && options.target.empty()) {
+        return;
+    }
+    if (opened.drawing) {
+        opened.drawing->Save(project, target);
+    } else if (isChanged) {
+        SaveProject(project, target);
+    } else {
+        ReplaceFile(target, ReadWholeFile(options.project));
+    }
+}
+
+void RunSet(const SetOptions& options, std::ostream& out)
+{
+    if (options.beam.empty() && options.handle.empty()) {
+        throw CLI::RequiredError("--beam NAME or --handle H");
+    }
+    RequireText(options.text);
+    const Opened opened = OpenFile(options.project);
+    RequireSameKind(options, opened.drawing.has_value());
+    const FieldRef ref = options.handle.empty() ? FieldOfBeam(opened, BeamNamed(opened.project, options),
+                                                              RequireRow(options.field).field)
+                                                : RefByHandle(opened, options);
+    Project project = opened.project;
+    const std::string before = TextAt(project, ref);
+    TextAt(project, ref) = options.text;
+    Save(opened, project, before != options.text, options);
+
+    const std::string name = opened.project.beams[ref.index].name;
+    out << name << ' ' << options.field << ": " << Visible(before)
+        << (before == options.text ? ", as it is" : " -> " + Visible(options.text)) << '\n';
+    if (!options.text.empty() && !IsOfField(options.text, RowOf(ref.field))) {
+        out.flush();
+        std::cerr << "note: " << Quoted(options.text) << " is not what " << options.field
+                  << " texts look like; it was written all the same\n";
+    }
+}
+
+std::optional<PlanPoint> ReadPosition(const std::string& text)
+{
+    PlanPoint at;
+    const char* const end = text.data() + text.size();
+    const auto [comma, first] = std::from_chars(text.data(), end, at.x);
+    if (first != std::errc() || comma == end || *comma != ',') {
+        return std::nullopt;
+    }
+    const auto [stop, second] = std::from_chars(comma + 1, end, at.y);
+    const bool isGood = second == std::errc() && stop == end && std::isfinite(at.x) && std::isfinite(at.y);
+    return isGood ? std::optional(at) : std::nullopt;
+}
+
+}  // namespace
+
+void AddSetCommand(CLI::App& program, std::ostream& out)
+{
+    CLI::App* const command =
+        program.add_subcommand("set", "Change one annotation of a beam in a project or drawing");
+    const auto options = std::make_shared<SetOptions>();
+    command->add_option("--project", options->project, "Project or drawing (.json, .dxf)")
+        ->required()
+        ->type_name("FILE");
+    command->add_option("--beam", options->beam, "Name of the beam, with or without its spans")
+        ->type_name("NAME");
+    command->add_option("FIELD", options->field, "Which annotation, see below")->required()->type_name("");
+    command->add_option("TEXT", options->text, "The new text; empty for none")->required()->type_name("");
+    command->add_option("-o,--output", options->target, "File to write; without it the file itself")
+        ->type_name("FILE");
+    CLI::Option* const at =
+        command
+            ->add_option_function<std::string>(
+                "--at",
+                [options](const std::string& text) {
+                    options->at = ReadPosition(text);
+                    if (!options->at) {
+                        throw CLI::ValidationError("--at: a position such as 8400,-1200 is required, not " +
+                                                   Quoted(text));
+                    }
+                },
+                "Of several beams of the name the one nearest to this position, in mm")
+            ->type_name("X,Y");
+    command
+        ->add_option("--handle", options->handle,
+                     "The beam of the label, or the text in place, with this handle in the drawing")
+        ->type_name("H")
+        ->excludes(at);
+    command->footer(
+        "FIELD is " + KeysOfBeams() +
+        ";\nwith --handle of a text in place its role as well. A beam of several with the same name is the "
+        "one\n"
+        "whose label is written out. In a drawing every byte outside the changed text stays as it is.\n\n"
+        "Examples:\n  beamdesk set --project floor.dxf --beam KL2 topBars 2B25\n"
+        "  beamdesk set --project floor.dxf --handle 1A3 bottom 4C22 -o changed.dxf");
+    command->callback([options, &out] { RunSet(*options, out); });
+}
+
+}  // namespace Desk

@@ -1,0 +1,538 @@
+// One pass over the pairs. An entity's pairs are gathered and turned into what is kept at the next code 0.
+#include "desk/drawing/Entities.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <numbers>
+#include <optional>
+
+#include "desk/drawing/Pairs.h"
+#include "desk/project/Failure.h"
+
+namespace Desk {
+
+namespace {
+
+constexpr std::uint32_t NoBlock = ~std::uint32_t{0};
+constexpr double ArcStep = 15.0;  // degrees of an arc that one line stands for
+
+double Radians(double degrees) { return degrees * std::numbers::pi / 180.0; }
+
+std::string Upper(std::string_view text)
+{
+    std::string upper(text);
+    std::transform(upper.begin(), upper.end(), upper.begin(),
+                   [](char ch) { return ch >= 'a' && ch <= 'z' ? static_cast<char>(ch - 32) : ch; });
+    return upper;
+}
+
+enum class EntityType {
+    Other,
+    Text,
+    MText,
+    Attrib,
+    Line,
+    LwPolyline,
+    Polyline,
+    Vertex,
+    SeqEnd,
+    Circle,
+    Arc,
+    Insert,
+    Dimension
+};
+
+EntityType TypeOf(std::string_view type)
+{
+    static const std::unordered_map<std::string_view, EntityType> kinds = {
+        {"TEXT", EntityType::Text},
+        {"MTEXT", EntityType::MText},
+        {"ATTRIB", EntityType::Attrib},
+        {"LINE", EntityType::Line},
+        {"LWPOLYLINE", EntityType::LwPolyline},
+        {"POLYLINE", EntityType::Polyline},
+        {"VERTEX", EntityType::Vertex},
+        {"SEQEND", EntityType::SeqEnd},
+        {"CIRCLE", EntityType::Circle},
+        {"ARC", EntityType::Arc},
+        {"INSERT", EntityType::Insert},
+        {"DIMENSION", EntityType::Dimension},
+    };
+    const auto found = kinds.find(type);
+    return found == kinds.end() ? EntityType::Other : found->second;
+}
+
+struct Vertex {
+    PlanPoint at;
+    double bulge = 0.0;
+};
+
+// The pairs of one entity, by what they mean.
+struct Entity {
+    EntityType kind = EntityType::Other;
+    Stretch record;
+    std::string_view handle;
+    std::string_view layer = "0";
+    std::string_view name;        // code 2
+    std::vector<Stretch> pieces;  // code 3
+    Stretch value;                // code 1
+    bool hasValue = false;
+    PlanPoint at;     // 10, 20
+    PlanPoint other;  // 11, 21
+    bool hasOther = false;
+    double number40 = 0.0;
+    double scale41 = 1.0;
+    double scale42 = 1.0;
+    double number44 = 0.0;
+    double number45 = 0.0;
+    double angle50 = 0.0;
+    double angle51 = 0.0;
+    int whole60 = 0;
+    int whole67 = 0;
+    int whole70 = 0;
+    int whole71 = 0;
+    int whole72 = 0;
+    int whole73 = 0;
+    int whole74 = 0;
+    double extrusion = 1.0;  // 230
+    std::vector<Vertex> vertices;
+};
+
+class Reader {
+public:
+    Reader(std::string bytes, const std::string& name) : m_name(name) { m_file.bytes = std::move(bytes); }
+
+    DxfFile Read()
+    {
+        RefuseOtherKinds();
+        const std::string_view all = m_file.bytes;
+        PairReader pairs(all, all.starts_with("\xEF\xBB\xBF") ? 3 : 0);
+        Pair pair;
+        bool isEnded = false;
+        while (!isEnded && pairs.Next(pair)) {
+            if (pair.code == 0) {
+                FinishEntity(pair.begin);
+                isEnded = BeginRecord(pair);
+            } else {
+                Take(pair);
+            }
+        }
+        if (!isEnded) {
+            FailAt(pairs.At(), pairs.At() >= all.size()
+                                   ? Phrase("Desk", "the file is cut off: its EOF is missing")
+                                   : Phrase("Desk", "a group code and a value are required here"));
+        }
+        LinkBlocks();
+        m_file.charset = CharsetFor(m_highBytes, m_notUtf8, m_fileSays);
+        return std::move(m_file);
+    }
+
+private:
+    [[noreturn]] void FailAt(std::size_t at, const Message& what) const
+    {
+        const std::string_view before = std::string_view(m_file.bytes).substr(0, at);
+        const auto line = std::count(before.begin(), before.end(), '\n') + 1;
+        throw Failure(Phrase("Desk", "%1:%2: %3"), m_name, std::to_string(line), what);
+    }
+
+    void RefuseOtherKinds() const
+    {
+        const std::string_view bytes = m_file.bytes;
+        if (bytes.starts_with("AutoCAD Binary DXF")) {
+            throw Failure(Phrase("Desk", "%1: a binary DXF; save it as ASCII DXF in the drawing program "
+                                         "(Save as, DXF, options: ASCII)"),
+                          m_name);
+        }
+        if (bytes.size() >= 6 && bytes.starts_with("AC10") && bytes.find('\n') > 6) {
+            throw Failure(Phrase("Desk", "%1: a DWG drawing; save it as ASCII DXF in the drawing program "
+                                         "(Save as, type DXF)"),
+                          m_name);
+        }
+    }
+
+    // True at the end of the file.
+    bool BeginRecord(const Pair& pair)
+    {
+        const std::string_view type = Trimmed(pair.value);
+        m_entity = Entity();
+        m_entity.record.begin = pair.begin;
+        if (type == "EOF") {
+            return true;
+        }
+        if (type == "SECTION") {
+            m_isSectionName = true;
+            return false;
+        }
+        m_isSectionName = false;
+        if (type == "ENDSEC") {
+            m_section = {};
+            m_in = nullptr;
+        } else if (m_section == "BLOCKS" && type == "BLOCK") {
+            m_file.blocks.emplace_back();
+            m_isBlockHead = true;
+        } else if (m_section == "BLOCKS" && type == "ENDBLK") {
+            m_isInBlock = false;
+            m_polyline.reset();
+        } else if (m_section == "TABLES" && type == "LAYER") {
+            m_isLayer = true;
+        } else {
+            m_entity.kind = TypeOf(type);
+            if (m_entity.kind == EntityType::Vertex) {
+                m_entity.scale42 = 0.0;  // its bulge
+            }
+        }
+        return false;
+    }
+
+    void Take(const Pair& pair)
+    {
+        if (m_isSectionName && pair.code == 2) {
+            m_section = Trimmed(pair.value);
+            m_isSectionName = false;
+            return;
+        }
+        if (m_section == "HEADER") {
+            TakeHeader(pair);
+            return;
+        }
+        if (pair.code == 5 || pair.code == 105) {
+            NoteHandle(pair.value);
+        }
+        if (m_section == "ENTITIES" || m_section == "BLOCKS" || m_isLayer) {
+            TakeEntity(pair);
+        }
+    }
+
+    void TakeHeader(const Pair& pair)
+    {
+        if (pair.code == 9) {
+            m_variable = Trimmed(pair.value);
+        } else if (m_variable == "$ACADVER") {
+            m_version = Trimmed(pair.value);
+            m_fileSays = m_version >= "AC1021" ? Charset::Utf8 : Charset::Gbk;
+        } else if (m_variable == "$HANDSEED") {
+            const std::string_view value = Trimmed(pair.value);
+            const std::size_t at =
+                pair.valueAt + static_cast<std::size_t>(value.data() - pair.value.data());
+            m_file.handSeed = {at, at + value.size()};
+            std::uint64_t seed = 0;
+            std::from_chars(value.data(), value.data() + value.size(), seed, 16);
+            m_file.nextHandle = std::max(m_file.nextHandle, seed);
+        } else if (m_variable == "$DIMLFAC" && RealOf(pair.value) > 0.0) {
+            m_file.unitScale = 1.0 / RealOf(pair.value);
+        }
+    }
+
+    void NoteHandle(std::string_view value)
+    {
+        value = Trimmed(value);
+        std::uint64_t handle = 0;
+        const auto [stop, error] = std::from_chars(value.data(), value.data() + value.size(), handle, 16);
+        if (error == std::errc() && handle < (std::uint64_t{1} << 60U)) {
+            m_file.nextHandle = std::max(m_file.nextHandle, handle + 1);
+        }
+    }
+
+    void TakeEntity(const Pair& pair)
+    {
+        Entity& e = m_entity;
+        const auto number = [&pair] { return RealOf(pair.value); };
+        const auto whole = [&pair] { return WholeOf(pair.value); };
+        const Stretch value{pair.valueAt, pair.valueAt + pair.value.size()};
+        switch (pair.code) {
+        case 1:
+            e.value = value;
+            e.hasValue = true;
+            break;
+        case 2: e.name = pair.value; break;
+        case 3: e.pieces.push_back(value); break;
+        case 5: e.handle = Trimmed(pair.value); break;
+        case 8: e.layer = pair.value; break;
+        case 10:
+            e.at.x = number();
+            if (e.kind == EntityType::LwPolyline) {
+                e.vertices.push_back({{e.at.x, 0.0}, 0.0});
+            }
+            break;
+        case 20:
+            e.at.y = number();
+            if (!e.vertices.empty()) {
+                e.vertices.back().at.y = e.at.y;
+            }
+            break;
+        case 11:
+            e.other.x = number();
+            e.hasOther = true;
+            break;
+        case 21: e.other.y = number(); break;
+        case 40: e.number40 = number(); break;
+        case 41: e.scale41 = number(); break;
+        case 42:
+            e.scale42 = number();
+            if (!e.vertices.empty()) {
+                e.vertices.back().bulge = e.scale42;
+            }
+            break;
+        case 44: e.number44 = number(); break;
+        case 45: e.number45 = number(); break;
+        case 50: e.angle50 = number(); break;
+        case 51: e.angle51 = number(); break;
+        case 60: e.whole60 = whole(); break;
+        case 62: m_layerColor = whole(); break;
+        case 67: e.whole67 = whole(); break;
+        case 70: e.whole70 = whole(); break;
+        case 71: e.whole71 = whole(); break;
+        case 72: e.whole72 = whole(); break;
+        case 73: e.whole73 = whole(); break;
+        case 74: e.whole74 = whole(); break;
+        case 230: e.extrusion = number(); break;
+        default: break;
+        }
+    }
+
+    void FinishEntity(std::size_t end)
+    {
+        Entity& e = m_entity;
+        e.record.end = end;
+        if (m_isLayer) {
+            LayerRow& layer = m_file.layers[LayerOf(e.name)];
+            layer.isHidden = (e.whole70 & 1) != 0 || m_layerColor < 0;
+            m_isLayer = false;
+            m_layerColor = 0;
+        } else if (m_isBlockHead) {
+            m_file.blocks.back().base = e.at;
+            m_blockNames.emplace(Upper(e.name), static_cast<std::uint32_t>(m_file.blocks.size() - 1));
+            m_isBlockHead = false;
+            m_isInBlock = true;
+        } else if (e.whole67 == 0) {
+            m_in = m_section == "ENTITIES" ? &m_file.model : m_isInBlock ? &m_file.blocks.back() : nullptr;
+            if (m_in != nullptr) {
+                Keep();
+            }
+        }
+    }
+
+    void Keep()
+    {
+        Entity& e = m_entity;
+        switch (e.kind) {
+        case EntityType::Text:
+        case EntityType::MText:
+        case EntityType::Attrib: KeepText(); break;
+        case EntityType::Line: AddLine(e.at, e.other, e.layer); break;
+        case EntityType::LwPolyline:
+            AddPolyline(e.vertices, (e.whole70 & 1) != 0, e.layer, e.extrusion < 0);
+            break;
+        case EntityType::Polyline: m_polyline = std::move(e); break;
+        case EntityType::Vertex:
+            if (m_polyline && (e.whole70 & 16) == 0) {  // no control point of a spline
+                m_polyline->vertices.push_back({e.at, e.scale42});
+            }
+            break;
+        case EntityType::SeqEnd:
+            if (m_polyline) {
+                AddPolyline(m_polyline->vertices, (m_polyline->whole70 & 1) != 0, m_polyline->layer,
+                            m_polyline->extrusion < 0);
+                m_polyline.reset();
+            }
+            break;
+        case EntityType::Circle: AddArc(e.at, e.number40, 0.0, 360.0); break;
+        case EntityType::Arc: AddArc(e.at, e.number40, e.angle50, e.angle51); break;
+        case EntityType::Insert:
+        case EntityType::Dimension: KeepInsert(); break;
+        case EntityType::Other: break;
+        }
+    }
+
+    void KeepText()
+    {
+        Entity& e = m_entity;
+        if (!e.hasValue) {
+            return;
+        }
+        TextEntity text;
+        text.kind = e.kind == EntityType::Text    ? TextKind::Text
+                    : e.kind == EntityType::MText ? TextKind::MText
+                                                  : TextKind::Attrib;
+        text.layer = LayerOf(e.layer);
+        text.isHidden = e.whole60 != 0 || (e.kind == EntityType::Attrib && (e.whole70 & 1) != 0);
+        text.isMirrored = e.extrusion < 0 && e.kind != EntityType::MText;
+        text.handle = e.handle;
+        text.record = e.record;
+        if (e.kind == EntityType::MText) {
+            text.values = std::move(e.pieces);
+        }
+        text.values.push_back(e.value);
+        text.at = e.at;
+        text.height = std::abs(e.number40);
+        text.angle = e.angle50;
+        if (e.kind == EntityType::MText) {
+            if (e.hasOther && (e.other.x != 0.0 || e.other.y != 0.0)) {
+                text.angle = std::atan2(e.other.y, e.other.x) * 180.0 / std::numbers::pi;
+            }
+            text.attachment = std::clamp(e.whole71, 1, 9);
+            text.lineSpacing = e.number44 > 0.0 ? e.number44 : 1.0;
+        } else if (e.at.x == 0.0 && e.at.y == 0.0 && e.hasOther) {
+            text.at = e.other;  // only the aligned position is given
+        }
+        for (const Stretch& piece : text.values) {
+            CountHighBytes(std::string_view(m_file.bytes).substr(piece.begin, piece.end - piece.begin),
+                           m_highBytes, m_notUtf8);
+        }
+        m_in->texts.push_back(std::move(text));
+    }
+
+    void KeepInsert()
+    {
+        const Entity& e = m_entity;
+        InsertEntity insert;
+        insert.layer = LayerOf(e.layer);
+        insert.isHidden = e.whole60 != 0;
+        if (e.kind == EntityType::Insert) {
+            insert.isMirrored = e.extrusion < 0;
+            insert.at = e.at;
+            insert.xScale = e.scale41;
+            insert.yScale = e.scale42;
+            insert.angle = e.angle50;
+            insert.columns = std::max(1, e.whole70);
+            insert.rows = std::max(1, e.whole71);
+            insert.columnStep = e.number44;
+            insert.rowStep = e.number45;
+        }
+        m_unlinked.push_back(
+            {Upper(e.name),
+             m_section == "ENTITIES" ? NoBlock : static_cast<std::uint32_t>(m_file.blocks.size() - 1),
+             m_in->inserts.size()});
+        m_in->inserts.push_back(insert);
+    }
+
+    // Blocks may stand after what refers to them.
+    void LinkBlocks()
+    {
+        for (const Unlinked& each : m_unlinked) {
+            Entities& in = each.owner == NoBlock ? m_file.model : m_file.blocks[each.owner];
+            const auto found = m_blockNames.find(each.name);
+            in.inserts[each.insert].block = found == m_blockNames.end() ? NoBlock : found->second;
+        }
+    }
+
+    void AddLine(const PlanPoint& from, const PlanPoint& to, std::string_view layer)
+    {
+        if (m_entity.whole60 == 0) {
+            m_in->lines.push_back({{from, to}, LayerOf(layer)});
+        }
+    }
+
+    void AddPolyline(std::vector<Vertex>& vertices, bool isClosed, std::string_view layer, bool isMirrored)
+    {
+        for (Vertex& vertex : vertices) {
+            vertex.at.x = isMirrored ? -vertex.at.x : vertex.at.x;
+            vertex.bulge = isMirrored ? -vertex.bulge : vertex.bulge;
+        }
+        for (std::size_t i = 0; i + (isClosed ? 0 : 1) < vertices.size(); ++i) {
+            const Vertex& from = vertices[i];
+            const PlanPoint to = vertices[(i + 1) % vertices.size()].at;
+            from.bulge == 0.0 ? AddLine(from.at, to, layer) : AddBulge(from, to, layer);
+        }
+    }
+
+    // The bulge is the tangent of a quarter of the arc's angle.
+    void AddBulge(const Vertex& from, const PlanPoint& to, std::string_view layer)
+    {
+        const double angle = 4.0 * std::atan(from.bulge);
+        const int steps = 1 + static_cast<int>(std::abs(angle) / Radians(ArcStep));
+        const double lean = (1.0 - from.bulge * from.bulge) / (4.0 * from.bulge);
+        const PlanPoint center{(from.at.x + to.x) / 2.0 - (to.y - from.at.y) * lean,
+                               (from.at.y + to.y) / 2.0 + (to.x - from.at.x) * lean};
+        PlanPoint last = from.at;
+        for (int i = 1; i <= steps; ++i) {
+            const double turn = angle * i / steps;
+            const double dx = from.at.x - center.x;
+            const double dy = from.at.y - center.y;
+            const PlanPoint next = i == steps
+                                       ? to
+                                       : PlanPoint{center.x + dx * std::cos(turn) - dy * std::sin(turn),
+                                                   center.y + dx * std::sin(turn) + dy * std::cos(turn)};
+            AddLine(last, next, layer);
+            last = next;
+        }
+    }
+
+    void AddArc(PlanPoint center, double radius, double from, double to)
+    {
+        const bool isMirrored = m_entity.extrusion < 0;
+        double span = std::fmod(to - from, 360.0);
+        span = span <= 0.0 ? span + 360.0 : span;
+        const int steps = 1 + static_cast<int>(span / ArcStep);
+        const auto at = [&](int i) {
+            const double angle = Radians(from + span * i / steps);
+            const double x = center.x + radius * std::cos(angle);
+            return PlanPoint{isMirrored ? -x : x, center.y + radius * std::sin(angle)};
+        };
+        for (int i = 0; i < steps; ++i) {
+            AddLine(at(i), at(i + 1), m_entity.layer);
+        }
+    }
+
+    std::uint32_t LayerOf(std::string_view name)
+    {
+        if (name == m_lastLayerName && !m_file.layers.empty()) {
+            return m_lastLayer;
+        }
+        const auto [found, isNew] =
+            m_layers.emplace(Upper(name), static_cast<std::uint32_t>(m_file.layers.size()));
+        if (isNew) {
+            m_file.layers.push_back({std::string(name), false});
+        }
+        m_lastLayerName = name;
+        m_lastLayer = found->second;
+        return m_lastLayer;
+    }
+
+    struct Unlinked {
+        std::string name;
+        std::uint32_t owner;
+        std::size_t insert;
+    };
+
+    const std::string& m_name;
+    DxfFile m_file;
+    Entity m_entity;
+    std::optional<Entity> m_polyline;  // whose vertices follow
+    Entities* m_in = nullptr;
+    std::string_view m_section;
+    std::string_view m_variable;
+    std::string_view m_version;
+    Charset m_fileSays = Charset::Gbk;
+    bool m_isSectionName = false;
+    bool m_isLayer = false;
+    bool m_isBlockHead = false;
+    bool m_isInBlock = false;
+    int m_layerColor = 0;
+    std::size_t m_highBytes = 0;
+    std::size_t m_notUtf8 = 0;
+    std::unordered_map<std::string, std::uint32_t> m_layers;
+    std::unordered_map<std::string, std::uint32_t> m_blockNames;
+    std::vector<Unlinked> m_unlinked;
+    std::string_view m_lastLayerName;
+    std::uint32_t m_lastLayer = 0;
+};
+
+}  // namespace
+
+DxfFile ReadEntities(std::string bytes, const std::string& name)
+{
+    return Reader(std::move(bytes), name).Read();
+}
+
+std::string ValueOf(const DxfFile& file, const TextEntity& text)
+{
+    std::string value;
+    for (const Stretch& piece : text.values) {
+        value.append(file.bytes, piece.begin, piece.end - piece.begin);
+    }
+    return value;
+}
+
+}  // namespace Desk

@@ -1,0 +1,42 @@
+// What a drawing is made of, between reading and writing.
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "desk/drawing/Drawing.h"
+#include "desk/drawing/Labels.h"
+#include "desk/drawing/Owners.h"
+
+namespace Desk {
+
+// Where the drawing has an annotation.
+struct Source {
+    std::size_t line = 0;        // of FoundTexts::lines
+    std::size_t annotation = 0;  // of that line
+};
+
+struct Drawing::Parts {
+    DxfFile file;
+    Placed placed;
+    FoundTexts found;
+    std::unique_ptr<Owners> owners;
+    Project project;
+    Backdrop behind;
+    std::vector<AnnotationText> texts;
+    std::vector<std::size_t> lineOf;  // parallel to the texts: indices of found.lines
+    // By beam, parallel to BeamFields(): where its own texts come from.
+    std::vector<std::vector<std::optional<Source>>> sources;
+
+    [[nodiscard]] const TextEntity& EntityOf(const TextLine& line) const
+    {
+        return *placed.texts[line.placed].text;
+    }
+    // Of a text in place of a beam; nothing for one that the drawing does not have.
+    [[nodiscard]] std::optional<Source> SourceOf(const InPlace& text) const;
+};
+
+// The drawing with its texts as those of a project that was edited.
+[[nodiscard]] std::string WriteEdited(const Drawing::Parts& parts, const Project& edited);
+
+}  // namespace Desk

@@ -1,0 +1,494 @@
+// Which values of the file change, and to what. Everything else is copied.
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <map>
+#include <numbers>
+#include <set>
+
+#include "desk/drawing/GradeSpelling.h"
+#include "desk/drawing/Pairs.h"
+#include "desk/drawing/Parts.h"
+
+namespace Desk {
+
+namespace {
+
+struct Splice {
+    Stretch at;  // of the file; empty for an insertion
+    std::string text;
+};
+
+std::string ComposeBars(const std::string& top, const std::string& erection, const std::string& bottom)
+{
+    std::string text = top;
+    if (!erection.empty()) {
+        text += (top.empty() ? "(" : "+(") + erection + ")";
+    }
+    return bottom.empty() ? text : text + ";" + bottom;
+}
+
+// As DXF writes numbers: with a point.
+std::string NumberText(double number)
+{
+    char digits[64];
+    const auto end = std::to_chars(digits, digits + sizeof digits, number).ptr;
+    std::string text(digits, end);
+    return text.find_first_of(".e") == std::string::npos ? text + ".0" : text;
+}
+
+class Writer {
+public:
+    Writer(const Drawing::Parts& parts, const Project& edited)
+        : m_parts(parts), m_edited(edited), m_spelling(parts), m_nextHandle(parts.file.nextHandle)
+    {
+    }
+
+    std::string Write()
+    {
+        if (m_edited.beams.size() != m_parts.project.beams.size()) {
+            throw Failure(Phrase("Desk", "the drawing takes no beams that it has no label for"));
+        }
+        for (std::size_t i = 0; i < m_edited.beams.size(); ++i) {
+            WriteBeam(i);
+        }
+        RemoveParts();
+        if (m_nextHandle != m_parts.file.nextHandle && m_parts.file.handSeed.end > 0) {
+            m_splices.push_back({m_parts.file.handSeed, HandleText(m_nextHandle)});
+        }
+        return Spliced();
+    }
+
+private:
+    [[nodiscard]] const TextLine& LineOf(const Source& source) const
+    {
+        return m_parts.found.lines[source.line];
+    }
+    [[nodiscard]] static std::size_t NumberOf(Field field)
+    {
+        const std::span<const Field> fields = BeamFields();
+        return static_cast<std::size_t>(std::find(fields.begin(), fields.end(), field) - fields.begin());
+    }
+    [[nodiscard]] const std::optional<Source>& SourceOf(std::size_t beam, Field field) const
+    {
+        return m_parts.sources[beam][NumberOf(field)];
+    }
+
+    void WriteBeam(std::size_t index)
+    {
+        const Beam& before = m_parts.project.beams[index];
+        const Beam& now = m_edited.beams[index];
+        m_newLines = 0;
+        for (const Field field :
+             {Field::Name, Field::Section, Field::Elevation, Field::Stirrup, Field::Torsion, Field::Side}) {
+            const std::string& text = now.*RowOf(field).ofBeam;
+            if (text != before.*RowOf(field).ofBeam) {
+                WriteField(index, field, text);
+            }
+        }
+        if (before.topBars != now.topBars || before.erection != now.erection ||
+            before.bottomBars != now.bottomBars) {
+            WriteBars(index, now);
+        }
+        WriteEnd(index, now.leftEnd, 1);
+        WriteEnd(index, now.rightEnd, static_cast<int>(m_parts.owners->Beams()[index].supports.size()));
+        for (std::size_t i = 0; i < now.inPlace.size(); ++i) {
+            WriteInPlace(index, now.inPlace[i], i < before.inPlace.size() ? &before.inPlace[i] : nullptr);
+        }
+    }
+
+    void WriteField(std::size_t beam, Field field, const std::string& text)
+    {
+        if (field == Field::Name && text.empty()) {
+            throw Failure(Phrase("Desk", "%1: a label needs its name"), m_parts.project.beams[beam].name);
+        }
+        if (const std::optional<Source>& source = SourceOf(beam, field)) {
+            text.empty() ? Remove(*source) : Replace(*source, text);
+        } else if (field == Field::Section) {
+            const std::optional<Source>& name = SourceOf(beam, Field::Name);
+            Insert(*name, " " + text, true);
+        } else {
+            AddLine(beam, text, field != Field::Elevation);
+        }
+    }
+
+    // Top, erection and bottom bars share a line: "2C14+(2C12);3C14".
+    void WriteBars(std::size_t beam, const Beam& now)
+    {
+        constexpr Field Group[] = {Field::TopBars, Field::Erection, Field::BottomBars};
+        std::set<std::size_t> lines;
+        std::vector<Source> present;
+        bool isSame = true;  // the same ones are there
+        for (const Field field : Group) {
+            const std::optional<Source>& source = SourceOf(beam, field);
+            isSame = isSame && source.has_value() != (now.*RowOf(field).ofBeam).empty();
+            if (source) {
+                lines.insert(source->line);
+                present.push_back(*source);
+            }
+        }
+        const std::string all = ComposeBars(now.topBars, now.erection, now.bottomBars);
+        if (isSame) {
+            for (const Field field : Group) {
+                const std::string& text = now.*RowOf(field).ofBeam;
+                if (text != m_parts.project.beams[beam].*RowOf(field).ofBeam) {
+                    Replace(*SourceOf(beam, field), text);
+                }
+            }
+        } else if (lines.size() == 1 && !all.empty()) {
+            ReplaceGroup(present, all);
+        } else {
+            for (const Source& source : present) {
+                Remove(source);
+            }
+            if (!all.empty()) {
+                AddLine(beam, all, true);
+            }
+        }
+    }
+
+    void WriteEnd(std::size_t beam, const std::string& text, int support)
+    {
+        if (!text.empty()) {
+            AddInPlace(beam, {Role::TopSupport, support, text, {}, -1, {}});
+        }
+    }
+
+    void WriteInPlace(std::size_t beam, const InPlace& now, const InPlace* before)
+    {
+        const std::optional<Source> source = m_parts.SourceOf(now);
+        if (!source) {
+            if (!now.text.empty()) {
+                AddInPlace(beam, now);
+            }
+            return;
+        }
+        const std::string& was =
+            before != nullptr ? before->text : LineOf(*source).annotations[source->annotation].text;
+        if (now.text != was) {
+            now.text.empty() ? Remove(*source) : Replace(*source, now.text);
+        }
+    }
+
+    // The part of a line, in its plain text. An annotation whose part cannot be told has the line to
+    // itself.
+    [[nodiscard]] Stretch PartOf(const Source& source) const
+    {
+        const TextLine& line = LineOf(source);
+        const Stretch at = line.annotations[source.annotation].at;
+        if (at.end > at.begin) {
+            return at;
+        }
+        if (line.annotations.size() > 1) {
+            throw Failure(
+                Phrase("Desk", "%1: this text of the drawing can only be changed in the drawing program"),
+                ShowPlain(line.plain));
+        }
+        return {0, line.plain.size()};
+    }
+
+    void Replace(const Source& source, const std::string& text)
+    {
+        const Stretch part = PartOf(source);
+        Put(LineOf(source), part,
+            m_spelling.Spell(LineOf(source), part, text,
+                             IsBars(LineOf(source).annotations[source.annotation].field)));
+    }
+
+    void ReplaceGroup(const std::vector<Source>& present, const std::string& text)
+    {
+        const TextLine& line = LineOf(present.front());
+        Stretch all{line.plain.size(), 0};
+        for (const Source& source : present) {
+            Stretch part = PartOf(source);
+            if (line.annotations[source.annotation].field == Field::Erection) {
+                const std::size_t open = line.plain.rfind('(', part.begin);
+                const std::size_t close = line.plain.find(')', part.end - 1);
+                part.begin = open == std::string::npos ? part.begin : open;
+                part.end = close == std::string::npos ? part.end : close + 1;
+                while (part.begin > 0 &&
+                       (line.plain[part.begin - 1] == '+' || line.plain[part.begin - 1] == ' ')) {
+                    --part.begin;
+                }
+            }
+            all = {std::min(all.begin, part.begin), std::max(all.end, part.end)};
+        }
+        if (all.begin == 1 && line.plain.front() == ';') {
+            all.begin = 0;
+        }
+        Put(line, all, m_spelling.Spell(line, all, text, true));
+    }
+
+    void Insert(const Source& after, const std::string& text, bool isPlain)
+    {
+        const TextLine& line = LineOf(after);
+        const std::size_t end = PartOf(after).end;
+        Put(line, {end, end}, m_spelling.Spell(line, {end, end}, text, !isPlain));
+    }
+
+    static bool IsBars(Field field)
+    {
+        const Ranker ranker = RowOf(field).ranker;
+        return ranker == Ranker::Bars || ranker == Ranker::Stirrups;
+    }
+
+    void Remove(const Source& source) { m_removed[source.line].insert(source.annotation); }
+
+    // A line that says nothing more goes; of the others the part goes with what joins it to its neighbours.
+    void RemoveParts()
+    {
+        for (const auto& [index, annotations] : m_removed) {
+            const TextLine& line = m_parts.found.lines[index];
+            const bool isEmptied = line.isWhole && annotations.size() == line.annotations.size() &&
+                                   m_written.count(index) == 0;
+            if (isEmptied) {
+                RemoveLine(line);
+                continue;
+            }
+            for (const std::size_t annotation : annotations) {
+                Stretch part = PartOf({index, annotation});
+                const auto joins = [&line](std::size_t at) {
+                    return std::string_view(" ;,+(").find(line.plain[at]) != std::string_view::npos;
+                };
+                const bool isErection = line.annotations[annotation].field == Field::Erection;
+                if (isErection && part.end < line.plain.size() && line.plain[part.end] == ')') {
+                    ++part.end;
+                }
+                const bool isFirst = part.begin == 0;
+                while (part.begin > 0 && joins(part.begin - 1)) {
+                    --part.begin;
+                }
+                while (isFirst && part.end < line.plain.size() && line.plain[part.end] == ' ') {
+                    ++part.end;
+                }
+                Put(line, part, "");
+            }
+        }
+    }
+
+    void RemoveLine(const TextLine& line)
+    {
+        const TextEntity& entity = m_parts.EntityOf(line);
+        if (entity.kind == TextKind::Text) {
+            m_splices.push_back({entity.record, ""});
+        } else {
+            PutInValue(entity, line.whole, "");  // an attribute stays, and so do an MTEXT's other lines
+        }
+    }
+
+    void Put(const TextLine& line, const Stretch& part, const std::string& text)
+    {
+        m_written.insert(static_cast<std::size_t>(&line - m_parts.found.lines.data()));
+        Stretch value = line.whole;
+        if (!line.spelled.empty()) {
+            value.begin =
+                part.begin < line.spelled.size() ? line.spelled[part.begin].begin : line.spelled.back().end;
+            value.end = part.end > part.begin ? line.spelled[part.end - 1].end
+                        : part.begin > 0      ? line.spelled[part.begin - 1].end
+                                              : value.begin;
+            value.begin = part.end > part.begin ? value.begin : value.end;
+        }
+        PutInValue(m_parts.EntityOf(line), value, text);
+    }
+
+    // A long MTEXT's value lies in pieces.
+    void PutInValue(const TextEntity& entity, const Stretch& at, const std::string& text)
+    {
+        std::size_t before = 0;
+        bool isPut = false;
+        for (const Stretch& piece : entity.values) {
+            const std::size_t length = piece.end - piece.begin;
+            const std::size_t from = std::max(at.begin, before);
+            const std::size_t to = std::min(at.end, before + length);
+            if (from < to ||
+                (!isPut && at.begin == at.end && at.begin >= before && at.begin <= before + length)) {
+                m_splices.push_back(
+                    {{piece.begin + from - before, piece.begin + std::max(from, to) - before},
+                     isPut ? std::string() : text});
+                isPut = true;
+            }
+            before += length;
+        }
+    }
+
+    // One more line below a label's last one.
+    void AddLine(std::size_t beam, const std::string& text, bool isBars)
+    {
+        const FoundLabel& label = m_parts.found.labels[beam];
+        const TextLine& last = m_parts.found.lines[label.lines.back()];
+        const TextEntity& entity = m_parts.EntityOf(last);
+        const std::string spelled =
+            m_spelling.Spell(last, {last.plain.size(), last.plain.size()}, text, isBars);
+        ++m_newLines;
+        if (entity.kind == TextKind::MText) {
+            PutInValue(entity, {last.whole.end, last.whole.end}, "\\P" + spelled);
+            return;
+        }
+        const double pitch = PitchOf(label) * m_newLines;
+        const PlanPoint from = last.place.at;
+        const PlanPoint step = label.frame.At(0.0, -pitch);
+        AddCopy(last, spelled, {from.x + step.x, from.y + step.y});
+    }
+
+    [[nodiscard]] double PitchOf(const FoundLabel& label) const
+    {
+        constexpr double UsualPitch = 325.0 / 300.0;  // in text heights
+        if (label.lines.size() < 2) {
+            return UsualPitch * m_parts.found.lines[label.lines.front()].place.height;
+        }
+        const auto v = [&](std::size_t fromEnd) {
+            return label.frame.V(m_parts.found.lines[label.lines[label.lines.size() - fromEnd]].place.at);
+        };
+        return v(2) - v(1);
+    }
+
+    // A text in place that the drawing does not have yet, beside its beam.
+    void AddInPlace(std::size_t beam, const InPlace& text)
+    {
+        constexpr double FromEdge = 150.0;     // mm
+        constexpr double FromSupport = 100.0;  // mm
+        const OwnerBeam& owner = m_parts.owners->Beams()[beam];
+        const TextLine* const like = Like(beam, owner.frame);
+        if (like == nullptr) {
+            throw Failure(
+                Phrase("Desk",
+                       "%1: the drawing has no text beside the beam that a new one could be made like"),
+                m_parts.project.beams[beam].name);
+        }
+        const double unit = m_parts.file.unitScale;
+        const double height = like->place.height;
+        const double length = 0.75 * height * static_cast<double>(text.text.size());
+        const auto last = static_cast<int>(owner.supports.size());
+        const bool isSupport = text.role == Role::TopSupport;
+        const int number = std::clamp(text.number, 1, isSupport ? last : last - 1);
+        const double at = owner.supports[static_cast<std::size_t>(number - 1)];
+        double u = at + FromSupport * unit;
+        if (isSupport && number == last) {
+            u = at - FromSupport * unit - length;
+        } else if (!isSupport) {
+            u = (at + owner.supports[static_cast<std::size_t>(number)] - length) / 2.0;
+        }
+        const bool isAbove = isSupport || text.role == Role::TopSpan;
+        const double side = owner.width / 2.0 + FromEdge * unit;
+        const double v = owner.axis + (isAbove ? side : -side - height);
+        const bool isPositioned = text.place.height > 0.0;
+        AddCopy(*like,
+                m_spelling.Spell(*like, {like->plain.size(), like->plain.size()}, text.text,
+                                 IsBars(RowOf(text.role).field)),
+                isPositioned ? text.place.at : owner.frame.At(u, v));
+    }
+
+    // A TEXT along the beam: one in place, else a line of its label.
+    [[nodiscard]] const TextLine* Like(std::size_t beam, const Frame& frame) const
+    {
+        const auto fits = [&](const TextLine& line) {
+            const Frame own = Frame::Reading(line.place.angle);
+            return m_parts.EntityOf(line).kind == TextKind::Text && own.IsParallel(frame);
+        };
+        for (const InPlace& text : m_parts.project.beams[beam].inPlace) {
+            if (const std::optional<Source> source = m_parts.SourceOf(text);
+                source && fits(LineOf(*source))) {
+                return &LineOf(*source);
+            }
+        }
+        for (const std::size_t line : m_parts.found.labels[beam].lines) {
+            if (fits(m_parts.found.lines[line])) {
+                return &m_parts.found.lines[line];
+            }
+        }
+        return nullptr;
+    }
+
+    // The same record with another value, at a position on the plan, with a handle of its own.
+    void AddCopy(const TextLine& like, const std::string& value, const PlanPoint& position)
+    {
+        const TextEntity& entity = m_parts.EntityOf(like);
+        if (entity.kind != TextKind::Text) {
+            throw Failure(Phrase("Desk", "%1: a label of block attributes takes no new line"),
+                          ShowPlain(like.plain));
+        }
+        const PlacedText& placed = m_parts.placed.texts[like.placed];
+        const PlanPoint now = placed.transform.Back(placed.place.at);
+        const PlanPoint wanted = placed.transform.Back(position);
+        const PlanPoint step{wanted.x - now.x, wanted.y - now.y};
+        const std::string_view bytes = m_parts.file.bytes;
+        PairReader pairs(bytes.substr(0, entity.record.end), entity.record.begin);
+        std::string copy;
+        std::size_t copied = entity.record.begin;
+        bool hasValue = false;
+        for (Pair pair; pairs.Next(pair);) {
+            std::optional<std::string> text;
+            switch (pair.code) {
+            case 1:
+                text = hasValue ? std::nullopt : std::optional(value);
+                hasValue = true;
+                break;
+            case 5: text = HandleText(m_nextHandle++); break;
+            case 10:
+            case 11: text = NumberText(RealOf(pair.value) + step.x); break;
+            case 20:
+            case 21: text = NumberText(RealOf(pair.value) + step.y); break;
+            default: break;
+            }
+            if (text) {
+                copy.append(bytes.substr(copied, pair.valueAt - copied)).append(*text);
+                copied = pair.valueAt + pair.value.size();
+            }
+        }
+        copy.append(bytes.substr(copied, entity.record.end - copied));
+        m_splices.push_back({{entity.record.end, entity.record.end}, std::move(copy)});
+    }
+
+    static std::string HandleText(std::uint64_t handle)
+    {
+        char digits[32];
+        std::string text(digits, std::to_chars(digits, digits + sizeof digits, handle, 16).ptr);
+        std::transform(text.begin(), text.end(), text.begin(),
+                       [](char ch) { return ch >= 'a' ? static_cast<char>(ch - 32) : ch; });
+        return text;
+    }
+
+    std::string Spliced()
+    {
+        std::stable_sort(m_splices.begin(), m_splices.end(), [](const Splice& a, const Splice& b) {
+            return std::pair(a.at.begin, a.at.end) < std::pair(b.at.begin, b.at.end);
+        });
+        const std::string_view bytes = m_parts.file.bytes;
+        std::string all;
+        std::size_t size = bytes.size();
+        for (const Splice& splice : m_splices) {
+            size += splice.text.size();
+        }
+        all.reserve(size);
+        std::size_t copied = 0;
+        const Splice* last = nullptr;
+        for (const Splice& splice : m_splices) {
+            // A block that is referred to twice changes once.
+            if (last != nullptr && splice.at.end > splice.at.begin && splice.at.begin < copied) {
+                continue;
+            }
+            all.append(bytes.substr(copied, splice.at.begin - copied)).append(splice.text);
+            copied = splice.at.end;
+            last = &splice;
+        }
+        return all.append(bytes.substr(copied));
+    }
+
+    const Drawing::Parts& m_parts;
+    const Project& m_edited;
+    GradeSpelling m_spelling;
+    std::uint64_t m_nextHandle;
+    int m_newLines = 0;  // of the beam that is being written
+    std::vector<Splice> m_splices;
+    std::map<std::size_t, std::set<std::size_t>> m_removed;  // annotations by line
+    std::set<std::size_t> m_written;                         // lines with a part put anew
+};
+
+}  // namespace
+
+std::string WriteEdited(const Drawing::Parts& parts, const Project& edited)
+{
+    return Writer(parts, edited).Write();
+}
+
+}  // namespace Desk
