@@ -173,19 +173,13 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    const QList<QUrl> dragged = event->mimeData()->urls();
-    if (dragged.size() == 1 && dragged.front().isLocalFile()) {
-        event->acceptProposedAction();
-    }
+    event->setAccepted(!ProjectFiles::Dragged(*event->mimeData()).isEmpty());
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
-    const QString file = event->mimeData()->urls().constFirst().toLocalFile();
-    // Later, since the program that it comes from waits for the end of this, and a question may come up.
-    QMetaObject::invokeMethod(
-        m_files, [this, file] { m_files->Open(file); }, Qt::QueuedConnection);
+    m_files->OpenSoon(ProjectFiles::Dragged(*event->mimeData()));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

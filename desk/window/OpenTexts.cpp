@@ -1,9 +1,16 @@
 #include "desk/window/OpenTexts.h"
 
+#include "desk/reading/DrawingText.h"
 #include "desk/window/FieldNames.h"
 #include "desk/window/Languages.h"
 
 namespace Desk {
+
+namespace {
+
+std::string Readable(const AnnotationText& text) { return ShowPlain(PlainText(text.text)); }
+
+}  // namespace
 
 OpenTexts::OpenTexts(Document& document, FloorView& floor, QWidget* parent)
     : QDockWidget(parent), m_document(document), m_floor(floor), m_rows(new QTreeWidget),
@@ -50,13 +57,13 @@ void OpenTexts::Fill()
     const QSignalBlocker quiet(m_rows);
     m_rows->clear();
     m_open = m_document.OpenTexts();
-    std::vector<PlanText> marks;
+    std::vector<PlanMark> marks;
     for (const std::size_t number : m_open) {
         const AnnotationText& text = m_document.From()->Texts()[number];
-        const QString shown = QString::fromStdString(text.text).simplified();
-        auto* const row = new QTreeWidgetItem(m_rows, {shown, Told(*text.open)});
+        const std::string shown = Readable(text);
+        auto* const row = new QTreeWidgetItem(m_rows, {QString::fromStdString(shown), Told(*text.open)});
         row->setToolTip(1, row->text(1));
-        marks.push_back({text.text, text.place});
+        marks.push_back({{shown, text.place}, !text.inPlace});
     }
     m_floor.SetMarks(std::move(marks));
     m_rows->setCurrentItem(m_rows->topLevelItem(std::min(before, m_rows->topLevelItemCount() - 1)));
@@ -108,7 +115,7 @@ std::optional<std::size_t> OpenTexts::Marked() const
 
 QString OpenTexts::TextOf(std::size_t row) const
 {
-    return QString::fromStdString(m_document.From()->Texts()[m_open[row]].text).simplified();
+    return QString::fromStdString(Readable(m_document.From()->Texts()[m_open[row]]));
 }
 
 }  // namespace Desk

@@ -83,6 +83,18 @@ void ProjectFiles::AskOpen()
     }
 }
 
+QString ProjectFiles::Dragged(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+}
+
+void ProjectFiles::OpenSoon(const QString& file)
+{
+    QMetaObject::invokeMethod(
+        this, [this, file] { Open(file); }, Qt::QueuedConnection);
+}
+
 bool ProjectFiles::Save()
 {
     if (!m_endEdit()) {

@@ -22,6 +22,10 @@ public:
     bool Open(const QString& file);
     void OpenSample() { Open(QString()); }
     void AskOpen();
+    // The one file that is dragged over the window, empty for anything else.
+    [[nodiscard]] static QString Dragged(const QMimeData& data);
+    // After the event in hand: the program that a dropped file comes from waits for its end.
+    void OpenSoon(const QString& file);
     // Offers what a session that broke off left, the latest first; true when the person took one.
     bool OfferLostWork();
 

@@ -274,13 +274,13 @@ TEST(FloorView, TheBackdropIsQuietAndWhatIsLostFarOffDoesNotShrinkTheFloor)
     }
 }
 
-TEST(FloorView, MarksAndAskedPositionsComeBeforeAnnotations)
+TEST(FloorView, MarksComeBeforeBeamsAndAskedPositionsBeforeAll)
 {
     const Project project = DrawnProject(1.0);
     View view(project);
     view.ZoomBy(2.0);
-    view.SetMarks({{"2B20", {Far(1000, 2000), 0.0, 300.0}}, {"4B20", {Far(90000, 0), 90.0, 300.0}}});
-    const QPoint on = view.InView(Far(1400, 2100));
+    view.SetMarks({{{"2B20", {Far(6000, 0), 0.0, 300.0}}}, {{"4B20", {Far(90000, 0), 90.0, 300.0}}}});
+    const QPoint on = view.InView(Far(6400, 100));
     view.Press(on);
     EXPECT_EQ(view.mark, 0U);
     view.LightMark(1);
