@@ -18,7 +18,8 @@ namespace {
 constexpr double UsualWidth = 250.0;     // mm, of a beam whose width nothing tells
 constexpr double HalfNominal = 2000.0;   // mm, half of a beam that has no outline
 constexpr double InPlaceReach = 1000.0;  // mm from a beam's edge to its texts in place
-constexpr double EndReach = 700.0;       // mm from an outline's end to the axis of what it rests on
+constexpr double EndReach = 700.0;       // mm, half of the widest beam or wall that another one rests on
+constexpr double NextToFace = 60.0;      // mm from a face that still count as at it
 constexpr double SameWidth = 12.0;       // mm
 constexpr double SameRest = 300.0;       // mm from a gap to the axis of what makes it
 
@@ -91,14 +92,20 @@ const std::string* TextOf(const FoundTexts& texts, const FoundLabel& label, Fiel
 
 }  // namespace
 
-Owners::Owners(const FoundTexts& texts, std::vector<BeamRun> runs, double unit,
-               const std::map<std::size_t, PlanPoint>& pointed)
+Owners::Owners(const FoundTexts& texts, std::vector<BeamRun> runs, std::vector<BeamRun> carriers,
+               double unit, const std::map<std::size_t, PlanPoint>& pointed)
     : m_texts(texts), m_runs(std::move(runs)), m_unit(unit)
 {
     for (std::size_t i = 0; i < m_runs.size(); ++i) {
         BundleOf(m_runBundles, m_runs[i].frame).byAxis.emplace_back(m_runs[i].axis, i);
     }
+    m_restBundles = m_runBundles;
+    for (BeamRun& carrier : carriers) {
+        BundleOf(m_restBundles, carrier.frame).byAxis.emplace_back(carrier.axis, m_runs.size());
+        m_runs.push_back(std::move(carrier));
+    }
     Sort(m_runBundles);
+    Sort(m_restBundles);
     FindBeams();
     for (const auto& [label, at] : pointed) {
         if (std::optional<OwnerBeam> beam = BeamAt(label, at)) {
@@ -148,7 +155,7 @@ void Owners::FindBeams()
 
 std::optional<std::size_t> Owners::RunFor(std::size_t label, std::optional<Message>& open) const
 {
-    if (m_runs.empty()) {
+    if (m_runBundles.empty()) {
         return std::nullopt;  // the label's own position is all that there is
     }
     const FoundLabel& found = m_texts.labels[label];
@@ -243,7 +250,7 @@ std::vector<Owners::Rest> Owners::RestsOf(std::size_t run) const
     }
     const PlanPoint first = own.frame.At(own.From() - EndReach * m_unit, own.axis);
     const PlanPoint last = own.frame.At(own.To() + EndReach * m_unit, own.axis);
-    for (const Bundle& bundle : m_runBundles) {
+    for (const Bundle& bundle : m_restBundles) {
         if (bundle.frame.IsParallel(own.frame)) {
             continue;
         }
@@ -279,7 +286,7 @@ void Owners::CutRun(std::size_t run, std::vector<std::size_t> labels)
     double from = own.From();
     for (std::size_t i = 0; i < labels.size(); ++i) {
         double to = own.To();
-        bool isShared = false;
+        double next = to;
         if (i + 1 < labels.size()) {
             const double low = std::max(from, PositionOf(labels[i], own.frame));
             const double high = PositionOf(labels[i + 1], own.frame);
@@ -302,11 +309,14 @@ void Owners::CutRun(std::size_t run, std::vector<std::size_t> labels)
                     best = &rest;
                 }
             }
-            isShared = best == nullptr;
-            to = isShared ? to : best->at;
+            const bool isShared = best == nullptr;
+            // They meet in the middle of a support; what is wider than one lies between them.
+            const double apart = isShared || best->size <= 2.0 * SameRest * m_unit ? 0.0 : best->size / 2.0;
+            to = isShared ? to : best->at - apart;
+            next = isShared ? from : best->at + apart;
         }
         m_beams[labels[i]] = BeamOn(run, labels[i], from, to, rests);
-        from = isShared ? from : to;
+        from = next;
     }
 }
 
@@ -322,12 +332,14 @@ OwnerBeam Owners::BeamOn(std::size_t run, std::size_t label, double from, double
     std::vector<Rest> inside;
     double first = from;
     double last = to;
+    // An outline ends at the face of what the beam rests on.
+    const auto reach = [this](const Rest& rest) { return rest.size / 2.0 + NextToFace * m_unit; };
     for (const Rest& rest : rests) {
         if (rest.at > from + m_unit && rest.at < to - m_unit) {
             inside.push_back(rest);
-        } else if (!rest.isGap && rest.at <= from && from - rest.at <= EndReach * m_unit) {
+        } else if (!rest.isGap && rest.at <= from && from - rest.at <= reach(rest)) {
             first = rest.at;  // the last one is the nearest
-        } else if (!rest.isGap && rest.at >= to && last == to) {
+        } else if (!rest.isGap && rest.at >= to && last == to && rest.at - to <= reach(rest)) {
             last = rest.at;
         }
     }

@@ -36,9 +36,9 @@ struct OwnerText {
 
 class Owners {
 public:
-    // Outlines as drawn, unit as for FindRuns; pointed: labels whose beam a person has pointed to, and
-    // where.
-    Owners(const FoundTexts& texts, std::vector<BeamRun> runs, double unit,
+    // Outlines as drawn, of beams and of the walls and columns that carry them; unit as for FindRuns;
+    // pointed: labels whose beam a person has pointed to, and where.
+    Owners(const FoundTexts& texts, std::vector<BeamRun> runs, std::vector<BeamRun> carriers, double unit,
            const std::map<std::size_t, PlanPoint>& pointed);
 
     [[nodiscard]] const std::vector<OwnerBeam>& Beams() const { return m_beams; }  // parallel to the labels
@@ -85,9 +85,10 @@ private:
     [[nodiscard]] double PositionOf(std::size_t label, const Frame& frame) const;
 
     const FoundTexts& m_texts;
-    std::vector<BeamRun> m_runs;
+    std::vector<BeamRun> m_runs;  // beams, then walls and columns
     double m_unit;
-    std::vector<Bundle> m_runBundles;
+    std::vector<Bundle> m_runBundles;   // of beams
+    std::vector<Bundle> m_restBundles;  // of all that a beam can rest on
     std::vector<OwnerBeam> m_beams;
     std::vector<OwnerText> m_inPlace;
 };
