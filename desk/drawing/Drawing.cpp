@@ -87,14 +87,17 @@ private:
         for (const FoundLabel& label : m_parts->found.labels) {
             hasLabels[m_parts->placed.texts[m_parts->found.lines[label.lines.front()].placed].layer] = true;
         }
-        std::vector<bool> isOutline(hasLabels.size());
-        for (std::size_t i = 0; i < isOutline.size(); ++i) {
-            isOutline[i] = !hasLabels[i] && IsOutlineLayer(LayerName(i));
+        std::vector<OutlineKind> kinds(hasLabels.size());
+        for (std::size_t i = 0; i < kinds.size(); ++i) {
+            kinds[i] = hasLabels[i] ? OutlineKind::None : OutlineKindOf(LayerName(i));
         }
-        std::vector<PlanLine> outlines;
+        std::vector<PlanLine> beams;
+        std::vector<PlanLine> carriers;
         for (const PlacedLine& line : m_parts->placed.lines) {
-            if (isOutline[line.layer]) {
-                outlines.push_back(line.line);
+            if (kinds[line.layer] == OutlineKind::Beam) {
+                beams.push_back(line.line);
+            } else if (kinds[line.layer] == OutlineKind::Carrier) {
+                carriers.push_back(line.line);
             }
         }
         std::map<std::size_t, PlanPoint> pointed;
@@ -105,7 +108,8 @@ private:
             }
         }
         const double unit = m_parts->file.unitScale;
-        m_parts->owners = std::make_unique<Owners>(m_parts->found, FindRuns(outlines, unit), unit, pointed);
+        m_parts->owners = std::make_unique<Owners>(m_parts->found, FindRuns(beams, unit),
+                                                   FindRuns(carriers, unit), unit, pointed);
     }
 
     // In UTF-8.
@@ -178,6 +182,7 @@ private:
                 }
             }
             m_parts->texts[m_textOf[label.lines.front()]].open = owner.open;
+            beam.plan = owner.plan;
             SetAxis(beam, owner);
             m_parts->project.beams.push_back(std::move(beam));
             m_parts->sources.push_back(std::move(sources));

@@ -244,15 +244,21 @@ std::vector<BeamRun> FindRuns(const std::vector<PlanLine>& outlines, double unit
     return runs;
 }
 
-bool IsOutlineLayer(std::string_view name)
+OutlineKind OutlineKindOf(std::string_view layer)
 {
-    std::string upper(name);
+    std::string upper(layer);
     std::transform(upper.begin(), upper.end(), upper.begin(),
                    [](char ch) { return ch >= 'a' && ch <= 'z' ? static_cast<char>(ch - 32) : ch; });
     const auto holds = [&upper](std::string_view word) { return upper.find(word) != std::string::npos; };
-    constexpr std::string_view ForTexts[] = {"TEXT", "DIM",  "HATCH", "文字",
-                                             "标注", "集中", "原位",  "填充"};
-    return (holds("BEAM") || holds("梁")) && std::none_of(std::begin(ForTexts), std::end(ForTexts), holds);
+    constexpr std::string_view OfTexts[] = {"TEXT", "DIM", "HATCH", "文字", "标注", "集中", "原位", "填充"};
+    constexpr std::string_view OfBeams[] = {"BEAM", "梁"};
+    constexpr std::string_view OfCarriers[] = {"WALL", "COLU", "墙", "柱"};
+    if (std::any_of(std::begin(OfTexts), std::end(OfTexts), holds)) {
+        return OutlineKind::None;
+    }
+    return std::any_of(std::begin(OfBeams), std::end(OfBeams), holds)         ? OutlineKind::Beam
+           : std::any_of(std::begin(OfCarriers), std::end(OfCarriers), holds) ? OutlineKind::Carrier
+                                                                              : OutlineKind::None;
 }
 
 }  // namespace Desk

@@ -43,7 +43,9 @@ struct BeamRun {
 // unit is how many drawn mm a mm of a dimension takes.
 [[nodiscard]] std::vector<BeamRun> FindRuns(const std::vector<PlanLine>& outlines, double unit);
 
-// Whether a layer is one of beam outlines, by its name: BEAM or 梁 in it, and no word for texts.
-[[nodiscard]] bool IsOutlineLayer(std::string_view name);
+// What the lines of a layer are, by its name: BEAM or 梁, WALL, COLU, 墙 or 柱 in it, and no word for
+// texts.
+enum class OutlineKind { None, Beam, Carrier };
+[[nodiscard]] OutlineKind OutlineKindOf(std::string_view layer);
 
 }  // namespace Desk

@@ -18,7 +18,8 @@ namespace {
 constexpr double UsualWidth = 250.0;     // mm, of a beam whose width nothing tells
 constexpr double HalfNominal = 2000.0;   // mm, half of a beam that has no outline
 constexpr double InPlaceReach = 1000.0;  // mm from a beam's edge to its texts in place
-constexpr double EndReach = 700.0;       // mm from an outline's end to the axis of what it rests on
+constexpr double EndReach = 700.0;       // mm, half of the widest beam or wall that another one rests on
+constexpr double NextToFace = 60.0;      // mm from a face that still count as at it
 constexpr double SameWidth = 12.0;       // mm
 constexpr double SameRest = 300.0;       // mm from a gap to the axis of what makes it
 
@@ -91,20 +92,32 @@ const std::string* TextOf(const FoundTexts& texts, const FoundLabel& label, Fiel
 
 }  // namespace
 
-Owners::Owners(const FoundTexts& texts, std::vector<BeamRun> runs, double unit,
-               const std::map<std::size_t, PlanPoint>& pointed)
+Owners::Owners(const FoundTexts& texts, std::vector<BeamRun> runs, std::vector<BeamRun> carriers,
+               double unit, const std::map<std::size_t, PlanPoint>& pointed)
     : m_texts(texts), m_runs(std::move(runs)), m_unit(unit)
 {
     for (std::size_t i = 0; i < m_runs.size(); ++i) {
         BundleOf(m_runBundles, m_runs[i].frame).byAxis.emplace_back(m_runs[i].axis, i);
     }
+    m_plans.emplace(m_runs, unit);
+    m_restBundles = m_runBundles;
+    for (BeamRun& carrier : carriers) {
+        BundleOf(m_restBundles, carrier.frame).byAxis.emplace_back(carrier.axis, m_runs.size());
+        m_runs.push_back(std::move(carrier));
+    }
     Sort(m_runBundles);
+    Sort(m_restBundles);
     FindBeams();
     for (const auto& [label, at] : pointed) {
         if (std::optional<OwnerBeam> beam = BeamAt(label, at)) {
             m_beams[label] = std::move(*beam);
         }
     }
+    for (OwnerBeam& beam : m_beams) {
+        beam.plan =
+            m_plans->At(beam.frame.At((beam.supports.front() + beam.supports.back()) / 2.0, beam.axis));
+    }
+    FindTwins();
     FindInPlace();
 }
 
@@ -148,7 +161,7 @@ void Owners::FindBeams()
 
 std::optional<std::size_t> Owners::RunFor(std::size_t label, std::optional<Message>& open) const
 {
-    if (m_runs.empty()) {
+    if (m_runBundles.empty()) {
         return std::nullopt;  // the label's own position is all that there is
     }
     const FoundLabel& found = m_texts.labels[label];
@@ -243,7 +256,7 @@ std::vector<Owners::Rest> Owners::RestsOf(std::size_t run) const
     }
     const PlanPoint first = own.frame.At(own.From() - EndReach * m_unit, own.axis);
     const PlanPoint last = own.frame.At(own.To() + EndReach * m_unit, own.axis);
-    for (const Bundle& bundle : m_runBundles) {
+    for (const Bundle& bundle : m_restBundles) {
         if (bundle.frame.IsParallel(own.frame)) {
             continue;
         }
@@ -279,7 +292,7 @@ void Owners::CutRun(std::size_t run, std::vector<std::size_t> labels)
     double from = own.From();
     for (std::size_t i = 0; i < labels.size(); ++i) {
         double to = own.To();
-        bool isShared = false;
+        double next = to;
         if (i + 1 < labels.size()) {
             const double low = std::max(from, PositionOf(labels[i], own.frame));
             const double high = PositionOf(labels[i + 1], own.frame);
@@ -302,11 +315,14 @@ void Owners::CutRun(std::size_t run, std::vector<std::size_t> labels)
                     best = &rest;
                 }
             }
-            isShared = best == nullptr;
-            to = isShared ? to : best->at;
+            const bool isShared = best == nullptr;
+            // They meet in the middle of a support; what is wider than one lies between them.
+            const double apart = isShared || best->size <= 2.0 * SameRest * m_unit ? 0.0 : best->size / 2.0;
+            to = isShared ? to : best->at - apart;
+            next = isShared ? from : best->at + apart;
         }
         m_beams[labels[i]] = BeamOn(run, labels[i], from, to, rests);
-        from = isShared ? from : to;
+        from = next;
     }
 }
 
@@ -322,12 +338,14 @@ OwnerBeam Owners::BeamOn(std::size_t run, std::size_t label, double from, double
     std::vector<Rest> inside;
     double first = from;
     double last = to;
+    // An outline ends at the face of what the beam rests on.
+    const auto reach = [this](const Rest& rest) { return rest.size / 2.0 + NextToFace * m_unit; };
     for (const Rest& rest : rests) {
         if (rest.at > from + m_unit && rest.at < to - m_unit) {
             inside.push_back(rest);
-        } else if (!rest.isGap && rest.at <= from && from - rest.at <= EndReach * m_unit) {
+        } else if (!rest.isGap && rest.at <= from && from - rest.at <= reach(rest)) {
             first = rest.at;  // the last one is the nearest
-        } else if (!rest.isGap && rest.at >= to && last == to) {
+        } else if (!rest.isGap && rest.at >= to && last == to && rest.at - to <= reach(rest)) {
             last = rest.at;
         }
     }
@@ -368,6 +386,47 @@ std::optional<OwnerBeam> Owners::BeamAt(std::size_t label, const PlanPoint& at) 
     return BeamOn(runs.front(), label, run.From(), run.To(), RestsOf(runs.front()));
 }
 
+int Owners::DirectionsOn(int plan) const
+{
+    int directions = 0;
+    for (const OwnerBeam& beam : m_beams) {
+        if (beam.plan == plan && beam.run) {
+            directions |= beam.frame.cosine > beam.frame.sine ? 1 : 2;
+        }
+    }
+    return directions;
+}
+
+void Owners::FindTwins()
+{
+    constexpr int MostPlans = 40;
+    std::map<std::size_t, std::vector<std::size_t>> ofRun;
+    for (std::size_t i = 0; i < m_beams.size(); ++i) {
+        if (m_beams[i].run) {
+            ofRun[*m_beams[i].run].push_back(i);
+        }
+    }
+    for (int a = 1; a <= std::min(MostPlans, m_plans->Count()); ++a) {
+        for (int b = 1; b <= std::min(MostPlans, m_plans->Count()); ++b) {
+            if (DirectionsOn(a) + DirectionsOn(b) != 3 || DirectionsOn(a) == 3 || DirectionsOn(b) == 3) {
+                continue;
+            }
+            const std::optional<PlanPoint> shift = m_plans->ShiftBetween(a, b);
+            for (std::size_t run = 0; shift && run < m_plans->Runs(); ++run) {
+                const std::optional<std::size_t> same = m_plans->Of(run) == b && ofRun.count(run) == 0
+                                                            ? m_plans->Same(run, *shift)
+                                                            : std::nullopt;
+                const auto labelled = same ? ofRun.find(*same) : ofRun.end();
+                if (labelled != ofRun.end()) {
+                    for (const std::size_t beam : labelled->second) {
+                        m_twins[run].push_back({beam, *shift});
+                    }
+                }
+            }
+        }
+    }
+}
+
 void Owners::FindInPlace()
 {
     std::vector<Bundle> beams;
@@ -390,19 +449,27 @@ OwnerText Owners::OwnerOf(const TextLine& line, const std::vector<Bundle>& beams
     const Frame reading = Frame::Reading(line.place.angle);
     const double reach = (InPlaceReach + 700.0) * m_unit + line.place.height;
     std::vector<std::size_t> runsWithLabel;
-    const auto offer = [&](const Box& box, double axis, double width, double from, double to,
-                           std::optional<std::size_t> beam) {
+    PlanPoint shift;
+    double bestAxis = Far;
+    double bestBeyond = Far;
+    // Beams end to end are no rivals: the text is beside the one or the other.
+    const auto offer = [&](const Box& box, double axis, double width, const Piece& extent,
+                           std::optional<std::size_t> beam, const PlanPoint& away) {
         const double middle = (box.fromU + box.toU) / 2.0;
-        const double slack = SameRest * m_unit;
-        if (middle < from - slack || middle > to + slack) {
+        const double beyond = std::max({0.0, extent.from - middle, middle - extent.to});
+        if (beyond > SameRest * m_unit) {
             return false;
         }
         const double gap = std::max({0.0, box.fromV - (axis + width / 2.0), axis - width / 2.0 - box.toV});
-        if (gap < best) {
-            second = best;
+        const bool isSameAxis = std::abs(axis - bestAxis) <= m_unit;
+        if (isSameAxis ? beyond < bestBeyond : gap < best) {
+            second = isSameAxis ? second : best;
             best = gap;
+            bestAxis = axis;
+            bestBeyond = beyond;
             owner.beam = beam;
-        } else {
+            shift = away;
+        } else if (!isSameAxis) {
             second = std::min(second, gap);
         }
         return true;
@@ -412,9 +479,8 @@ OwnerText Owners::OwnerOf(const TextLine& line, const std::vector<Bundle>& beams
             const Box box = BoxOf(line, bundle.frame);
             ForEachBetween(bundle, box.fromV - reach, box.toV + reach, [&](std::size_t i) {
                 const OwnerBeam& beam = m_beams[i];
-                if (!beam.open &&
-                    offer(box, beam.axis, beam.width, beam.supports.front(), beam.supports.back(), i) &&
-                    beam.run) {
+                const Piece extent{beam.supports.front(), beam.supports.back()};
+                if (!beam.open && offer(box, beam.axis, beam.width, extent, i, {}) && beam.run) {
                     runsWithLabel.push_back(*beam.run);
                 }
             });
@@ -426,7 +492,17 @@ OwnerText Owners::OwnerOf(const TextLine& line, const std::vector<Bundle>& beams
             ForEachBetween(bundle, box.fromV - reach, box.toV + reach, [&](std::size_t i) {
                 const BeamRun& run = m_runs[i];
                 if (std::find(runsWithLabel.begin(), runsWithLabel.end(), i) == runsWithLabel.end()) {
-                    offer(box, run.axis, run.width, run.From(), run.To(), std::nullopt);
+                    const auto twins = m_twins.find(i);
+                    if (twins == m_twins.end()) {
+                        offer(box, run.axis, run.width, {run.From(), run.To()}, std::nullopt, {});
+                        return;
+                    }
+                    for (const Twin& twin : twins->second) {
+                        const std::vector<double>& supports = m_beams[twin.beam].supports;
+                        const double away = bundle.frame.U(twin.shift);
+                        offer(box, run.axis, run.width, {supports.front() + away, supports.back() + away},
+                              twin.beam, twin.shift);
+                    }
                 }
             });
         }
@@ -440,7 +516,9 @@ OwnerText Owners::OwnerOf(const TextLine& line, const std::vector<Bundle>& beams
     } else if (!owner.beam) {
         owner.open = Phrase("Desk", "the beam beside it has no label");
     } else {
-        owner.roles = RolesOf(line, m_beams[*owner.beam]);
+        TextLine there = line;
+        there.place.at = {line.place.at.x - shift.x, line.place.at.y - shift.y};
+        owner.roles = RolesOf(there, m_beams[*owner.beam]);
         if (owner.roles.empty()) {
             owner.beam.reset();
             owner.open = Phrase("Desk", "it is nothing that a support or a span has");
