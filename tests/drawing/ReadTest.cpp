@@ -37,7 +37,8 @@ TEST(ReadDrawing, AFloorIsTheSameInEveryShape)
     for (const Shape& shape : Shapes) {
         const Drawing drawing = Parsed(Draw(shape, SmallFloor()));
         Project project = drawing.Get();
-        for (Beam& beam : project.beams) {  // positions are those of the drawing, lengths those of the dimensions
+        for (Beam& beam :
+             project.beams) {  // positions are those of the drawing, lengths those of the dimensions
             for (PlanPoint* const point : {&beam.start, &beam.end}) {
                 *point = {point->x / shape.scale, point->y / shape.scale};
             }

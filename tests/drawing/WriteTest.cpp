@@ -185,8 +185,7 @@ TEST(WriteDrawing, ANewTextIsACopyOfItsNeighbourOnePitchOn)
         }
         // Upright: one pitch to the right. Nothing is lost, and handles stay unique.
         const PlanPoint side = again.Get().beams[4].places.at(static_cast<std::size_t>(Field::Side)).at;
-        EXPECT_EQ(Told({side.x / shape.scale, side.y / shape.scale}), "5300,2000")
-            << shape.name;
+        EXPECT_EQ(Told({side.x / shape.scale, side.y / shape.scale}), "5300,2000") << shape.name;
         EXPECT_EQ(Count(written, "TEXT" + std::string(shape.lineEnd)),
                   Count(bytes, "TEXT" + std::string(shape.lineEnd)) + 2)
             << shape.name;
