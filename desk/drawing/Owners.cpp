@@ -565,12 +565,17 @@ std::vector<OwnerRole> Owners::RolesOf(const TextLine& line, const OwnerBeam& be
     return roles;
 }
 
-std::optional<OwnerText> Owners::TextAt(std::size_t line, const PlanPoint& at) const
+std::optional<OwnerText> Owners::TextAt(std::size_t line, const PlanPoint& at,
+                                        const std::map<std::size_t, PlanPoint>& pointed) const
 {
+    std::vector<OwnerBeam> beams = m_beams;
+    for (const auto& [label, there] : pointed) {
+        beams[label] = BeamAt(label, there).value_or(beams[label]);
+    }
     OwnerText owner;
     double best = SameRest * m_unit;
-    for (std::size_t i = 0; i < m_beams.size(); ++i) {
-        const OwnerBeam& beam = m_beams[i];
+    for (std::size_t i = 0; i < beams.size(); ++i) {
+        const OwnerBeam& beam = beams[i];
         const double u = beam.frame.U(at);
         const double gap = std::max(0.0, std::abs(beam.frame.V(at) - beam.axis) - beam.width / 2.0);
         if (u >= beam.supports.front() && u <= beam.supports.back() && gap < best) {
@@ -581,7 +586,7 @@ std::optional<OwnerText> Owners::TextAt(std::size_t line, const PlanPoint& at) c
     if (!owner.beam) {
         return std::nullopt;
     }
-    owner.roles = RolesOf(m_texts.lines[line], m_beams[*owner.beam]);
+    owner.roles = RolesOf(m_texts.lines[line], beams[*owner.beam]);
     return owner.roles.empty() ? std::nullopt : std::optional(owner);
 }
 

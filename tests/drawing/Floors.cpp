@@ -249,7 +249,7 @@ DrawnFloor CrowdedFloor(unsigned seed)
         if (i % 3 == 0) {
             left += (left < 0 ? -1 : 1) * (2000 + 10 * below(400));
         }
-        floor.labels.push_back(Label(floor, i, texts, along, left));
+        floor.labels.push_back(Label(floor, i, texts, along, left, i % 8 != 5));
         for (std::size_t s = 0; isFrame && s < spans; ++s) {
             const double start = outline.supports[s];
             const Beam& drawn = samples[static_cast<std::size_t>(below(static_cast<int>(samples.size())))];
