@@ -89,7 +89,8 @@ private:
     [[nodiscard]] std::vector<OwnerRole> RolesOf(const TextLine& line, const OwnerBeam& beam) const;
 
     [[nodiscard]] double DrawnWidth(std::size_t label) const;  // by its section; 0 without one
-    [[nodiscard]] int SpansOf(std::size_t label) const;        // by its name; 0 where that gives none
+    [[nodiscard]] int
+    SpansOf(std::size_t label) const;  // by its name, with cantilevers; 0 where that gives none
     [[nodiscard]] double PositionOf(std::size_t label, const Frame& frame) const;
 
     const FoundTexts& m_texts;
