@@ -48,7 +48,8 @@ const Beam& FindBeam(const Project& project, const std::string& name)
             return !beam.name.empty() && nameOf(beam.name) == name;
         });
         if (found != project.beams.end()) {
-            return *found;
+            return project
+                .beams[WrittenOut(project, static_cast<std::size_t>(found - project.beams.begin()))];
         }
     }
     const std::string names = NamesLike(project, name);

@@ -8,8 +8,9 @@
 
 namespace Desk {
 
-// A beam by its full name, or by its name without the span suffix. The first one when several have it.
-// Throws Failure that names beams like it when there is none.
+// A beam by its full name, or by its name without the span suffix. Of several the first one, or the one
+// that is written out where the first has a name alone. Throws Failure that names beams like it when there
+// is none.
 [[nodiscard]] const Beam& FindBeam(const Project& project, const std::string& name);
 
 // On a drawing, the beam that holds the annotations of a beam: itself where it has a text beside its name,
