@@ -110,6 +110,16 @@ TEST_F(DrawingCommands, SetChangesOneTextAndNoOtherByte)
     EXPECT_EQ(Bytes("f.dxf.bak"), m_bytes);
 }
 
+TEST_F(DrawingCommands, ALabelThatLostALineStaysALabel)
+{
+    EXPECT_EQ(Run("beamdesk set --project f.dxf --beam KL1 stirrup ''").status, 0);
+    EXPECT_EQ(Run("beamdesk set --project f.dxf --beam KL1 topBars 2B28").out,
+              "KL1(2) topBars: 2B25 -> 2B28\n");
+    EXPECT_EQ(Run("beamdesk set --project f.dxf --beam KL1 stirrup 'A8@100/200(2)'").status, 0);
+    EXPECT_EQ(Run("beamdesk set --project f.dxf --beam KL1 stirrup 'A8@150(2)'").out,
+              "KL1(2) stirrup: A8@100/200(2) -> A8@150(2)\n");
+}
+
 TEST_F(DrawingCommands, SetChangesAProjectFileAsWell)
 {
     const std::string before = Bytes("f.json");
