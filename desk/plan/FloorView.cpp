@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "desk/plan/FloorItems.h"
-#include "desk/plan/MarksItem.h"
 
 namespace Desk {
 
@@ -53,7 +52,7 @@ void FloorView::SetProject(const Project* project, const Backdrop* behind)
 void FloorView::Refresh(const FieldRef& ref)
 {
     if (OwnerItem* const item = ItemOf(ref)) {
-        item->TakeTexts(*m_project);
+        item->Take(*m_project);
     }
 }
 
@@ -94,7 +93,7 @@ QPoint FloorView::OnScreen(const PlanPoint& at) const
     return viewport()->mapToGlobal(mapFromScene(OnSheet(at)));
 }
 
-void FloorView::SetMarks(std::vector<PlanText> marks)
+void FloorView::SetMarks(std::vector<PlanMark> marks)
 {
     if (m_marks != nullptr) {
         m_all.erase(std::remove(m_all.begin(), m_all.end(), m_marks), m_all.end());
@@ -105,6 +104,9 @@ void FloorView::SetMarks(std::vector<PlanText> marks)
         m_marks->SetColors(&ColorsFor(m_isDark));
         m_all.push_back(m_marks);
         scene()->addItem(m_marks);
+        if (const QRectF around = m_marks->sceneBoundingRect(); !sceneRect().contains(around)) {
+            scene()->setSceneRect(sceneRect() | around);
+        }
     }
 }
 
@@ -154,15 +156,12 @@ OwnerItem* FloorView::ItemOf(const FieldRef& ref) const
     return m_items[ref.index + (ref.isWall ? m_project->beams.size() : 0)];
 }
 
-// A text before a beam, and of two beams the one on top.
+// An annotation before a mark, both before a beam, and of two beams the one on top.
 FloorView::Hit FloorView::HitAt(const QPoint& inView) const
 {
     const QPointF at = mapToScene(inView);
     const double scale = transform().m11();
     const double reach = BodyReach / scale;
-    if (const auto mark = m_marks != nullptr ? m_marks->MarkAt(at, scale) : std::nullopt) {
-        return {nullptr, std::nullopt, mark};
-    }
     Hit body;
     for (QGraphicsItem* const each :
          scene()->items(QRectF(at.x() - reach, at.y() - reach, 2 * reach, 2 * reach),
@@ -178,6 +177,9 @@ FloorView::Hit FloorView::HitAt(const QPoint& inView) const
         if (body.item == nullptr && item->IsOnBody(local, reach)) {
             body.item = item;
         }
+    }
+    if (const auto mark = m_marks != nullptr ? m_marks->MarkAt(at, scale) : std::nullopt) {
+        return {nullptr, std::nullopt, mark};
     }
     return body;
 }

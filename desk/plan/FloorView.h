@@ -5,13 +5,11 @@
 #include <optional>
 #include <vector>
 
+#include "desk/plan/MarksItem.h"
 #include "desk/plan/OwnerItem.h"
 #include "desk/plan/PanView.h"
-#include "desk/project/Backdrop.h"
 
 namespace Desk {
-
-class MarksItem;
 
 class FloorView : public PanView {
     Q_OBJECT
@@ -31,7 +29,7 @@ public:
     [[nodiscard]] std::optional<FieldRef> Chosen() const { return m_chosen; }
 
     // Texts that wait for a person, drawn apart from the others, by numbers from 0.
-    void SetMarks(std::vector<PlanText> marks);
+    void SetMarks(std::vector<PlanMark> marks);
     // Lights up a mark and brings it into view; nothing for none. Does not signal.
     void LightMark(std::optional<std::size_t> mark);
     // The next press tells a position, whatever is there.

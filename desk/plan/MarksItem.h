@@ -9,10 +9,15 @@
 
 namespace Desk {
 
+struct PlanMark {
+    PlanText text;
+    bool isAnnotation = false;  // whose own item draws the text
+};
+
 // Local coordinates: mm, 0 at the first text.
 class MarksItem : public PlanItem {
 public:
-    explicit MarksItem(std::vector<PlanText> marks);
+    explicit MarksItem(std::vector<PlanMark> marks);
 
     [[nodiscard]] QRectF boundingRect() const override { return m_all; }
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
@@ -25,7 +30,7 @@ public:
     [[nodiscard]] std::optional<std::size_t> MarkAt(const QPointF& onSheet, double scale) const;
 
 private:
-    std::vector<PlanText> m_marks;
+    std::vector<PlanMark> m_marks;
     std::vector<QPolygonF> m_outlines;
     std::optional<std::size_t> m_lit;
     QRectF m_all;

@@ -22,36 +22,28 @@ double DegreesOf(double dx, double dy) { return std::atan2(dy, dx) * 180.0 / std
 OwnerItem::OwnerItem(const Project& project, bool isWall, std::size_t index)
     : m_isWall(isWall), m_index(index)
 {
-    const PlanPoint start = isWall ? project.walls[index].start : project.beams[index].start;
-    const PlanPoint end = isWall ? project.walls[index].end : project.beams[index].end;
-    // The sheet's y goes down, the plan's up. Texts are read from below or from the right.
-    double dx = end.x - start.x;
-    double dy = start.y - end.y;
-    constexpr double Upright = 1e-6;
-    if (dx < -Upright * std::abs(dy) || (std::abs(dx) <= Upright * std::abs(dy) && dy > 0.0)) {
-        dx = -dx;
-        dy = -dy;
-        m_body.isReversed = true;
-    }
-    m_body.length = std::hypot(dx, dy);
-    setPos((start.x + end.x) / 2.0, -(start.y + end.y) / 2.0);
-    setRotation(DegreesOf(dx, dy));
-    TakeTexts(project);
+    Take(project);
     SetBlock(BlockPositions().front());
 }
 
 QRectF OwnerItem::boundingRect() const
 {
-    QRectF all = Body().adjusted(0, -LeaderReach, 0, LeaderReach);
+    const double reach = m_isDrawn ? m_body.width : LeaderReach;
+    QRectF all = Body().adjusted(0, -reach, 0, reach);
     for (const Label& label : AllLabels()) {
         all |= label.Outline().boundingRect();
     }
     return all;
 }
 
-void OwnerItem::TakeTexts(const Project& project)
+void OwnerItem::Take(const Project& project)
 {
     prepareGeometryChange();
+    if (m_isWall) {
+        Lie(project.walls[m_index].start, project.walls[m_index].end);
+    } else {
+        Lie(project.beams[m_index].start, project.beams[m_index].end);
+    }
     if (m_isWall) {
         const Wall& wall = project.walls[m_index];
         m_body.width = wall.thickness > 0 ? wall.thickness : DefaultWidth;
@@ -61,6 +53,9 @@ void OwnerItem::TakeTexts(const Project& project)
         const int width = WidthOf(beam.section);
         m_body.width = width > 0 ? width : DefaultWidth;
         m_isDrawn = !beam.places.empty();
+        if (m_isDrawn) {  // in units of its own, perhaps
+            m_body.width = std::min(m_body.width, 1.5 * HeightOf(beam));
+        }
         m_block = BlockOf(beam);
         m_fixed = TextsBeside(beam, m_body);
         for (Label& label : PlacedTexts(beam)) {
@@ -70,6 +65,23 @@ void OwnerItem::TakeTexts(const Project& project)
         }
     }
     update();
+}
+
+void OwnerItem::Lie(const PlanPoint& start, const PlanPoint& end)
+{
+    // The sheet's y goes down, the plan's up. Texts are read from below or from the right.
+    double dx = end.x - start.x;
+    double dy = start.y - end.y;
+    constexpr double Upright = 1e-6;
+    m_body.isReversed =
+        dx < -Upright * std::abs(dy) || (std::abs(dx) <= Upright * std::abs(dy) && dy > 0.0);
+    if (m_body.isReversed) {
+        dx = -dx;
+        dy = -dy;
+    }
+    m_body.length = std::hypot(dx, dy);
+    setPos((start.x + end.x) / 2.0, -(start.y + end.y) / 2.0);
+    setRotation(DegreesOf(dx, dy));
 }
 
 std::vector<QPointF> OwnerItem::BlockPositions() const

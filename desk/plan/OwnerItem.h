@@ -19,8 +19,8 @@ public:
     [[nodiscard]] QRectF boundingRect() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
-    // The texts have changed; the block's position stays.
-    void TakeTexts(const Project& project);
+    // The texts have changed, or where the beam is; the block's position at the beam stays.
+    void Take(const Project& project);
 
     // Positions of the block's upper left corner beside the beam, the best first.
     [[nodiscard]] std::vector<QPointF> BlockPositions() const;
@@ -45,6 +45,7 @@ private:
     {
         return {m_isWall, m_index, label.field, label.inPlace};
     }
+    void Lie(const PlanPoint& start, const PlanPoint& end);
     [[nodiscard]] std::vector<Label> AllLabels() const;
     void PaintBody(QPainter& painter) const;
     void PaintLeader(QPainter& painter) const;

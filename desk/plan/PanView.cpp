@@ -21,6 +21,8 @@ PanView::PanView(QWidget* parent) : QGraphicsView(parent)
     setResizeAnchor(QGraphicsView::NoAnchor);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setAcceptDrops(false);  // they are the window's
+    viewport()->setAcceptDrops(false);
     setMouseTracking(true);
     viewport()->setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);

@@ -1,12 +1,14 @@
-// Every change of a text is one command on the undo stack.
 #include "desk/window/Document.h"
 
 #include <algorithm>
 #include <utility>
 
+#include "desk/drawing/Export.h"
 #include "desk/project/Encoding.h"
+#include "desk/project/FindBeam.h"
 #include "desk/project/ProjectFile.h"
-#include "desk/window/FieldNames.h"
+#include "desk/project/SafeFile.h"
+#include "desk/window/Changes.h"
 #include "desk/window/Languages.h"
 
 namespace Desk {
@@ -15,26 +17,12 @@ namespace {
 
 constexpr int RecoveryDelay = 2000;  // ms from a change to its recovery copy
 
+bool IsDrawingName(const QString& file)
+{
+    return file.endsWith(QLatin1String(".dxf"), Qt::CaseInsensitive);
+}
+
 }  // namespace
-
-class TextChange : public QUndoCommand {
-public:
-    TextChange(Document& document, const FieldRef& ref, std::string text)
-        : m_document(document), m_ref(ref), m_before(TextAt(document.Get(), ref)), m_after(std::move(text))
-    {
-        setText(
-            QStringLiteral("%1: %2").arg(OwnerName(document.Get(), ref), FieldName(document.Get(), ref)));
-    }
-
-    void undo() override { m_document.PutText(m_ref, m_before); }
-    void redo() override { m_document.PutText(m_ref, m_after); }
-
-private:
-    Document& m_document;
-    FieldRef m_ref;
-    std::string m_before;
-    std::string m_after;
-};
 
 Document::Document(const QString& recoveryFolder, QObject* parent)
     : QObject(parent), m_recovery(recoveryFolder)
@@ -51,24 +39,50 @@ void Document::OpenSample() { Replace(SampleProject(), QString()); }
 void Document::Open(const QString& file)
 {
     const QString path = QFileInfo(file).absoluteFilePath();
-    Replace(ReadProject(path.toStdString()), path);
+    Opened opened = OpenFile(path.toStdString());
+    Replace(std::move(opened.project), path, std::move(opened.drawing));
 }
 
-void Document::OpenLost(const LostWork& lost)
+bool Document::OpenLost(const LostWork& lost)
 {
-    Project project = ReadProject(lost.copy.toStdString());
-    Replace(std::move(project), lost.file);
-    m_fileTime = lost.fileTime;  // what another program saved since is not in the copy: saving asks
+    Project copy = ReadProject(lost.copy.toStdString());
+    const QFileInfo file(lost.file);
+    bool fits = true;
+    if (IsDrawingName(lost.file)) {
+        std::optional<Drawing> drawing;
+        std::optional<Project> onDrawing;
+        if (file.exists() && file.lastModified() == lost.fileTime) {
+            drawing = OpenFile(lost.file.toStdString()).drawing;
+            onDrawing = drawing ? OntoDrawing(*drawing, copy) : std::nullopt;
+        }
+        fits = onDrawing.has_value();
+        if (fits) {
+            Replace(std::move(*onDrawing), lost.file, std::move(drawing));
+        } else {
+            Replace(std::move(copy), QString());
+        }
+    } else {
+        Replace(std::move(copy), lost.file);
+    }
+    m_fileTime = fits ? lost.fileTime
+                      : QDateTime();  // what another program saved since is not in the copy: saving asks
     m_changes.resetClean();
     if (!m_recovery.TakeOver(lost)) {
         WriteRecoveryCopy();
     }
+    return fits;
 }
 
 void Document::SaveAs(const QString& file)
 {
     const QString path = QFileInfo(file).absoluteFilePath();
-    SaveProject(m_project, path.toStdString());
+    const bool isProject = path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
+    const bool asDrawing = IsDrawingName(path) || (m_drawing && !isProject);
+    Write(path.toStdString(), asDrawing);
+    if (asDrawing != m_drawing.has_value()) {
+        Open(path);
+        return;
+    }
     m_file = path;
     NoteFileTime();
     m_changes.setClean();
@@ -76,13 +90,62 @@ void Document::SaveAs(const QString& file)
     emit FileChanged();
 }
 
+void Document::Write(const std::string& file, bool asDrawing) const
+{
+    if (!asDrawing) {
+        SaveProject(m_project, file);
+    } else if (m_drawing) {
+        m_drawing->Save(m_project, file);
+    } else {
+        if (const std::string companion = Drawing::CompanionOf(m_project); !companion.empty()) {
+            ReplaceFile(CompanionFile(file), companion);
+        }
+        ReplaceFile(file, FormatDrawing(m_project));
+    }
+}
+
+std::vector<std::size_t> Document::OpenTexts() const
+{
+    std::vector<std::size_t> open;
+    if (m_drawing) {
+        const std::vector<AnnotationText>& texts = m_drawing->Texts();
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            if (texts[i].open && !m_project.pointed.contains(texts[i].handle)) {
+                open.push_back(i);
+            }
+        }
+    }
+    return open;
+}
+
+std::optional<FieldRef> Document::PointTo(std::size_t text, const PlanPoint& at)
+{
+    std::optional<Drawing::Pointed> pointed =
+        m_drawing ? m_drawing->PointTo(m_project, text, at) : std::nullopt;
+    if (!pointed) {
+        return std::nullopt;
+    }
+    const FieldRef ref = pointed->ref;
+    m_changes.push(new PointChange(*this, m_drawing->Texts()[text].handle, std::move(*pointed), at));
+    return ref;
+}
+
+FieldRef Document::Target(FieldRef ref) const
+{
+    if (m_drawing && !ref.isWall && ref.inPlace < 0 && ref.field != Field::Name) {
+        ref.index = WrittenOut(m_project, ref.index);
+    }
+    return ref;
+}
+
 bool Document::IsFileNewer() const
 {
     return !m_file.isEmpty() && QFileInfo::exists(m_file) && QFileInfo(m_file).lastModified() != m_fileTime;
 }
 
-QString Document::SetText(const FieldRef& ref, const QString& text)
+QString Document::SetText(const FieldRef& asked, const QString& text)
 {
+    const FieldRef ref = Target(asked);
     const std::string wanted = text.trimmed().toStdString();
     if (wanted == TextAt(m_project, ref)) {
         return {};
@@ -117,20 +180,27 @@ void Document::WriteRecoveryCopy()
 void Document::PutText(const FieldRef& ref, const std::string& text)
 {
     TextAt(m_project, ref) = text;
+    Changed(ref);
+}
+
+void Document::Changed(const FieldRef& ref)
+{
     if (!m_recoverySoon.isActive()) {
         m_recoverySoon.start();
     }
     emit TextChanged(ref);
 }
 
-void Document::Replace(Project project, const QString& file)
+void Document::Replace(Project project, const QString& file, std::optional<Drawing> drawing)
 {
     DropRecoveryCopy();
     m_project = std::move(project);
+    m_drawing = std::move(drawing);
     m_file = file;
     NoteFileTime();
     m_changes.clear();
     emit Replaced();
+    emit OpenTextsChanged();
     emit FileChanged();
 }
 

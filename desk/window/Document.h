@@ -1,9 +1,14 @@
-// Document: the project in work with its file, its changes that can be taken back, its recovery copy.
+// Document: the project in work, from a project file or a drawing, with its changes that can be taken back
+// and its recovery copy.
 #pragma once
+
+#include <optional>
+#include <vector>
 
 #include <QtCore>
 
 #include "desk/Toolkit.h"
+#include "desk/drawing/Drawing.h"
 #include "desk/project/Fields.h"
 #include "desk/window/RecoveryCopy.h"
 
@@ -24,20 +29,35 @@ public:
     // Empty for the sample and for a project that was never saved.
     [[nodiscard]] QString File() const { return m_file; }
 
+    // The drawing that the project was read from; null for a project file and for the sample.
+    [[nodiscard]] const Drawing* From() const { return m_drawing ? &*m_drawing : nullptr; }
+    // Texts of the drawing whose beam nobody has told yet, by their numbers in it.
+    [[nodiscard]] std::vector<std::size_t> OpenTexts() const;
+
     // Each replaces the project and throws Failure, with nothing changed, when it cannot be done.
     void OpenSample();
     void Open(const QString& file);
     // What a session that broke off left: its texts count as unsaved changes of the file that it came from.
-    void OpenLost(const LostWork& lost);
+    // False when that is a drawing that they fit no more: then they are a project that was never saved.
+    bool OpenLost(const LostWork& lost);
 
-    // Throws Failure and leaves the old file when it cannot be done.
+    // A name that ends in .dxf or .json says what is written, else it is what was opened. A project that
+    // becomes a drawing, or the other way, is opened from the new file. Throws Failure and leaves the old
+    // file when it cannot be done.
     void SaveAs(const QString& file);
     // Another program has written the file since it was read or saved here.
     [[nodiscard]] bool IsFileNewer() const;
 
+    // The annotation that is set where a person sets this one: a beam of a drawing that has only a name
+    // takes part in the one that is written out.
+    [[nodiscard]] FieldRef Target(FieldRef ref) const;
     // Sets an annotation, which can be taken back. Answers why the text is refused, empty when it is
     // taken. Blanks around it are removed, and setting the present text is no change.
     QString SetText(const FieldRef& ref, const QString& text);
+
+    // Gives an open text to the beam at a position, which can be taken back. The text's annotation, or
+    // nothing where no beam takes it.
+    std::optional<FieldRef> PointTo(std::size_t text, const PlanPoint& at);
 
     // Removes the recovery copy: all is saved, or the person gave the changes up.
     void DropRecoveryCopy();
@@ -46,17 +66,22 @@ public:
 
 signals:
     void TextChanged(const Desk::FieldRef& ref);
+    void OpenTextsChanged();
     void Replaced();     // another project
     void FileChanged();  // its name
     void RecoveryFailed(const QString& why);
 
 private:
     friend class TextChange;
+    friend class PointChange;
     void PutText(const FieldRef& ref, const std::string& text);
-    void Replace(Project project, const QString& file);
+    void Changed(const FieldRef& ref);
+    void Replace(Project project, const QString& file, std::optional<Drawing> drawing = std::nullopt);
+    void Write(const std::string& file, bool asDrawing) const;
     void NoteFileTime();
 
     Project m_project;
+    std::optional<Drawing> m_drawing;
     QString m_file;
     QDateTime m_fileTime;
     QUndoStack m_changes;

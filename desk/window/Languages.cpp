@@ -46,9 +46,9 @@ void ApplyLanguage(Language language)
 
 bool IsChinese() { return isChinese; }
 
-QString Told(const Failure& failure)
+QString Told(const Message& message)
 {
-    return QString::fromStdString(failure.Told().In([](const Phrase& phrase) {
+    return QString::fromStdString(message.In([](const Phrase& phrase) {
         return QCoreApplication::translate(phrase.context, phrase.english).toStdString();
     }));
 }

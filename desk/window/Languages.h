@@ -14,7 +14,8 @@ void ApplyLanguage(Language language);
 // Whether the application has been given Chinese.
 [[nodiscard]] bool IsChinese();
 
-// What failed and why, in the interface's language.
-[[nodiscard]] QString Told(const Failure& failure);
+// In the interface's language; of a failure what failed and why.
+[[nodiscard]] QString Told(const Message& message);
+[[nodiscard]] inline QString Told(const Failure& failure) { return Told(failure.Told()); }
 
 }  // namespace Desk

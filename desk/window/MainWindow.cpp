@@ -11,7 +11,8 @@ namespace Desk {
 
 MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
     : QMainWindow(parent), m_document(RecoveryFolder()), m_panels(display), m_display(display),
-      m_floor(new FloorView(this)), m_docks(new Docks(*this, m_document)), m_menus(new Menus(*this)),
+      m_floor(new FloorView(this)), m_docks(new Docks(*this, m_document)),
+      m_openTexts(new OpenTexts(m_document, *m_floor, this)), m_menus(new Menus(*this)),
       m_selection(new Selection(m_document, *m_floor, *m_docks, m_panels, *this)),
       m_files(new ProjectFiles(m_document, *this, m_menus->Recent(),
                                [this] { return m_selection->EndEdit(); })),
@@ -21,6 +22,8 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
     setMinimumSize(640, 420);  // the tool bar with its search, and something of the drawing
     m_floor->setObjectName("drawing");
     setCentralWidget(m_floor);
+    addDockWidget(Qt::LeftDockWidgetArea, m_openTexts);
+    setAcceptDrops(true);
     auto* const gap = new QWidget;
     gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     m_menus->ToolBar().addWidget(gap);
@@ -42,6 +45,7 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
 void MainWindow::AddSettings()
 {
     m_menus->View().addActions(m_docks->Toggles());
+    m_menus->View().addAction(m_openTexts->toggleViewAction());
     m_menus->View().addSeparator();
     m_menus->AddChoice(QT_TRANSLATE_NOOP("Desk", "&Language"),
                        {QT_TRANSLATE_NOOP("Desk", "As the system"), "中文", "English"},
@@ -65,6 +69,8 @@ void MainWindow::AddSettings()
 void MainWindow::ConnectParts()
 {
     connect(m_selection, &Selection::Said, statusBar(),
+            [this](const QString& text) { statusBar()->showMessage(text); });
+    connect(m_openTexts, &OpenTexts::Said, statusBar(),
             [this](const QString& text) { statusBar()->showMessage(text); });
     connect(m_search, &SearchLine::Asked, this, [this] { m_selection->Find(m_search->Wanted(), 1); });
     connect(m_files, &ProjectFiles::Saved, this, [this](const QString& file) {
@@ -134,6 +140,7 @@ void MainWindow::SetLanguage(Language language)
     ApplyLanguage(language);
     m_menus->Retranslate();
     m_search->Retranslate();
+    m_openTexts->Retranslate();
     m_docks->Redraw();
     ShowTitle();
 }
@@ -153,6 +160,8 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
         m_docks->StartTyping(text);
     } else if (Chosen() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
         m_docks->StartTyping();
+    } else if (event->key() == Qt::Key_Escape && m_floor->IsPointing()) {
+        m_openTexts->EndPointing();
     } else if (event->key() == Qt::Key_Escape) {
         if (!event->isAutoRepeat()) {  // the key may still be down from leaving a panel
             Choose(std::nullopt);
@@ -160,6 +169,17 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
     } else {
         QMainWindow::keyPressEvent(event);
     }
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    event->setAccepted(!ProjectFiles::Dragged(*event->mimeData()).isEmpty());
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    m_files->OpenSoon(ProjectFiles::Dragged(*event->mimeData()));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -8,6 +8,7 @@
 #include "desk/shell/QtDisplay.h"
 #include "desk/window/Languages.h"
 #include "desk/window/Menus.h"
+#include "desk/window/OpenTexts.h"
 #include "desk/window/ProjectFiles.h"
 #include "desk/window/SearchLine.h"
 #include "desk/window/Selection.h"
@@ -38,6 +39,8 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;  // of a file
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void AddSettings();
@@ -51,6 +54,7 @@ private:
     QtDisplay& m_display;
     FloorView* m_floor;
     Docks* m_docks;
+    OpenTexts* m_openTexts;
     Menus* m_menus;
     Selection* m_selection;
     ProjectFiles* m_files;

@@ -22,11 +22,11 @@ constexpr const char* ViewTitle = QT_TRANSLATE_NOOP("Desk", "&View");
 // clang-format off
 constexpr Row Rows[] = {
     Title(QT_TRANSLATE_NOOP("Desk", "&File")),
-    {"open", QT_TRANSLATE_NOOP("Desk", "&Open..."), QT_TRANSLATE_NOOP("Desk", "Opens a project file"), QKeySequence::Open},
+    {"open", QT_TRANSLATE_NOOP("Desk", "&Open..."), QT_TRANSLATE_NOOP("Desk", "Opens a project file or a drawing"), QKeySequence::Open},
     Title(RecentTitle),
     {"sample", QT_TRANSLATE_NOOP("Desk", "Open the &sample"), QT_TRANSLATE_NOOP("Desk", "Opens the sample project")},
     Line,
-    {"save", QT_TRANSLATE_NOOP("Desk", "&Save"), QT_TRANSLATE_NOOP("Desk", "Saves the project"), QKeySequence::Save},
+    {"save", QT_TRANSLATE_NOOP("Desk", "&Save"), QT_TRANSLATE_NOOP("Desk", "Saves the project or the drawing"), QKeySequence::Save},
     {"saveAs", QT_TRANSLATE_NOOP("Desk", "Save &as..."), QT_TRANSLATE_NOOP("Desk", "Saves under another name"), {}, Qt::CTRL | Qt::SHIFT | Qt::Key_S},
     Line,
     {"quit", QT_TRANSLATE_NOOP("Desk", "&Quit"), QT_TRANSLATE_NOOP("Desk", "Ends the program"), {}, Qt::CTRL | Qt::Key_Q},

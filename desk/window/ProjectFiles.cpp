@@ -59,7 +59,10 @@ bool ProjectFiles::OfferLostWork()
             DropLostWork(lost);
         } else if (answer == Recover) {
             try {
-                m_document.OpenLost(lost);
+                if (!m_document.OpenLost(lost)) {
+                    Tell(&m_window, tr("The drawing is no longer as it was"),
+                         tr("The work on %1 was opened as a project without a file.").arg(name));
+                }
                 return true;
             } catch (const Failure& failure) {
                 Tell(&m_window, tr("The recovery copy could not be opened"), Told(failure));
@@ -72,11 +75,24 @@ bool ProjectFiles::OfferLostWork()
 void ProjectFiles::AskOpen()
 {
     const QString start = QFileInfo(m_document.File()).absolutePath();
-    const QString file = QFileDialog::getOpenFileName(&m_window, tr("Open a project"), start,
-                                                      tr("Projects (*.json);;All files (*)"));
+    const QString file =
+        QFileDialog::getOpenFileName(&m_window, tr("Open a project or a drawing"), start,
+                                     tr("Projects and drawings (*.json *.dxf);;All files (*)"));
     if (!file.isEmpty()) {
         Open(file);
     }
+}
+
+QString ProjectFiles::Dragged(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+}
+
+void ProjectFiles::OpenSoon(const QString& file)
+{
+    QMetaObject::invokeMethod(
+        this, [this, file] { Open(file); }, Qt::QueuedConnection);
 }
 
 bool ProjectFiles::Save()
@@ -112,9 +128,15 @@ bool ProjectFiles::SaveUnderNewName()
     const QString start = m_document.File().isEmpty()
                               ? (documents.exists() ? documents : QDir::home()).filePath("project.json")
                               : m_document.File();
-    QFileDialog dialog(&m_window, tr("Save the project as"), start, tr("Projects (*.json);;All files (*)"));
+    const bool drawing = m_document.From() != nullptr;
+    const QString drawings = tr("Drawings (*.dxf)");
+    const QString projects = tr("Projects (*.json)");
+    QFileDialog dialog(&m_window, tr("Save as"), start);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix("json");
+    dialog.setNameFilters({drawing ? drawings : projects, drawing ? projects : drawings});
+    dialog.setDefaultSuffix(drawing ? "dxf" : "json");
+    connect(&dialog, &QFileDialog::filterSelected, &dialog,
+            [&](const QString& filter) { dialog.setDefaultSuffix(filter == drawings ? "dxf" : "json"); });
     dialog.selectFile(start);
     return dialog.exec() == QDialog::Accepted && SaveTo(dialog.selectedFiles().constFirst());
 }

@@ -1,4 +1,5 @@
-// ProjectFiles: opening, saving and leaving a project; nothing unsaved is lost without a question.
+// ProjectFiles: opening, saving and leaving a project or a drawing; nothing unsaved is lost without a
+// question.
 #pragma once
 
 #include <functional>
@@ -16,10 +17,15 @@ public:
     // when that was refused, and then nothing is done. The menu gets the files that were used last.
     ProjectFiles(Document& document, QWidget& window, QMenu& recent, std::function<bool()> endEdit);
 
-    // Opens a project file, the sample for an empty name. False when it was not opened, and why was told.
+    // Opens a project file or a drawing, the sample for an empty name. False when it was not opened, and
+    // why was told.
     bool Open(const QString& file);
     void OpenSample() { Open(QString()); }
     void AskOpen();
+    // The one file that is dragged over the window, empty for anything else.
+    [[nodiscard]] static QString Dragged(const QMimeData& data);
+    // After the event in hand: the program that a dropped file comes from waits for its end.
+    void OpenSoon(const QString& file);
     // Offers what a session that broke off left, the latest first; true when the person took one.
     bool OfferLostWork();
 

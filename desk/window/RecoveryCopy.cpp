@@ -65,6 +65,52 @@ void DropLostWork(const LostWork& lost)
     }
 }
 
+std::optional<Project> OntoDrawing(const Drawing& drawing, const Project& copy)
+{
+    Project project = drawing.Get();
+    if (project.beams.size() != copy.beams.size()) {
+        return std::nullopt;
+    }
+    std::vector<int> taken(project.beams.size());  // texts that were pointed to each beam
+    for (const auto& [handle, at] : copy.pointed) {
+        const std::vector<AnnotationText>& texts = drawing.Texts();
+        const auto text =
+            std::find_if(texts.begin(), texts.end(), [&name = handle](const AnnotationText& each) {
+                return each.open && each.handle == name;
+            });
+        if (text == texts.end()) {
+            continue;  // pointed before the drawing was saved
+        }
+        const auto pointed = drawing.PointTo(project, static_cast<std::size_t>(text - texts.begin()), at);
+        if (!pointed) {
+            return std::nullopt;
+        }
+        taken[pointed->beam] += text->inPlace ? 1 : 0;
+        project.beams[pointed->beam] = pointed->as;
+    }
+    for (std::size_t i = 0; i < copy.beams.size(); ++i) {
+        Beam& beam = project.beams[i];
+        const Beam& lost = copy.beams[i];
+        for (const Field field : BeamFields()) {
+            beam.*RowOf(field).ofBeam = lost.*RowOf(field).ofBeam;
+        }
+        const std::size_t drawn = beam.inPlace.size();
+        // The order in which two or more were pointed, or pointed and added, is not known.
+        if (lost.inPlace.size() < drawn || taken[i] > 1 || (taken[i] == 1 && lost.inPlace.size() > drawn)) {
+            return std::nullopt;
+        }
+        for (std::size_t k = 0; k < lost.inPlace.size(); ++k) {
+            if (k < drawn) {
+                beam.inPlace[k].text = lost.inPlace[k].text;
+            } else {
+                beam.inPlace.push_back(lost.inPlace[k]);
+            }
+        }
+    }
+    project.pointed = copy.pointed;
+    return project;
+}
+
 RecoveryCopy::RecoveryCopy(QString folder)
     : m_folder(std::move(folder)), m_name(QUuid::createUuid().toString(QUuid::WithoutBraces))
 {

@@ -2,10 +2,11 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <QtCore>
 
-#include "desk/project/Project.h"
+#include "desk/drawing/Drawing.h"
 
 namespace Desk {
 
@@ -20,6 +21,9 @@ struct LostWork {
 // Copies in the folder whose program has ended, the latest first.
 [[nodiscard]] QList<LostWork> FindLostWork(const QString& folder);
 void DropLostWork(const LostWork& lost);
+// The project of a drawing, which is as it was then, with the copy's texts and what was pointed. Nothing
+// when it is not certain which text of the copy is which of the drawing.
+[[nodiscard]] std::optional<Project> OntoDrawing(const Drawing& drawing, const Project& copy);
 
 // The copy of one document: NAME.json with the project; NAME.from with the name of its file and, in the
 // next line, the file's time in ms since 1970; NAME.lock, held for as long as this program runs.

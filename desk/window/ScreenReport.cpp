@@ -81,18 +81,16 @@ QJsonArray Annotations(MainWindow& window)
             told.push_back(QJsonObject{{"wall", ref.isWall},
                                        {"index", static_cast<qint64>(ref.index)},
                                        {"field", static_cast<int>(ref.field)},
+                                       {"inPlace", ref.inPlace},
                                        {"text", QString::fromStdString(text)},
                                        {"place", Json(rect)}});
         }
     };
-    for (std::size_t i = 0; i < project.beams.size(); ++i) {
-        for (const Field field : BeamFields()) {
-            tell({false, i, field});
-        }
-    }
-    for (std::size_t i = 0; i < project.walls.size(); ++i) {
-        for (const Field field : WallFields()) {
-            tell({true, i, field});
+    for (const bool wall : {false, true}) {
+        for (std::size_t i = 0; i < (wall ? project.walls.size() : project.beams.size()); ++i) {
+            for (const FieldRef& ref : RefsOf(project, {wall, i})) {
+                tell(ref);
+            }
         }
     }
     return told;
@@ -146,7 +144,8 @@ QJsonObject ScreenReport(MainWindow& window)
     if (const std::optional<FieldRef>& chosen = window.Chosen()) {
         told["chosen"] = QJsonObject{{"wall", chosen->isWall},
                                      {"index", static_cast<qint64>(chosen->index)},
-                                     {"field", static_cast<int>(chosen->field)}};
+                                     {"field", static_cast<int>(chosen->field)},
+                                     {"inPlace", chosen->inPlace}};
     }
     return told;
 }

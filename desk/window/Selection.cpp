@@ -35,7 +35,8 @@ Selection::Selection(Document& document, FloorView& floor, Docks& docks, PanelHo
     connect(&document, &Document::Replaced, this, [this] {
         m_panels.Close();  // it serves an annotation of the project before
         m_chosen.reset();
-        m_floor.SetProject(&m_document.Get());
+        const Drawing* const from = m_document.From();
+        m_floor.SetProject(&m_document.Get(), from != nullptr ? &from->Behind() : nullptr);
         Show();
     });
 }
@@ -87,11 +88,12 @@ bool Selection::EndEdit()
     return !m_isRefused;
 }
 
-void Selection::Take(const FieldRef& ref, const QString& text)
+void Selection::Take(const FieldRef& asked, const QString& text)
 {
-    if (!Exists(m_document.Get(), ref)) {
+    if (!Exists(m_document.Get(), asked)) {
         return;  // of a project that is gone
     }
+    const FieldRef ref = m_document.Target(asked);
     const QString owner = OwnerName(m_document.Get(), ref);  // a new name changes it
     const std::string before = TextAt(m_document.Get(), ref);
     const QString refusal = m_document.SetText(ref, text);

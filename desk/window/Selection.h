@@ -34,7 +34,7 @@ signals:
     void Said(const QString& text);  // for the status bar; empty when the text before is out of date
 
 private:
-    void Take(const FieldRef& ref, const QString& text);
+    void Take(const FieldRef& asked, const QString& text);
     void OpenPanelBeside(const QRect& field);
     void Show();
 

@@ -292,10 +292,6 @@
         <translation>打开(&amp;O)...</translation>
     </message>
     <message>
-        <source>Opens a project file</source>
-        <translation>打开工程文件</translation>
-    </message>
-    <message>
         <source>Open the &amp;sample</source>
         <translation>打开示例(&amp;M)</translation>
     </message>
@@ -306,10 +302,6 @@
     <message>
         <source>&amp;Save</source>
         <translation>保存(&amp;S)</translation>
-    </message>
-    <message>
-        <source>Saves the project</source>
-        <translation>保存工程</translation>
     </message>
     <message>
         <source>Save &amp;as...</source>
@@ -503,6 +495,90 @@
         <source>a text in place</source>
         <translation>原位标注</translation>
     </message>
+    <message>
+        <source>the file is cut off: its EOF is missing</source>
+        <translation>文件不完整：缺少 EOF</translation>
+    </message>
+    <message>
+        <source>a group code and a value are required here</source>
+        <translation>此处应为组码和值</translation>
+    </message>
+    <message>
+        <source>%1: a binary DXF; save it as ASCII DXF in the drawing program (Save as, DXF, options: ASCII)</source>
+        <translation>%1：二进制 DXF；请在绘图软件中另存为 ASCII DXF（另存为，DXF，选项：ASCII）</translation>
+    </message>
+    <message>
+        <source>%1: a DWG drawing; save it as ASCII DXF in the drawing program (Save as, type DXF)</source>
+        <translation>%1：DWG 图纸；请在绘图软件中另存为 ASCII DXF（另存为，类型 DXF）</translation>
+    </message>
+    <message>
+        <source>its leader ends on several beams</source>
+        <translation>引线端点处有多根梁</translation>
+    </message>
+    <message>
+        <source>several parallel beams are near</source>
+        <translation>附近有多根平行的梁</translation>
+    </message>
+    <message>
+        <source>its leader ends on no beam</source>
+        <translation>引线端点处没有梁</translation>
+    </message>
+    <message>
+        <source>it has no leader, and no parallel beam is near</source>
+        <translation>没有引线，附近也没有平行的梁</translation>
+    </message>
+    <message>
+        <source>no parallel beam is near</source>
+        <translation>附近没有平行的梁</translation>
+    </message>
+    <message>
+        <source>two beams are about as near as each other</source>
+        <translation>两根梁的距离相近</translation>
+    </message>
+    <message>
+        <source>the beam beside it has no label</source>
+        <translation>旁边的梁没有集中标注</translation>
+    </message>
+    <message>
+        <source>it is nothing that a support or a span has</source>
+        <translation>不是支座或跨的原位标注</translation>
+    </message>
+    <message>
+        <source>%1: its blocks hold each other too often to be shown</source>
+        <translation>%1：块嵌套过多，无法显示</translation>
+    </message>
+    <message>
+        <source>%1: a block holds itself</source>
+        <translation>%1：块包含自身</translation>
+    </message>
+    <message>
+        <source>the drawing takes no beams that it has no label for</source>
+        <translation>图中没有集中标注的梁不能写入图纸</translation>
+    </message>
+    <message>
+        <source>%1: a label needs its name</source>
+        <translation>%1：集中标注需要编号</translation>
+    </message>
+    <message>
+        <source>%1: this text of the drawing can only be changed in the drawing program</source>
+        <translation>%1：图中的这个文字只能在绘图软件中修改</translation>
+    </message>
+    <message>
+        <source>%1: the drawing has no text beside the beam that a new one could be made like</source>
+        <translation>%1：梁旁没有可供仿照的文字，无法新增</translation>
+    </message>
+    <message>
+        <source>%1: a label of block attributes takes no new line</source>
+        <translation>%1：由块属性组成的集中标注不能增加行</translation>
+    </message>
+    <message>
+        <source>Opens a project file or a drawing</source>
+        <translation>打开工程文件或图纸</translation>
+    </message>
+    <message>
+        <source>Saves the project or the drawing</source>
+        <translation>保存工程或图纸</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>
@@ -620,6 +696,45 @@
     </message>
 </context>
 <context>
+    <name>Desk::OpenTexts</name>
+    <message>
+        <source>Open texts</source>
+        <translation>待定文字</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Why it is open</source>
+        <translation>待定原因</translation>
+    </message>
+    <message>
+        <source>Point to its beam</source>
+        <translation>指定所属梁</translation>
+    </message>
+    <message>
+        <source>Then press the beam on the plan</source>
+        <translation>然后在平面图上点取梁</translation>
+    </message>
+    <message>
+        <source>Press the beam of %1 on the plan; Esc leaves the text open</source>
+        <translation>请在平面图上点取 %1 所属的梁，按 Esc 保持待定</translation>
+    </message>
+    <message>
+        <source>The text stays open</source>
+        <translation>文字保持待定</translation>
+    </message>
+    <message>
+        <source>%1 belongs to %2</source>
+        <translation>%1 属于 %2</translation>
+    </message>
+    <message>
+        <source>There is no beam that could take %1; press another position, or Esc</source>
+        <translation>此处没有 %1 可归属的梁，请另选位置或按 Esc</translation>
+    </message>
+</context>
+<context>
     <name>Desk::ProjectFiles</name>
     <message>
         <source>The project could not be opened</source>
@@ -654,14 +769,6 @@
         <translation>恢复副本无法打开</translation>
     </message>
     <message>
-        <source>Open a project</source>
-        <translation>打开工程</translation>
-    </message>
-    <message>
-        <source>Projects (*.json);;All files (*)</source>
-        <translation>工程文件 (*.json);;所有文件 (*)</translation>
-    </message>
-    <message>
         <source>Another program has written %1 since it was opened here.</source>
         <translation>打开之后，%1 已被其他程序改写。</translation>
     </message>
@@ -676,10 +783,6 @@
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
-    </message>
-    <message>
-        <source>Save the project as</source>
-        <translation>工程另存为</translation>
     </message>
     <message>
         <source>The project could not be saved</source>
@@ -700,6 +803,34 @@
     <message>
         <source>Stay</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>The drawing is no longer as it was</source>
+        <translation>图纸已有变动</translation>
+    </message>
+    <message>
+        <source>The work on %1 was opened as a project without a file.</source>
+        <translation>%1 的未保存内容已作为尚无文件的工程打开。</translation>
+    </message>
+    <message>
+        <source>Open a project or a drawing</source>
+        <translation>打开工程或图纸</translation>
+    </message>
+    <message>
+        <source>Projects and drawings (*.json *.dxf);;All files (*)</source>
+        <translation>工程和图纸 (*.json *.dxf);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Drawings (*.dxf)</source>
+        <translation>图纸 (*.dxf)</translation>
+    </message>
+    <message>
+        <source>Projects (*.json)</source>
+        <translation>工程 (*.json)</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>另存为</translation>
     </message>
 </context>
 <context>

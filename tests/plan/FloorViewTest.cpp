@@ -5,6 +5,7 @@
 
 #include "desk/plan/FloorView.h"
 #include "desk/project/ProjectFile.h"
+#include "tests/plan/Drawn.h"
 
 namespace {
 
@@ -26,14 +27,16 @@ std::vector<FieldRef> AllRefs(const Project& project)
 }
 
 struct View : FloorView {
-    explicit View(const Project& project)
+    explicit View(const Project& project, const Backdrop* behind = nullptr)
     {
         resize(1200, 800);
-        SetProject(&project);
+        SetProject(&project, behind);
         show();
         connect(this, &FloorView::Picked, [this](const FieldRef& ref) { picked.push_back(ref); });
         connect(this, &FloorView::NothingPicked, [this] { ++nothing; });
         connect(this, &FloorView::PanelAsked, [this](const FieldRef& ref) { panel = ref; });
+        connect(this, &FloorView::MarkPicked, [this](std::size_t at) { mark = at; });
+        connect(this, &FloorView::Pointed, [this](const PlanPoint& at) { pointed = at; });
     }
     [[nodiscard]] QPoint Middle(const FieldRef& ref) const
     {
@@ -41,7 +44,14 @@ struct View : FloorView {
     }
     std::vector<FieldRef> picked;
     int nothing = 0;
+    void Press(const QPoint& at) { QTest::mouseClick(viewport(), Qt::LeftButton, {}, at); }
+    [[nodiscard]] QPoint InView(const PlanPoint& at) const
+    {
+        return viewport()->mapFromGlobal(OnScreen(at));
+    }
     std::optional<FieldRef> panel;
+    std::optional<std::size_t> mark;
+    std::optional<PlanPoint> pointed;
 };
 
 TEST(FloorView, APressOnEachAnnotationOfTheSamplePicksIt)
@@ -168,6 +178,123 @@ TEST(FloorView, TakesWhateverAProjectFileMayHold)
         EXPECT_EQ(view.OnScreen({false, 9, Field::Name}), QRect());
         view.SetProject(nullptr);
     }
+}
+
+// The same drawn in mm far from the origin, and in metres.
+TEST(FloorView, TextsOfADrawingAreWhereItHasThem)
+{
+    for (const double unit : {1.0, 0.001}) {
+        const Project project = DrawnProject(unit);
+        const Backdrop behind = DrawnBackdrop(unit);
+        View view(project, &behind);
+        view.SetChosen(FieldRef{false, 0, Field::Name});
+        view.ZoomBy(8.0);
+        const auto at = [&](double x, double y) { return view.InView(Far(x, y, unit)); };
+        const struct {
+            FieldRef ref;
+            QPoint corner;
+            bool isUpright;
+        } places[] = {
+            {{false, 0, Field::Name}, at(1000, 2000), false},
+            {{false, 0, Field::Stirrup}, at(1000, 1700), false},
+            {{false, 0, Field::BottomBars, 1}, at(4000, -500), false},
+            {{false, 1, Field::Name}, at(9000, 1000), true},
+        };
+        for (const auto& [ref, corner, isUpright] : places) {
+            SCOPED_TRACE(TextAt(project, ref) + " at " + std::to_string(unit));
+            const QRect box(view.viewport()->mapFromGlobal(view.OnScreen(ref).topLeft()),
+                            view.OnScreen(ref).size());
+            EXPECT_LE((box.bottomLeft() - (isUpright ? corner - QPoint(box.width(), 0) : corner))
+                          .manhattanLength(),
+                      5);
+            const int height = std::abs((at(0, 300) - at(0, 0)).y());
+            EXPECT_NEAR(isUpright ? box.width() : box.height(), height, 3);
+            EXPECT_EQ(box.width() < box.height(), isUpright);
+            view.picked.clear();
+            view.Press(box.center());
+            EXPECT_EQ(view.picked, std::vector{ref});
+        }
+        // Beside a turned text is nothing, though a level rectangle around all texts would hold it.
+        view.picked.clear();
+        view.Press(at(9400, 2000));
+        EXPECT_TRUE(view.picked.empty());
+    }
+}
+
+TEST(FloorView, TextsThatADrawingLacksFindAPositionAtTheirBeam)
+{
+    Project project = DrawnProject(1.0);
+    View view(project);
+    const auto corner = [&](const FieldRef& ref) { return view.OnScreen(ref).bottomLeft(); };
+    const FieldRef top{false, 0, Field::TopBars};
+    const FieldRef bottom{false, 0, Field::BottomBars};
+    const FieldRef side{false, 0, Field::Side};
+    const int before = corner(bottom).x();
+    project.beams[0].topBars = "2B25+2B22+2B20";
+    project.beams[0].side = "G4B12";
+    view.Refresh(top);
+    EXPECT_GT(corner(bottom).x(), before) << "pushed on in its line";
+    EXPECT_GT(corner(side).y(), corner(top).y()) << "below the label's last line";
+    EXPECT_EQ(corner(side).x(), corner({false, 0, Field::Name}).x());
+
+    project = SampleProject();
+    Beam& beam = project.beams[0];
+    beam.spans = {8000, 8000, 8000};
+    beam.inPlace = {{Role::TopSupport, 2, "4B25", {}, -1, {}},
+                    {Role::Bottom, 3, "4B20", {}, -1, {}},
+                    {Role::Stirrup, 3, "A8@100(2)", {}, -1, {}},
+                    {Role::TopSupport, 99, "3B25", {}, -1, {}}};
+    view.SetProject(&project);
+    const FieldRef refs[] = {{false, 0, Field::LeftEnd, 0},
+                             {false, 0, Field::BottomBars, 1},
+                             {false, 0, Field::Stirrup, 2},
+                             {false, 0, Field::LeftEnd, 3}};
+    EXPECT_LT(view.OnScreen(refs[0]).center().x(), view.OnScreen(refs[1]).center().x());
+    EXPECT_LT(view.OnScreen(refs[0]).bottom(), view.OnScreen(refs[1]).top());
+    EXPECT_LT(view.OnScreen(refs[1]).bottom(), view.OnScreen(refs[2]).bottom()) << "the next line";
+    EXPECT_LT(view.OnScreen(refs[1]).center().x(), view.OnScreen(refs[3]).center().x());
+}
+
+TEST(FloorView, TheBackdropIsQuietAndWhatIsLostFarOffDoesNotShrinkTheFloor)
+{
+    const Project project = DrawnProject(1.0);
+    Backdrop behind = DrawnBackdrop(1.0);
+    behind.texts.push_back({"lost", {{0.0, 9e8}, 0.0, 300.0}});
+    View view(project, &behind);
+    const QPoint left = view.InView(Far(0, 0));
+    EXPECT_GT(view.InView(Far(8000, 0)).x() - left.x(), 400);
+    for (const bool dark : {false, true}) {
+        view.SetDark(dark);
+        const QImage picture = view.viewport()->grab().toImage();
+        const QPoint on = view.InView(Far(3000, 125));
+        const auto isLine = [&](int by) {
+            return picture.pixelColor(on + QPoint(0, by)) == ColorsFor(dark).backdrop;
+        };
+        EXPECT_TRUE(isLine(-1) || isLine(0) || isLine(1)) << "the outline of the first beam";
+    }
+}
+
+TEST(FloorView, MarksComeBeforeBeamsAndAskedPositionsBeforeAll)
+{
+    const Project project = DrawnProject(1.0);
+    View view(project);
+    view.ZoomBy(2.0);
+    view.SetMarks({{{"2B20", {Far(6000, 0), 0.0, 300.0}}}, {{"4B20", {Far(90000, 0), 90.0, 300.0}}}});
+    const QPoint on = view.InView(Far(6400, 100));
+    view.Press(on);
+    EXPECT_EQ(view.mark, 0U);
+    view.LightMark(1);
+    EXPECT_TRUE(view.viewport()->rect().contains(view.InView(Far(90000, 0)))) << "brought into view";
+    view.SetPointing(true);
+    view.Press(view.InView(Far(90100, 50)));
+    ASSERT_TRUE(view.pointed);
+    EXPECT_NEAR(view.pointed->x, Far(90100, 0).x, 40);
+    EXPECT_NEAR(view.pointed->y, Far(0, 50).y, 40);
+    view.SetMarks({});
+    view.SetPointing(false);
+    view.SetChosen(FieldRef{false, 0, Field::Name});
+    view.Press(view.Middle({false, 0, Field::Name}));
+    EXPECT_EQ(view.picked.size(), 1U);
 }
 
 }  // namespace

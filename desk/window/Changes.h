@@ -1,0 +1,66 @@
+// What a person does to a document, each one command on its undo stack.
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "desk/window/Document.h"
+#include "desk/window/FieldNames.h"
+
+namespace Desk {
+
+// Another text of an annotation.
+class TextChange : public QUndoCommand {
+public:
+    TextChange(Document& document, const FieldRef& ref, std::string text)
+        : m_document(document), m_ref(ref), m_before(TextAt(document.Get(), ref)), m_after(std::move(text))
+    {
+        setText(
+            QStringLiteral("%1: %2").arg(OwnerName(document.Get(), ref), FieldName(document.Get(), ref)));
+    }
+
+    void undo() override { m_document.PutText(m_ref, m_before); }
+    void redo() override { m_document.PutText(m_ref, m_after); }
+
+private:
+    Document& m_document;
+    FieldRef m_ref;
+    std::string m_before;
+    std::string m_after;
+};
+
+// A beam with an open text that a person has pointed to it, or without it again.
+class PointChange : public QUndoCommand {
+public:
+    PointChange(Document& document, std::string handle, Drawing::Pointed pointed, const PlanPoint& at)
+        : m_document(document), m_handle(std::move(handle)), m_pointed(std::move(pointed)), m_at(at)
+    {
+        setText(OwnerName(document.Get(), m_pointed.ref));
+    }
+
+    void undo() override
+    {
+        m_document.m_project.pointed.erase(m_handle);
+        Swap({false, m_pointed.beam, Field::Name});
+    }
+    void redo() override
+    {
+        m_document.m_project.pointed[m_handle] = m_at;
+        Swap(m_pointed.ref);
+    }
+
+private:
+    void Swap(const FieldRef& shown)
+    {
+        std::swap(m_document.m_project.beams[m_pointed.beam], m_pointed.as);
+        emit m_document.OpenTextsChanged();
+        m_document.Changed(shown);
+    }
+
+    Document& m_document;
+    std::string m_handle;
+    Drawing::Pointed m_pointed;
+    PlanPoint m_at;
+};
+
+}  // namespace Desk
