@@ -10,7 +10,7 @@ _beamdesk() {
       ;;
   esac
   if [ "$COMP_CWORD" -eq 1 ]; then
-    words="tour rank table import hitrate panel events generate window shot --help --help-all --version"
+    words="tour rank table import set labels export hitrate panel events generate window shot --help --help-all --version"
   else
     case $command in
       tour) words="--project --beam" ;;
@@ -18,6 +18,10 @@ _beamdesk() {
                    --area --table --grade --seismic --project-kind" ;;
       table) words="bars stirrups --width --area --grade --seismic --json" ;;
       import) words="--output --encoding --grade --legs --force --all" ;;
+      set) words="--project --beam --output --at --handle name section elevation stirrup topBars bottomBars
+                  leftEnd rightEnd erection torsion side" ;;
+      labels) words="--json" ;;
+      export) words="--output --scale --force" ;;
       hitrate) words="--project --json" ;;
       panel | events) words="name section elevation stirrup bars hbars vbars --do --script --to --text --kind --quiet --ids
                              --json" ;;
@@ -28,8 +32,10 @@ _beamdesk() {
     words+=" --help"
   fi
   mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
-  if [ "$command" = window ] || [ "$command" = import ]; then
-    mapfile -t -O "${#COMPREPLY[@]}" COMPREPLY < <(compgen -f -- "$current")
-  fi
+  case $command in
+    window | import | labels | export)
+      mapfile -t -O "${#COMPREPLY[@]}" COMPREPLY < <(compgen -f -- "$current")
+      ;;
+  esac
 }
 complete -o filenames -F _beamdesk beamdesk

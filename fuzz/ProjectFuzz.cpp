@@ -36,11 +36,27 @@ auto FieldsOf(const Desk::Wall& w)
                     w.end.y);
 }
 
+auto FieldsOf(const Desk::InPlace& t)
+{
+    return std::tie(t.role, t.number, t.text, t.place.at.x, t.place.at.y, t.place.angle, t.place.height);
+}
+
+bool AreSame(const Desk::Beam& a, const Desk::Beam& b)
+{
+    bool same = TextsOf(a) == TextsOf(b) && NumbersOf(a) == NumbersOf(b) && a.spans == b.spans &&
+                a.inPlace.size() == b.inPlace.size();
+    for (std::size_t i = 0; same && i < a.inPlace.size(); ++i) {
+        same = FieldsOf(a.inPlace[i]) == FieldsOf(b.inPlace[i]);
+    }
+    return same;
+}
+
 bool AreSame(const Desk::Project& a, const Desk::Project& b)
 {
-    bool same = a.title == b.title && a.beams.size() == b.beams.size() && a.walls.size() == b.walls.size();
+    bool same = a.title == b.title && a.beams.size() == b.beams.size() &&
+                a.walls.size() == b.walls.size() && a.pointed.size() == b.pointed.size();
     for (std::size_t i = 0; same && i < a.beams.size(); ++i) {
-        same = TextsOf(a.beams[i]) == TextsOf(b.beams[i]) && NumbersOf(a.beams[i]) == NumbersOf(b.beams[i]);
+        same = AreSame(a.beams[i], b.beams[i]);
     }
     for (std::size_t i = 0; same && i < a.walls.size(); ++i) {
         same = FieldsOf(a.walls[i]) == FieldsOf(b.walls[i]);

@@ -2,6 +2,7 @@
 #include "desk/console/Commands.h"
 
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <numeric>
 #include <ostream>
@@ -32,14 +33,16 @@ struct List {
     bool isBySize = false;  // then the best candidates are not at the head but around the present text
 };
 
-// The beam that shows most of the project's annotations: the one with the most texts.
+// The beam that shows most of the project's annotations: the one with the most texts of its own, among
+// them that with the most in place.
 const Beam* FullestBeam(const Project& project)
 {
     const auto count = [](const Beam& beam) {
         const std::span<const Field> fields = BeamFields();
-        return std::count_if(fields.begin(), fields.end(), [&beam](Field field) {
+        const auto own = std::count_if(fields.begin(), fields.end(), [&beam](Field field) {
             return field != Field::Name && !(beam.*RowOf(field).ofBeam).empty();
         });
+        return std::pair(own, beam.inPlace.size());
     };
     const auto fewer = [&count](const Beam& a, const Beam& b) { return count(a) < count(b); };
     const auto fullest = std::max_element(project.beams.begin(), project.beams.end(), fewer);
@@ -62,7 +65,7 @@ std::vector<List> Lists(const Project& project, const Beam& beam)
             }
             std::erase(list.present, std::string());
         } else if (row.ranker != Ranker::Names) {
-            list.present = {beam.*row.ofBeam};
+            ForEachText(beam, field, [&list](const std::string& text) { list.present.push_back(text); });
             list.isBySize = true;
         }
         if (question.barKind != row.barKind) {
@@ -167,6 +170,14 @@ void PrintBeam(const Beam& beam, std::ostream& out)
     line("at the ends", {tagged("left ", beam.leftEnd, ""), tagged("right ", beam.rightEnd, "")});
     line("bottom", {beam.bottomBars});
     line("side", {beam.side, beam.torsion});
+    std::map<std::pair<bool, int>, std::string> inPlace;  // supports first
+    for (const InPlace& text : beam.inPlace) {
+        std::string& texts = inPlace[{text.role != Role::TopSupport, text.number}];
+        texts += (texts.empty() || text.text.empty() ? "" : "  ") + text.text;
+    }
+    for (const auto& [where, texts] : inPlace) {
+        line(((where.first ? "span " : "support ") + std::to_string(where.second)).c_str(), {texts});
+    }
     const SteelArea& area = beam.area;
     out << "  needed mm²    top " << area.top << "  left " << area.leftEnd << "  right " << area.rightEnd
         << "  bottom " << area.bottom << "\n\n";

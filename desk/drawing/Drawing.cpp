@@ -182,6 +182,7 @@ private:
                 }
             }
             m_parts->texts[m_textOf[label.lines.front()]].open = owner.open;
+            beam.plan = owner.plan;
             SetAxis(beam, owner);
             m_parts->project.beams.push_back(std::move(beam));
             m_parts->sources.push_back(std::move(sources));

@@ -9,6 +9,8 @@ namespace Desk {
 
 namespace {
 
+constexpr char HexDigits[] = "0123456789ABCDEF";
+
 bool IsDigit(char ch) { return ch >= '0' && ch <= '9'; }
 
 // A to D in front of a diameter, at the head of a text or after what a count or a joint ends with.
@@ -113,7 +115,8 @@ std::optional<GradeSpelling::Way> GradeSpelling::WayOf(std::string_view spelled,
     }
     const unsigned first = code - number;
     const bool isKnown = first == 0x82 || first == 0xE000 || first == 0xE530;
-    return isKnown ? std::optional(Way{Way::Kind::Character, first}) : std::nullopt;
+    const Way::Kind kind = spelled.starts_with("\\M+") ? Way::Kind::Multibyte : Way::Kind::Character;
+    return isKnown ? std::optional(Way{kind, first}) : std::nullopt;
 }
 
 std::string GradeSpelling::Written(const Way& way, char grade) const
@@ -134,12 +137,22 @@ std::string GradeSpelling::Written(const Way& way, char grade) const
                        : std::string{byte(0xE0 | (code >> 12U)), byte(0x80 | ((code >> 6U) & 0x3FU)),
                                      byte(0x80 | (code & 0x3FU))};
         }
+        if (const std::string bytes = GbkOfPrivate(code); !bytes.empty()) {
+            return bytes;
+        }
         break;
+    case Way::Kind::Multibyte: {
+        std::string escape = "\\M+5";
+        for (const char byte : GbkOfPrivate(code)) {
+            escape += HexDigits[static_cast<unsigned char>(byte) >> 4U];
+            escape += HexDigits[static_cast<unsigned char>(byte) & 0xFU];
+        }
+        return escape;
     }
-    constexpr char Digits[] = "0123456789ABCDEF";
+    }
     std::string escape = "\\U+";
     for (const unsigned shift : {12U, 8U, 4U, 0U}) {
-        escape += Digits[(code >> shift) & 0xFU];
+        escape += HexDigits[(code >> shift) & 0xFU];
     }
     return escape;
 }

@@ -24,7 +24,7 @@ public:
 private:
     // The code of grade A; the next grades follow it. Letters and %%130 are ways of their own.
     struct Way {
-        enum class Kind { Letter, Percent, Escape, Character } kind = Kind::Percent;
+        enum class Kind { Letter, Percent, Escape, Character, Multibyte } kind = Kind::Percent;
         unsigned first = 0;
 
         auto operator<=>(const Way&) const = default;

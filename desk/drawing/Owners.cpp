@@ -99,6 +99,7 @@ Owners::Owners(const FoundTexts& texts, std::vector<BeamRun> runs, std::vector<B
     for (std::size_t i = 0; i < m_runs.size(); ++i) {
         BundleOf(m_runBundles, m_runs[i].frame).byAxis.emplace_back(m_runs[i].axis, i);
     }
+    m_plans.emplace(m_runs, unit);
     m_restBundles = m_runBundles;
     for (BeamRun& carrier : carriers) {
         BundleOf(m_restBundles, carrier.frame).byAxis.emplace_back(carrier.axis, m_runs.size());
@@ -112,6 +113,11 @@ Owners::Owners(const FoundTexts& texts, std::vector<BeamRun> runs, std::vector<B
             m_beams[label] = std::move(*beam);
         }
     }
+    for (OwnerBeam& beam : m_beams) {
+        beam.plan =
+            m_plans->At(beam.frame.At((beam.supports.front() + beam.supports.back()) / 2.0, beam.axis));
+    }
+    FindTwins();
     FindInPlace();
 }
 
@@ -380,6 +386,47 @@ std::optional<OwnerBeam> Owners::BeamAt(std::size_t label, const PlanPoint& at) 
     return BeamOn(runs.front(), label, run.From(), run.To(), RestsOf(runs.front()));
 }
 
+int Owners::DirectionsOn(int plan) const
+{
+    int directions = 0;
+    for (const OwnerBeam& beam : m_beams) {
+        if (beam.plan == plan && beam.run) {
+            directions |= beam.frame.cosine > beam.frame.sine ? 1 : 2;
+        }
+    }
+    return directions;
+}
+
+void Owners::FindTwins()
+{
+    constexpr int MostPlans = 40;
+    std::map<std::size_t, std::vector<std::size_t>> ofRun;
+    for (std::size_t i = 0; i < m_beams.size(); ++i) {
+        if (m_beams[i].run) {
+            ofRun[*m_beams[i].run].push_back(i);
+        }
+    }
+    for (int a = 1; a <= std::min(MostPlans, m_plans->Count()); ++a) {
+        for (int b = 1; b <= std::min(MostPlans, m_plans->Count()); ++b) {
+            if (DirectionsOn(a) + DirectionsOn(b) != 3 || DirectionsOn(a) == 3 || DirectionsOn(b) == 3) {
+                continue;
+            }
+            const std::optional<PlanPoint> shift = m_plans->ShiftBetween(a, b);
+            for (std::size_t run = 0; shift && run < m_plans->Runs(); ++run) {
+                const std::optional<std::size_t> same = m_plans->Of(run) == b && ofRun.count(run) == 0
+                                                            ? m_plans->Same(run, *shift)
+                                                            : std::nullopt;
+                const auto labelled = same ? ofRun.find(*same) : ofRun.end();
+                if (labelled != ofRun.end()) {
+                    for (const std::size_t beam : labelled->second) {
+                        m_twins[run].push_back({beam, *shift});
+                    }
+                }
+            }
+        }
+    }
+}
+
 void Owners::FindInPlace()
 {
     std::vector<Bundle> beams;
@@ -402,19 +449,27 @@ OwnerText Owners::OwnerOf(const TextLine& line, const std::vector<Bundle>& beams
     const Frame reading = Frame::Reading(line.place.angle);
     const double reach = (InPlaceReach + 700.0) * m_unit + line.place.height;
     std::vector<std::size_t> runsWithLabel;
-    const auto offer = [&](const Box& box, double axis, double width, double from, double to,
-                           std::optional<std::size_t> beam) {
+    PlanPoint shift;
+    double bestAxis = Far;
+    double bestBeyond = Far;
+    // Beams end to end are no rivals: the text is beside the one or the other.
+    const auto offer = [&](const Box& box, double axis, double width, const Piece& extent,
+                           std::optional<std::size_t> beam, const PlanPoint& away) {
         const double middle = (box.fromU + box.toU) / 2.0;
-        const double slack = SameRest * m_unit;
-        if (middle < from - slack || middle > to + slack) {
+        const double beyond = std::max({0.0, extent.from - middle, middle - extent.to});
+        if (beyond > SameRest * m_unit) {
             return false;
         }
         const double gap = std::max({0.0, box.fromV - (axis + width / 2.0), axis - width / 2.0 - box.toV});
-        if (gap < best) {
-            second = best;
+        const bool isSameAxis = std::abs(axis - bestAxis) <= m_unit;
+        if (isSameAxis ? beyond < bestBeyond : gap < best) {
+            second = isSameAxis ? second : best;
             best = gap;
+            bestAxis = axis;
+            bestBeyond = beyond;
             owner.beam = beam;
-        } else {
+            shift = away;
+        } else if (!isSameAxis) {
             second = std::min(second, gap);
         }
         return true;
@@ -424,9 +479,8 @@ OwnerText Owners::OwnerOf(const TextLine& line, const std::vector<Bundle>& beams
             const Box box = BoxOf(line, bundle.frame);
             ForEachBetween(bundle, box.fromV - reach, box.toV + reach, [&](std::size_t i) {
                 const OwnerBeam& beam = m_beams[i];
-                if (!beam.open &&
-                    offer(box, beam.axis, beam.width, beam.supports.front(), beam.supports.back(), i) &&
-                    beam.run) {
+                const Piece extent{beam.supports.front(), beam.supports.back()};
+                if (!beam.open && offer(box, beam.axis, beam.width, extent, i, {}) && beam.run) {
                     runsWithLabel.push_back(*beam.run);
                 }
             });
@@ -438,7 +492,17 @@ OwnerText Owners::OwnerOf(const TextLine& line, const std::vector<Bundle>& beams
             ForEachBetween(bundle, box.fromV - reach, box.toV + reach, [&](std::size_t i) {
                 const BeamRun& run = m_runs[i];
                 if (std::find(runsWithLabel.begin(), runsWithLabel.end(), i) == runsWithLabel.end()) {
-                    offer(box, run.axis, run.width, run.From(), run.To(), std::nullopt);
+                    const auto twins = m_twins.find(i);
+                    if (twins == m_twins.end()) {
+                        offer(box, run.axis, run.width, {run.From(), run.To()}, std::nullopt, {});
+                        return;
+                    }
+                    for (const Twin& twin : twins->second) {
+                        const std::vector<double>& supports = m_beams[twin.beam].supports;
+                        const double away = bundle.frame.U(twin.shift);
+                        offer(box, run.axis, run.width, {supports.front() + away, supports.back() + away},
+                              twin.beam, twin.shift);
+                    }
                 }
             });
         }
@@ -452,7 +516,9 @@ OwnerText Owners::OwnerOf(const TextLine& line, const std::vector<Bundle>& beams
     } else if (!owner.beam) {
         owner.open = Phrase("Desk", "the beam beside it has no label");
     } else {
-        owner.roles = RolesOf(line, m_beams[*owner.beam]);
+        TextLine there = line;
+        there.place.at = {line.place.at.x - shift.x, line.place.at.y - shift.y};
+        owner.roles = RolesOf(there, m_beams[*owner.beam]);
         if (owner.roles.empty()) {
             owner.beam.reset();
             owner.open = Phrase("Desk", "it is nothing that a support or a span has");

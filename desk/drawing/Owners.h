@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "desk/drawing/Labels.h"
+#include "desk/drawing/Plans.h"
 #include "desk/project/Failure.h"
 #include "desk/project/Fields.h"
 
@@ -18,6 +19,7 @@ struct OwnerBeam {
     double width = 0.0;            // as drawn
     std::vector<double> supports;  // u, two at least; the first and the last are the ends
     std::optional<std::size_t> run;
+    int plan = 0;                 // of those side by side in the drawing, from 1; 0 where none is near
     std::optional<Message> open;  // why the drawing does not tell which beam it is
 };
 
@@ -76,6 +78,10 @@ private:
     [[nodiscard]] std::vector<std::size_t> RunsNear(const FoundLabel& label) const;
     [[nodiscard]] std::vector<Rest> RestsOf(std::size_t run) const;
 
+    // A floor that is drawn twice, with the labels of one direction on each plan.
+    void FindTwins();
+    [[nodiscard]] int DirectionsOn(int plan) const;  // 1 lying labels, 2 upright ones, 3 both, 0 none
+
     void FindInPlace();
     [[nodiscard]] OwnerText OwnerOf(const TextLine& line, const std::vector<Bundle>& beams) const;
     [[nodiscard]] std::vector<OwnerRole> RolesOf(const TextLine& line, const OwnerBeam& beam) const;
@@ -90,6 +96,13 @@ private:
     std::vector<Bundle> m_runBundles;   // of beams
     std::vector<Bundle> m_restBundles;  // of all that a beam can rest on
     std::vector<OwnerBeam> m_beams;
+    // By run without a label: the beams that the other plan has there, and how far away it has them.
+    struct Twin {
+        std::size_t beam = 0;
+        PlanPoint shift;
+    };
+    std::map<std::size_t, std::vector<Twin>> m_twins;
+    std::optional<Plans> m_plans;
     std::vector<OwnerText> m_inPlace;
 };
 

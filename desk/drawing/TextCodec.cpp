@@ -9,7 +9,17 @@ namespace Desk {
 namespace {
 
 constexpr std::string_view Unknown = "\xEF\xBF\xBD";  // U+FFFD
-constexpr std::string_view Phi = "\xCE\xA6";          // U+03A6
+
+// Where GBK keeps private characters, row by row.
+struct PrivateArea {
+    unsigned firstRow;
+    unsigned lastRow;
+    unsigned firstPlace;
+    unsigned places;     // of a row; 7F is none
+    unsigned character;  // the first one
+};
+constexpr PrivateArea PrivateAreas[] = {
+    {0xAA, 0xAF, 0xA1, 94, 0xE000}, {0xF8, 0xFE, 0xA1, 94, 0xE234}, {0xA1, 0xA7, 0x40, 96, 0xE4C6}};
 
 bool IsHigh(char ch) { return static_cast<unsigned char>(ch) >= 0x80; }
 
@@ -41,7 +51,22 @@ std::string Utf8Of(unsigned value)
 // A character of two GBK bytes.
 std::string FromGbkPair(std::string_view pair)
 {
-    return pair == "\xA2\x4C" ? std::string(Phi) : Utf8FromGbk(CString(pair));
+    const auto row = static_cast<unsigned char>(pair[0]);
+    const auto second = static_cast<unsigned char>(pair[1]);
+    for (const PrivateArea& area : PrivateAreas) {
+        const unsigned place = second - area.firstPlace - (second > 0x7F && area.firstPlace < 0x7F ? 1 : 0);
+        if (row >= area.firstRow && row <= area.lastRow && second >= area.firstPlace && second != 0x7F &&
+            place < area.places) {
+            return Utf8Of(area.character + (row - area.firstRow) * area.places + place);
+        }
+    }
+    return Utf8FromGbk(CString(pair));
+}
+
+// Bytes of a drawing font's grade signs, which are no UTF-8 either.
+bool IsRawGrade(std::string_view bytes)
+{
+    return bytes.size() > 1 && bytes[0] == '\xA2' && bytes[1] >= 'J' && bytes[1] <= 'M';
 }
 
 class Decoder {
@@ -158,8 +183,8 @@ private:
         const std::string_view rest = Rest();
         if (!IsHigh(rest.front())) {
             Put(rest.substr(0, 1), 1);
-        } else if (rest.starts_with("\xA2\x4C")) {
-            Put(Phi, 2);
+        } else if (IsRawGrade(rest)) {
+            Put(FromGbkPair(rest.substr(0, 2)), 2);
         } else if (m_charset == Charset::Utf8) {
             const std::size_t bytes = Utf8Length(rest);
             bytes > 0 ? Put(rest.substr(0, bytes), bytes) : Put(Unknown, 1);
@@ -221,6 +246,20 @@ std::string EncodeText(std::string_view utf8, Charset charset, bool isMText)
         }
     }
     return value;
+}
+
+std::string GbkOfPrivate(unsigned character)
+{
+    for (const PrivateArea& area : PrivateAreas) {
+        const unsigned count = (area.lastRow - area.firstRow + 1) * area.places;
+        if (character >= area.character && character < area.character + count) {
+            const unsigned row = area.firstRow + (character - area.character) / area.places;
+            const unsigned place = area.firstPlace + (character - area.character) % area.places;
+            return {static_cast<char>(row),
+                    static_cast<char>(place + (area.firstPlace < 0x7F && place >= 0x7F ? 1 : 0))};
+        }
+    }
+    return {};
 }
 
 void CountHighBytes(std::string_view value, std::size_t& highBytes, std::size_t& notUtf8)

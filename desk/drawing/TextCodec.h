@@ -28,6 +28,9 @@ struct Decoded {
 // A text in UTF-8 as a value: \U+XXXX for what the charset lacks. For an MTEXT its own signs are escaped.
 [[nodiscard]] std::string EncodeText(std::string_view utf8, Charset charset, bool isMText);
 
+// The bytes that GBK keeps for the private characters U+E000 to U+E765; empty for others.
+[[nodiscard]] std::string GbkOfPrivate(unsigned character);
+
 // The charset of a file by the bytes of its texts: how many bytes are not ASCII, and how many of those are
 // no UTF-8. No such share decides where fileSays is kept.
 [[nodiscard]] Charset CharsetFor(std::size_t highBytes, std::size_t notUtf8, Charset fileSays);

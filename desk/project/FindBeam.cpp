@@ -48,7 +48,8 @@ const Beam& FindBeam(const Project& project, const std::string& name)
             return !beam.name.empty() && nameOf(beam.name) == name;
         });
         if (found != project.beams.end()) {
-            return *found;
+            return project
+                .beams[WrittenOut(project, static_cast<std::size_t>(found - project.beams.begin()))];
         }
     }
     const std::string names = NamesLike(project, name);
@@ -60,17 +61,20 @@ std::size_t WrittenOut(const Project& project, std::size_t beam)
 {
     const std::string& name = project.beams.at(beam).name;
     std::size_t best = beam;
-    std::ptrdiff_t most = TextsBesideName(project.beams[beam]);
-    if (most > 0 || name.empty()) {
+    if (TextsBesideName(project.beams[beam]) > 0 || name.empty()) {
         return beam;
     }
+    std::pair<bool, std::ptrdiff_t> most(false, 0);
     for (std::size_t i = 0; i < project.beams.size(); ++i) {
         if (project.beams[i].name != name) {
             continue;
         }
-        if (const std::ptrdiff_t count = TextsBesideName(project.beams[i]); count > most) {
+        // Another floor of the drawing may have a beam of that name too.
+        const std::ptrdiff_t count = TextsBesideName(project.beams[i]);
+        const std::pair<bool, std::ptrdiff_t> own(project.beams[i].plan == project.beams[beam].plan, count);
+        if (count > 0 && own > most) {
             best = i;
-            most = count;
+            most = own;
         }
     }
     return best;

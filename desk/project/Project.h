@@ -69,6 +69,7 @@ struct Beam {
     PlanPoint end;
     std::vector<double> spans;      // lengths in mm from the start, one span at least; empty when not known
     std::vector<InPlace> inPlace;   // in the order in which they were read
+    int plan = 0;                   // of those side by side in its drawing, from 1; 0 without a drawing
     std::vector<TextPlace> places;  // of its texts, parallel to BeamFields(); empty without a drawing
     InFile inFile;
 };

@@ -163,6 +163,7 @@ TEST(FindBeam, ANameAloneRefersToTheFullestBeamOfThatName)
     for (std::size_t i = 0; i < expected.size(); ++i) {
         EXPECT_EQ(WrittenOut(project, i), expected[i]) << i;
     }
+    EXPECT_EQ(&FindBeam(project, "L4"), &project.beams[2]);
 }
 
 TEST(Store, TellsThePlaceOfWhatIsWrong)

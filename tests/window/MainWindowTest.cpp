@@ -424,7 +424,7 @@ TEST_F(TextsInPlaceTest, AreStepsAndFound)
 TEST_F(TextsInPlaceTest, AreTakenFromAnOfferEditedComposedAndUndone)
 {
     constexpr int Pieces = 1346;
-    window.Choose(support);
+    Press(support);
     EXPECT_TRUE(Offer().contains("5B20 3/2")) << "the ends on the same through bars";
     ClickOffer("5B20 3/2");
     EXPECT_EQ(Text(support), "5B20 3/2");
