@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <numeric>
 
 namespace Desk {
 
 namespace {
 
 constexpr double FieldGap = 160.0;    // mm between two texts of a line
+constexpr double MostGap = 1600.0;    // mm between two texts of a drawn line that belong together
 constexpr double EmptyWidth = 900.0;  // mm of a label without a text
 constexpr double TextGap = 120.0;     // mm between a beam's edge and a text
 constexpr double EndInset = 350.0;    // mm from a support to its text
@@ -128,8 +130,10 @@ private:
         }
         double x = line.at.x();
         if (after && !text.empty()) {
-            const double gap = FieldGap / TextHeight * line.place.height;
-            x = joined ? m_right : std::max(x, m_right + gap);
+            // How wide the drawing's own font is, it does not tell.
+            const double unit = line.place.height / TextHeight;
+            const double next = joined ? m_right : m_right + FieldGap * unit;
+            x = x - next < MostGap * unit ? next : x;
         }
         Add(line.field, drawn, {x, line.at.y()}, line.place.height, line.place.angle);
         m_right = !text.empty() ? x + TextWidth(drawn, line.place.height) : follows ? m_right : 0.0;
@@ -175,12 +179,13 @@ private:
     double m_pitch = 1.3 * m_name.height;
 };
 
-// Distances of the supports from the beam's start.
+// Distances of the supports from the beam's start, on the plan: it can have another scale than the spans.
 std::vector<double> SupportsOf(const Beam& beam, double length)
 {
     std::vector<double> supports = {0.0};
+    const double all = std::accumulate(beam.spans.begin(), beam.spans.end(), 0.0);
     for (const double span : beam.spans) {
-        supports.push_back(supports.back() + span);
+        supports.push_back(supports.back() + (all > 0.0 ? span * length / all : 0.0));
     }
     if (supports.size() == 1) {
         supports.push_back(length);
