@@ -70,7 +70,7 @@ private:
         return lines;
     }
 
-    [[nodiscard]] Box BoxOf(const BeamLie& lie, double along, double aside, const DrawnLine& line) const
+    [[nodiscard]] PlanBox BoxOf(const BeamLie& lie, double along, double aside, const DrawnLine& line) const
     {
         const double half = WidthOfText(line) / 2;
         return {lie.At(along + half, aside + TextHeight / 2), lie.along, half, TextHeight / 2};
@@ -146,14 +146,15 @@ private:
         constexpr int LeaderOverBeam = 8;
         constexpr int LeaderToBeam = 100;  // it would end on two
         const BeamLie& lie = m_lies[index];
-        const Box leader =
+        const PlanBox leader =
             BoxBetween(lie.At(along - TextHeight / 4, aside), lie.At(along - TextHeight / 4), 40.0);
         int cost = m_texts.IsMet(leader) ? OnText : 0;
-        const Box end = BoxBetween(lie.At(along - TextHeight / 4), lie.At(along - TextHeight / 4), 40.0);
+        const PlanBox end =
+            BoxBetween(lie.At(along - TextHeight / 4), lie.At(along - TextHeight / 4), 40.0);
         m_strips.ForMet(leader, [&](std::size_t other) { cost += other == index ? 0 : LeaderOverBeam; });
         m_strips.ForMet(end, [&](std::size_t other) { cost += other == index ? 0 : LeaderToBeam; });
         for (std::size_t i = 0; i < lines.size() && cost < enough; ++i) {
-            const Box box = BoxOf(lie, along, aside - static_cast<double>(i) * LinePitch, lines[i]);
+            const PlanBox box = BoxOf(lie, along, aside - static_cast<double>(i) * LinePitch, lines[i]);
             cost += m_texts.IsMet(box) ? OnText : 0;
             m_strips.ForMet(box, [&](std::size_t) { cost += OnBeam; });
             cost += along + 2 * box.halfLength > lie.length + TextHeight ? OnBeam : 0;
@@ -205,8 +206,8 @@ private:
     const Project& m_project;
     std::vector<BeamLie> m_lies;
     std::vector<BeamOnPlan> m_plan;
-    Boxes m_strips;  // the beams
-    Boxes m_texts;   // texts and leaders
+    PlanBoxes m_strips;  // the beams
+    PlanBoxes m_texts;   // texts and leaders
 };
 
 }  // namespace
