@@ -26,18 +26,27 @@ constexpr double Million = 1e6;
 std::string LargeDrawing(std::size_t size)
 {
     constexpr unsigned Floors = 40;
-    DrawingMaker maker({.name = "Large", .version = "AC1018", .outlines = OutlineAs::LightPolylines});
+    DrawingMaker maker({.name = "Large",
+                        .version = "AC1018",
+                        .lineEnd = "\r\n",
+                        .hasPaddedCodes = true,
+                        .outlines = OutlineAs::LightPolylines});
     for (unsigned floor = 0; floor < Floors; ++floor) {
         const PlanPoint corner{floor % 8 * 70'000.0, floor / 8 * 50'000.0};
         DrawOn(maker, CrowdedFloor(floor), corner);
-        maker.BeginBlock({});
-        for (std::size_t i = 0; i < size / Floors / 260; ++i) {
-            const PlanPoint at{corner.x + static_cast<double>(i * 37 % 50'000),
-                               corner.y + static_cast<double>(i * 91 % 28'000)};
-            maker.Line(at, {at.x + 350, at.y + 120}, "STAIR");
-            maker.Circle(at, 75, "PIPE");
+        for (std::size_t i = 0; i < size / Floors / 1230; ++i) {
+            const PlanPoint at{corner.x + 0.125 + static_cast<double>(i * 37 % 50'000),
+                               corner.y + 0.375 + static_cast<double>(i * 91 % 28'000)};
+            const auto along = [&at](double x, double y) { return PlanPoint{at.x + x, at.y + y}; };
+            for (int line = 0; line < 5; ++line) {
+                maker.Line(along(40.5 * line, 0), along(350, 120.25), "STAIR");
+            }
+            maker.Polyline({at, along(300, 0), along(300, 80), along(120, 80), along(0, 45)}, true,
+                           "FURNITURE");
+            if (i % 4 == 0) {
+                maker.Circle(at, 75, "PIPE");
+            }
         }
-        maker.EndBlock();
     }
     return maker.Bytes();
 }

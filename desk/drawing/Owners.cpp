@@ -220,8 +220,8 @@ std::vector<std::size_t> Owners::RunsNear(const FoundLabel& label) const
         }
         const PlanPoint a = label.frame.At(label.from, label.bottom);
         const PlanPoint b = label.frame.At(label.to, label.top);
-        const auto [low, high] = std::minmax(bundle.frame.V(a), bundle.frame.V(b));
-        const auto [from, to] = std::minmax(bundle.frame.U(a), bundle.frame.U(b));
+        const auto [low, high] = std::minmax({bundle.frame.V(a), bundle.frame.V(b)});
+        const auto [from, to] = std::minmax({bundle.frame.U(a), bundle.frame.U(b)});
         const double widest = 700.0 * m_unit;
         ForEachBetween(bundle, low - reach - widest, high + reach + widest,
                        [&, low = low, high = high, from = from, to = to](std::size_t i) {
