@@ -35,14 +35,15 @@ Field FieldIn(const Beam& beam, Field field)
                                                                                        : field;
 }
 
-void SetAxis(Beam& beam, const OwnerBeam& owner)
+// The plan is as drawn, spans are as long as dimensions say.
+void SetAxis(Beam& beam, const OwnerBeam& owner, double unit)
 {
     beam.start = owner.frame.At(owner.supports.front(), owner.axis);
     beam.end = owner.frame.At(owner.supports.back(), owner.axis);
     beam.spans.clear();
     if (owner.run) {
         for (std::size_t i = 1; i < owner.supports.size(); ++i) {
-            beam.spans.push_back(owner.supports[i] - owner.supports[i - 1]);
+            beam.spans.push_back((owner.supports[i] - owner.supports[i - 1]) / unit);
         }
     }
 }
@@ -183,7 +184,7 @@ private:
             }
             m_parts->texts[m_textOf[label.lines.front()]].open = owner.open;
             beam.plan = owner.plan;
-            SetAxis(beam, owner);
+            SetAxis(beam, owner, m_parts->file.unitScale);
             m_parts->project.beams.push_back(std::move(beam));
             m_parts->sources.push_back(std::move(sources));
         }
@@ -210,7 +211,7 @@ private:
             OwnerText owner = m_parts->owners->InPlace()[i];
             if (const auto at = m_parts->project.pointed.find(text.handle);
                 !owner.beam && at != m_parts->project.pointed.end()) {
-                owner = m_parts->owners->TextAt(index, at->second).value_or(owner);
+                owner = m_parts->owners->TextAt(index, at->second, {}).value_or(owner);
             }
             if (!owner.beam) {
                 text.open = std::move(owner.open);
@@ -422,7 +423,17 @@ std::optional<Drawing::Pointed> Drawing::PointTo(const Project& project, std::si
 {
     const std::size_t line = m_parts->lineOf.at(text);
     if (m_parts->texts[text].inPlace) {
-        const std::optional<OwnerText> owner = m_parts->owners->TextAt(line, at);
+        std::map<std::size_t, PlanPoint> labels;
+        for (std::size_t i = 0; i < m_parts->texts.size(); ++i) {
+            const auto label = project.pointed.find(m_parts->texts[i].handle);
+            for (std::size_t j = 0; label != project.pointed.end() && j < m_parts->found.labels.size();
+                 ++j) {
+                if (m_parts->found.labels[j].lines.front() == m_parts->lineOf[i]) {
+                    labels.emplace(j, label->second);
+                }
+            }
+        }
+        const std::optional<OwnerText> owner = m_parts->owners->TextAt(line, at, labels);
         if (!owner) {
             return std::nullopt;
         }
@@ -441,7 +452,7 @@ std::optional<Drawing::Pointed> Drawing::PointTo(const Project& project, std::si
                 return std::nullopt;
             }
             Pointed pointed{i, project.beams.at(i), {false, i, Field::Name}};
-            SetAxis(pointed.as, *owner);
+            SetAxis(pointed.as, *owner, m_parts->file.unitScale);
             return pointed;
         }
     }

@@ -132,8 +132,10 @@ std::vector<double> Supports(const Beam& beam, const BeamLie& lie)
 {
     std::vector<double> supports;
     double at = 0.0;
-    for (std::size_t i = 0; i + 1 < beam.spans.size(); ++i) {
-        at += beam.spans[i];
+    // The plan can have another scale than the spans.
+    const double all = std::accumulate(beam.spans.begin(), beam.spans.end(), 0.0);
+    for (std::size_t i = 0; i + 1 < beam.spans.size() && all > 0.0; ++i) {
+        at += beam.spans[i] * lie.length / all;
         if (at > 0.0 && at < lie.length) {
             supports.push_back(lie.isReversed ? lie.length - at : at);
         }

@@ -42,7 +42,7 @@ std::string GradeSpelling::Spell(const TextLine& line, const Stretch& part, cons
     std::string spelled;
     for (std::size_t i = 0; i < text.size();) {
         if (isBars && IsGrade(text, i)) {
-            spelled += SpellGrade(line, text[i++]);
+            spelled += SpellGrade(line, part, text[i++]);
         } else if (!isBars && text[i] == 'x' && i > 0 && IsDigit(text[i - 1])) {
             spelled += cross;
             ++i;
@@ -58,30 +58,33 @@ std::string GradeSpelling::Spell(const TextLine& line, const Stretch& part, cons
     return spelled;
 }
 
-std::string GradeSpelling::SpellGrade(const TextLine& line, char grade) const
+std::string GradeSpelling::SpellGrade(const TextLine& line, const Stretch& part, char grade) const
 {
-    for (std::size_t i = 0; i < line.plain.size(); ++i) {
-        const bool isSame = line.plain[i] == grade && IsGrade(line.plain, i);
-        // A sign that names no grade was read as the usual one.
-        const bool isOpen =
-            line.plain[i] == OpenGrade &&
-            grade == (line.annotations.front().field == Field::Stirrup ? Choices().stirrupGrade
-                                                                       : Choices().barGrade);
-        if (isSame || isOpen) {
-            return SpelledAt(m_parts, line, i);
+    const Stretch all{0, line.plain.size()};
+    for (const Stretch& where : {part, all}) {
+        for (std::size_t i = where.begin; i < where.end; ++i) {
+            const bool isSame = line.plain[i] == grade && IsGrade(line.plain, i);
+            // A sign that names no grade was read as the usual one.
+            const bool isOpen =
+                line.plain[i] == OpenGrade &&
+                grade == (line.annotations.front().field == Field::Stirrup ? Choices().stirrupGrade
+                                                                           : Choices().barGrade);
+            if (isSame || isOpen) {
+                return SpelledAt(m_parts, line, i);
+            }
         }
-    }
-    if (const std::optional<Way> way = WayOf(line)) {
-        return Written(*way, grade);
+        if (const std::optional<Way> way = WayOf(line, where)) {
+            return Written(*way, grade);
+        }
     }
     LearnWays();
     const auto ofLayer = m_ofLayer.find(m_parts.placed.texts[line.placed].layer);
     return Written(ofLayer != m_ofLayer.end() ? ofLayer->second : m_ofFile.value_or(Way()), grade);
 }
 
-std::optional<GradeSpelling::Way> GradeSpelling::WayOf(const TextLine& line) const
+std::optional<GradeSpelling::Way> GradeSpelling::WayOf(const TextLine& line, const Stretch& part) const
 {
-    for (std::size_t i = 0; i < line.plain.size() && i < line.spelled.size(); ++i) {
+    for (std::size_t i = part.begin; i < part.end && i < line.spelled.size(); ++i) {
         if (IsGrade(line.plain, i)) {
             if (const std::optional<Way> way = WayOf(SpelledAt(m_parts, line, i), line.plain[i])) {
                 return way;
@@ -167,7 +170,7 @@ void GradeSpelling::LearnWays() const
     std::map<std::uint32_t, std::map<Way, int>> counts;
     std::map<Way, int> all;
     for (const TextLine& line : m_parts.found.lines) {
-        if (const std::optional<Way> way = WayOf(line)) {
+        if (const std::optional<Way> way = WayOf(line, {0, line.plain.size()})) {
             ++counts[m_parts.placed.texts[line.placed].layer][*way];
             ++all[*way];
         }

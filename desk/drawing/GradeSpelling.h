@@ -16,7 +16,8 @@ public:
     explicit GradeSpelling(const Drawing::Parts& parts) : m_parts(parts) {}
 
     // A text in the module's grammar as the value of an entity, in place of a part of the line's plain
-    // text. Where bars are told, the grade letters are spelled as in that text, else as on its layer, else
+    // text. Where bars are told, the grade letters are spelled as in that part, else as in that text,
+    // else as on its layer, else
     // as in the file, else %%130 to %%133; a section's "x" is spelled as the part has it.
     [[nodiscard]] std::string Spell(const TextLine& line, const Stretch& part, const std::string& text,
                                     bool isBars) const;
@@ -30,8 +31,8 @@ private:
         auto operator<=>(const Way&) const = default;
     };
 
-    [[nodiscard]] std::string SpellGrade(const TextLine& line, char grade) const;
-    [[nodiscard]] std::optional<Way> WayOf(const TextLine& line) const;
+    [[nodiscard]] std::string SpellGrade(const TextLine& line, const Stretch& part, char grade) const;
+    [[nodiscard]] std::optional<Way> WayOf(const TextLine& line, const Stretch& part) const;
     [[nodiscard]] std::optional<Way> WayOf(std::string_view spelled, char grade) const;
     [[nodiscard]] std::string Written(const Way& way, char grade) const;
     void LearnWays() const;

@@ -131,7 +131,10 @@ int Owners::SpansOf(std::size_t label) const
 {
     const std::string* const name = TextOf(m_texts, m_texts.labels[label], Field::Name);
     const std::optional<BeamName> read = name == nullptr ? std::nullopt : ReadName(*name);
-    return read ? read->spans : 0;
+    if (!read || read->spans == 0) {
+        return 0;
+    }
+    return read->spans + (read->cantilever == 'A' ? 1 : read->cantilever == 'B' ? 2 : 0);
 }
 
 double Owners::PositionOf(std::size_t label, const Frame& frame) const
@@ -321,7 +324,16 @@ void Owners::CutRun(std::size_t run, std::vector<std::size_t> labels)
             to = isShared ? to : best->at - apart;
             next = isShared ? from : best->at + apart;
         }
-        m_beams[labels[i]] = BeamOn(run, labels[i], from, to, rests);
+        // A beam of one span ends at the gaps beside its label: more of the run is not its own.
+        double first = from;
+        double last = to;
+        for (const Rest& rest : rests) {
+            const bool isEnd = rest.isGap && SpansOf(labels[i]) == 1 && rest.at > from && rest.at < to;
+            const double at = PositionOf(labels[i], own.frame);
+            first = isEnd && rest.at <= at ? rest.at : first;
+            last = isEnd && rest.at > at ? std::min(last, rest.at) : last;
+        }
+        m_beams[labels[i]] = BeamOn(run, labels[i], first, last, rests);
         from = next;
     }
 }
@@ -565,12 +577,17 @@ std::vector<OwnerRole> Owners::RolesOf(const TextLine& line, const OwnerBeam& be
     return roles;
 }
 
-std::optional<OwnerText> Owners::TextAt(std::size_t line, const PlanPoint& at) const
+std::optional<OwnerText> Owners::TextAt(std::size_t line, const PlanPoint& at,
+                                        const std::map<std::size_t, PlanPoint>& pointed) const
 {
+    std::vector<OwnerBeam> beams = m_beams;
+    for (const auto& [label, there] : pointed) {
+        beams[label] = BeamAt(label, there).value_or(beams[label]);
+    }
     OwnerText owner;
     double best = SameRest * m_unit;
-    for (std::size_t i = 0; i < m_beams.size(); ++i) {
-        const OwnerBeam& beam = m_beams[i];
+    for (std::size_t i = 0; i < beams.size(); ++i) {
+        const OwnerBeam& beam = beams[i];
         const double u = beam.frame.U(at);
         const double gap = std::max(0.0, std::abs(beam.frame.V(at) - beam.axis) - beam.width / 2.0);
         if (u >= beam.supports.front() && u <= beam.supports.back() && gap < best) {
@@ -581,7 +598,7 @@ std::optional<OwnerText> Owners::TextAt(std::size_t line, const PlanPoint& at) c
     if (!owner.beam) {
         return std::nullopt;
     }
-    owner.roles = RolesOf(m_texts.lines[line], m_beams[*owner.beam]);
+    owner.roles = RolesOf(m_texts.lines[line], beams[*owner.beam]);
     return owner.roles.empty() ? std::nullopt : std::optional(owner);
 }
 

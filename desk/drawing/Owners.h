@@ -52,7 +52,9 @@ public:
     // The same for a text whose beam a person points to by a position on it; nothing where none is. The
     // label is one of texts.labels, the line one of texts.lines.
     [[nodiscard]] std::optional<OwnerBeam> BeamAt(std::size_t label, const PlanPoint& at) const;
-    [[nodiscard]] std::optional<OwnerText> TextAt(std::size_t line, const PlanPoint& at) const;
+    // Labels of pointed lie where that says.
+    [[nodiscard]] std::optional<OwnerText> TextAt(std::size_t line, const PlanPoint& at,
+                                                  const std::map<std::size_t, PlanPoint>& pointed) const;
 
 private:
     // Things that go the same way, by their v.
@@ -87,7 +89,8 @@ private:
     [[nodiscard]] std::vector<OwnerRole> RolesOf(const TextLine& line, const OwnerBeam& beam) const;
 
     [[nodiscard]] double DrawnWidth(std::size_t label) const;  // by its section; 0 without one
-    [[nodiscard]] int SpansOf(std::size_t label) const;        // by its name; 0 where that gives none
+    [[nodiscard]] int
+    SpansOf(std::size_t label) const;  // by its name, with cantilevers; 0 where that gives none
     [[nodiscard]] double PositionOf(std::size_t label, const Frame& frame) const;
 
     const FoundTexts& m_texts;

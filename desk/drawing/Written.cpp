@@ -79,17 +79,21 @@ private:
         const Beam& before = m_parts.project.beams[index];
         const Beam& now = m_edited.beams[index];
         m_newLines = 0;
-        for (const Field field :
-             {Field::Name, Field::Section, Field::Elevation, Field::Stirrup, Field::Torsion, Field::Side}) {
-            const std::string& text = now.*RowOf(field).ofBeam;
-            if (text != before.*RowOf(field).ofBeam) {
-                WriteField(index, field, text);
+        // New lines in the order in which labels have them.
+        const auto write = [&](std::initializer_list<Field> fields) {
+            for (const Field field : fields) {
+                const std::string& text = now.*RowOf(field).ofBeam;
+                if (text != before.*RowOf(field).ofBeam) {
+                    WriteField(index, field, text);
+                }
             }
-        }
+        };
+        write({Field::Name, Field::Section, Field::Stirrup});
         if (before.topBars != now.topBars || before.erection != now.erection ||
             before.bottomBars != now.bottomBars) {
             WriteBars(index, now);
         }
+        write({Field::Torsion, Field::Side, Field::Elevation});
         WriteEnd(index, now.leftEnd, 1);
         WriteEnd(index, now.rightEnd, static_cast<int>(m_parts.owners->Beams()[index].supports.size()));
         for (std::size_t i = 0; i < now.inPlace.size(); ++i) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <numeric>
 
 namespace Desk {
 
@@ -178,12 +179,13 @@ private:
     double m_pitch = 1.3 * m_name.height;
 };
 
-// Distances of the supports from the beam's start.
+// Distances of the supports from the beam's start, on the plan: it can have another scale than the spans.
 std::vector<double> SupportsOf(const Beam& beam, double length)
 {
     std::vector<double> supports = {0.0};
+    const double all = std::accumulate(beam.spans.begin(), beam.spans.end(), 0.0);
     for (const double span : beam.spans) {
-        supports.push_back(supports.back() + span);
+        supports.push_back(supports.back() + (all > 0.0 ? span * length / all : 0.0));
     }
     if (supports.size() == 1) {
         supports.push_back(length);

@@ -1,5 +1,6 @@
 #include "tests/drawing/Floors.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "desk/project/ProjectFile.h"
@@ -244,12 +245,26 @@ DrawnFloor CrowdedFloor(unsigned seed)
             texts = alone;
         }
         const double span = outline.supports[1];
-        const double along = span * below(static_cast<int>(spans)) + span * 0.3 + 10 * below(60);
-        double left = (below(2) == 0 ? -700.0 : 1900.0) - 10 * below(20);
-        if (i % 3 == 0) {
-            left += (left < 0 ? -1 : 1) * (2000 + 10 * below(400));
+        // Labels are not printed over each other.
+        const auto isClear = [&floor](const DrawnLabel& label) {
+            return std::none_of(floor.labels.begin(), floor.labels.end(), [&](const DrawnLabel& other) {
+                const bool isSame = other.angle == label.angle;
+                const double across = isSame && label.angle == 90 ? 1800 : 2700;
+                const double up = isSame && label.angle == 0 ? 1800 : 2700;
+                return std::abs(other.name.x - label.name.x) < across &&
+                       std::abs(other.name.y - label.name.y) < up;
+            });
+        };
+        std::optional<DrawnLabel> label;
+        for (int tries = 0; !label || (!isClear(*label) && tries < 100); ++tries) {
+            const double along = span * below(static_cast<int>(spans)) + span * 0.05 * below(12) + 300;
+            double left = (below(2) == 0 ? -700.0 : 1900.0) - 10 * below(20);
+            if (i % 3 == 0) {
+                left += (left < 0 ? -1 : 1) * (2000 + 10 * below(400));
+            }
+            label = Label(floor, i, texts, along, left, i % 3 == 0 || i % 8 != 5);
         }
-        floor.labels.push_back(Label(floor, i, texts, along, left));
+        floor.labels.push_back(*label);
         for (std::size_t s = 0; isFrame && s < spans; ++s) {
             const double start = outline.supports[s];
             const Beam& drawn = samples[static_cast<std::size_t>(below(static_cast<int>(samples.size())))];

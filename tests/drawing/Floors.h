@@ -102,7 +102,7 @@ void DrawOn(DrawingMaker& maker, const DrawnFloor& floor, const PlanPoint& moved
 [[nodiscard]] DrawnFloor SmallFloor();
 
 // 39 beams on a grid of 7 by 5 axes, 50,400 by 28,800 mm. Every third label is moved away from its beam
-// along its leader, over other beams.
+// along its leader, over other beams; of the others every eighth has lost its leader.
 [[nodiscard]] DrawnFloor CrowdedFloor(unsigned seed);
 
 }  // namespace Desk

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cmath>
+#include <set>
 #include <string>
+#include <tuple>
 
 #include "desk/drawing/Drawing.h"
 
@@ -15,7 +17,8 @@ inline std::string Told(const PlanPoint& at)
     return std::to_string(std::lround(at.x)) + "," + std::to_string(std::lround(at.y));
 }
 
-// "KL1(2) 0,0 to 8000,0 (8000): section 300x600, stirrup A8@100(2); topSupport 2 4B25"
+// "KL1(2) 0,0 to 8000,0 (8000): section 300x600, stirrup A8@100(2); topSupport 2 4B25", the texts in place
+// in the order of their roles.
 inline std::string Told(const Beam& beam)
 {
     std::string told = beam.name + " " + Told(beam.start) + " to " + Told(beam.end) + " (";
@@ -29,9 +32,12 @@ inline std::string Told(const Beam& beam)
             told += (told.back() == ':' ? " " : ", ") + std::string(RowOf(field).key) + " " + text;
         }
     }
+    std::multiset<std::tuple<Role, int, std::string>> inPlace;
     for (const InPlace& text : beam.inPlace) {
-        told +=
-            std::string("; ") + RowOf(text.role).key + " " + std::to_string(text.number) + " " + text.text;
+        inPlace.emplace(text.role, text.number, text.text);
+    }
+    for (const auto& [role, number, text] : inPlace) {
+        told.append("; ").append(RowOf(role).key).append(" " + std::to_string(number) + " " + text);
     }
     return told + "\n";
 }
