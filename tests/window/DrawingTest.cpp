@@ -80,7 +80,6 @@ TEST_F(DrawingTest, SavedUnderTheOtherKindOfNameItIsThat)
 
 TEST_F(DrawingTest, ABeamWithANameAloneIsSetWhereItIsWrittenOut)
 {
-    std::string bytes = Bytes(file);
     Project twice = SampleProject();
     Beam alone;
     alone.name = twice.beams[0].name;
