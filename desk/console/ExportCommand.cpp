@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 
@@ -15,6 +16,7 @@
 #include "desk/plan/PlanFile.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/project/SafeFile.h"
+#include "desk/reading/DrawingText.h"
 
 namespace Desk {
 
@@ -62,6 +64,21 @@ void WriteDrawing(const Project& project, const ExportOptions& options, std::ost
     }
 }
 
+// What a drawing shows behind its annotations, with the texts that are no beam's yet.
+std::optional<Backdrop> BehindOf(const std::optional<Drawing>& drawing)
+{
+    if (!drawing) {
+        return std::nullopt;
+    }
+    Backdrop behind = drawing->Behind();
+    for (const AnnotationText& text : drawing->Texts()) {
+        if (text.open && text.inPlace) {
+            behind.texts.push_back({ShowPlain(PlainText(text.text)), text.place});
+        }
+    }
+    return behind;
+}
+
 void RunExport(const ExportOptions& options, std::ostream& out)
 {
     RequireFree(options.target, options);
@@ -74,8 +91,8 @@ void RunExport(const ExportOptions& options, std::ostream& out)
     if (kind == ".dxf") {
         WriteDrawing(opened.project, options, out);
     } else {
-        WritePlan(opened.project, opened.drawing ? &opened.drawing->Behind() : nullptr, options.target,
-                  options.scale);
+        const std::optional<Backdrop> behind = BehindOf(opened.drawing);
+        WritePlan(opened.project, behind ? &*behind : nullptr, options.target, options.scale);
         out << "written to " << options.target << '\n';
     }
 }

@@ -12,6 +12,7 @@
 #include "desk/console/Commands.h"
 #include "desk/console/ImportReport.h"
 #include "desk/console/Options.h"
+#include "desk/console/Print.h"
 #include "desk/drawing/Drawing.h"
 #include "desk/project/Encoding.h"
 #include "desk/project/Failure.h"

@@ -50,7 +50,7 @@ void AddAxes(ExportFile& file, const Project& project, const Extent& extent)
     constexpr double Beyond = 4000.0;
     constexpr double Radius = 500.0;
     const auto add = [&](const std::string& label, const PlanPoint& from, const PlanPoint& to) {
-        const Box box = BoxBetween(from, to, 0.0);
+        const PlanBox box = BoxBetween(from, to, 0.0);
         file.Line("AXIS", {from, to});
         AddBubble(file, Plus(from, box.along, -Radius), label);
         AddBubble(file, Plus(to, box.along, Radius), label);
@@ -66,7 +66,7 @@ void AddAxes(ExportFile& file, const Project& project, const Extent& extent)
 void AddWall(ExportFile& file, const Wall& wall)
 {
     constexpr double Thinnest = 100.0;
-    const Box box = BoxBetween(wall.start, wall.end, std::max<double>(wall.thickness, Thinnest));
+    const PlanBox box = BoxBetween(wall.start, wall.end, std::max<double>(wall.thickness, Thinnest));
     const auto corner = [&](double along, double aside) {
         return Plus(Plus(box.middle, box.along, along * box.halfLength), LeftOf(box.along),
                     aside * box.halfWidth);

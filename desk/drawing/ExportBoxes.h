@@ -17,11 +17,11 @@ inline PlanPoint Plus(const PlanPoint& point, const PlanPoint& direction, double
     return {point.x + direction.x * distance, point.y + direction.y * distance};
 }
 inline double Dot(const PlanPoint& a, const PlanPoint& b) { return a.x * b.x + a.y * b.y; }
-inline PlanPoint From(const PlanPoint& a, const PlanPoint& b) { return {b.x - a.x, b.y - a.y}; }
+inline PlanPoint WayBetween(const PlanPoint& a, const PlanPoint& b) { return {b.x - a.x, b.y - a.y}; }
 // A quarter turn to the left.
 inline PlanPoint LeftOf(const PlanPoint& direction) { return {-direction.y, direction.x}; }
 
-struct Box {
+struct PlanBox {
     PlanPoint middle;
     PlanPoint along;  // of length 1
     double halfLength = 0.0;
@@ -33,9 +33,9 @@ struct Box {
         return halfLength * std::abs(Dot(along, direction)) +
                halfWidth * std::abs(Dot(LeftOf(along), direction));
     }
-    [[nodiscard]] bool Meets(const Box& other) const
+    [[nodiscard]] bool Meets(const PlanBox& other) const
     {
-        const PlanPoint way = From(middle, other.middle);
+        const PlanPoint way = WayBetween(middle, other.middle);
         for (const PlanPoint& axis : std::array{along, LeftOf(along), other.along, LeftOf(other.along)}) {
             if (std::abs(Dot(way, axis)) >= Reach(axis) + other.Reach(axis)) {
                 return false;
@@ -45,19 +45,19 @@ struct Box {
     }
 };
 
-// Box around a stretch from one point to another.
-inline Box BoxBetween(const PlanPoint& from, const PlanPoint& to, double width)
+// PlanBox around a stretch from one point to another.
+inline PlanBox BoxBetween(const PlanPoint& from, const PlanPoint& to, double width)
 {
-    const PlanPoint way = From(from, to);
+    const PlanPoint way = WayBetween(from, to);
     const double length = std::hypot(way.x, way.y);
     const PlanPoint along = length > 0.0 ? PlanPoint{way.x / length, way.y / length} : PlanPoint{1.0, 0.0};
     return {{(from.x + to.x) / 2, (from.y + to.y) / 2}, along, length / 2, width / 2};
 }
 
-// Boxes with what they stand for, found again by the squares of the plan that they touch.
-class Boxes {
+// PlanBoxes with what they stand for, found again by the squares of the plan that they touch.
+class PlanBoxes {
 public:
-    void Add(const Box& box, std::size_t owner)
+    void Add(const PlanBox& box, std::size_t owner)
     {
         const Squares squares(box);
         if (squares.AreTooMany()) {
@@ -70,7 +70,7 @@ public:
 
     // Calls meet(owner) for each box that the given one lies on; twice for one that shares several squares.
     template <class Meet>
-    void ForMet(const Box& box, const Meet& meet) const
+    void ForMet(const PlanBox& box, const Meet& meet) const
     {
         const auto visit = [&](const std::vector<std::size_t>& indices) {
             for (const std::size_t index : indices) {
@@ -86,7 +86,7 @@ public:
             }
         });
     }
-    [[nodiscard]] bool IsMet(const Box& box) const
+    [[nodiscard]] bool IsMet(const PlanBox& box) const
     {
         bool isMet = false;
         ForMet(box, [&](std::size_t) { isMet = true; });
@@ -95,14 +95,14 @@ public:
 
 private:
     struct Entry {
-        Box box;
+        PlanBox box;
         std::size_t owner;
     };
 
     // Those that a box can touch.
     class Squares {
     public:
-        explicit Squares(const Box& box)
+        explicit Squares(const PlanBox& box)
             : m_left(At(box.middle.x - box.Reach({1.0, 0.0}))),
               m_right(At(box.middle.x + box.Reach({1.0, 0.0}))),
               m_bottom(At(box.middle.y - box.Reach({0.0, 1.0}))),

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numbers>
+#include <numeric>
 
 #include "desk/drawing/ExportBoxes.h"
 #include "desk/drawing/ExportSpans.h"
@@ -40,7 +41,13 @@ public:
             }
             PutInPlace(i);
         }
-        for (std::size_t i = 0; i < m_lies.size(); ++i) {
+        // Short beams first: they leave their labels the least choice.
+        std::vector<std::size_t> order(m_lies.size());
+        std::iota(order.begin(), order.end(), std::size_t{0});
+        std::stable_sort(order.begin(), order.end(), [this](std::size_t a, std::size_t b) {
+            return m_lies[a].length < m_lies[b].length;
+        });
+        for (const std::size_t i : order) {
             PutLabel(i);
         }
         return std::move(m_plan);
@@ -63,7 +70,7 @@ private:
         return lines;
     }
 
-    [[nodiscard]] Box BoxOf(const BeamLie& lie, double along, double aside, const DrawnLine& line) const
+    [[nodiscard]] PlanBox BoxOf(const BeamLie& lie, double along, double aside, const DrawnLine& line) const
     {
         const double half = WidthOfText(line) / 2;
         return {lie.At(along + half, aside + TextHeight / 2), lie.along, half, TextHeight / 2};
@@ -76,43 +83,57 @@ private:
         return {line.text, {lie.At(along, aside), angle, TextHeight}};
     }
 
+    // Where the middle of a text in place may be along the beam, the best position first.
+    struct Room {
+        double best = 0.0;
+        double last = 0.0;
+    };
+
     // At a support: beside it in the span to its right, at the last one in the span to its left, and never
     // nearer to the middle of that span than to the support. All others in the middle of their span.
-    static double MiddleOf(const BeamLie& lie, const InPlaceLine& text)
+    static Room RoomOf(const BeamLie& lie, const InPlaceLine& text)
     {
         const double half = WidthOfText(text.line) / 2;
         const std::size_t last = lie.breaks.size() - 1;
         const auto number = static_cast<std::size_t>(std::max(text.number, 1)) - 1;
         if (text.role != Role::TopSupport) {
             const std::size_t span = lie.FromLeft(std::min(number, last - 1), last - 1);
-            return (lie.breaks[span].Middle() + lie.breaks[span + 1].Middle()) / 2;
+            const double middle = (lie.breaks[span].Middle() + lie.breaks[span + 1].Middle()) / 2;
+            return {middle, middle};
         }
         const std::size_t support = lie.FromLeft(std::min(number, last), last);
         const double at = lie.breaks[support].Middle();
         if (support == last) {
-            const double quarter = (at - lie.breaks[last - 1].Middle()) / 4;
-            return std::max(lie.breaks[support].from - 100.0 - half, at - quarter);
+            const double quarter = at - (at - lie.breaks[last - 1].Middle()) / 4;
+            return {std::max(lie.breaks[support].from - 100.0 - half, quarter), quarter};
         }
-        const double quarter = (lie.breaks[support + 1].Middle() - at) / 4;
-        return std::min(lie.breaks[support].to + 100.0 + half, at + quarter);
+        const double quarter = at + (lie.breaks[support + 1].Middle() - at) / 4;
+        return {std::min(lie.breaks[support].to + 100.0 + half, quarter), quarter};
     }
 
+    // The first position that is free: along the beam, then one text further from it.
     void PutInPlace(std::size_t index)
     {
         const BeamLie& lie = m_lies[index];
         for (const InPlaceLine& text : TextsInPlace(m_project.beams[index], lie.breaks.size())) {
             const bool isTop = text.role == Role::TopSupport || text.role == Role::TopSpan;
-            const double from = MiddleOf(lie, text) - WidthOfText(text.line) / 2;
-            const auto aside = [&](int row) {
-                const double away = lie.width / 2 + FromEdge + row * LinePitch;
+            const Room room = RoomOf(lie, text);
+            const double half = WidthOfText(text.line) / 2;
+            const double step = room.last < room.best ? -LinePitch : LinePitch;
+            const int steps = std::min(3, static_cast<int>((room.last - room.best) / step));
+            constexpr int Rows = 3;
+            const auto along = [&](int number) { return room.best - half + number % (steps + 1) * step; };
+            const auto aside = [&](int number) {
+                const double away = lie.width / 2 + FromEdge + number / (steps + 1) * LinePitch;
                 return isTop ? away : -away - TextHeight;
             };
-            constexpr int Rows = 3;
-            int row = 0;
-            while (row < Rows && m_texts.IsMet(BoxOf(lie, from, aside(row), text.line))) {
-                ++row;
+            int number = 0;
+            const int all = Rows * (steps + 1);
+            while (number < all && m_texts.IsMet(BoxOf(lie, along(number), aside(number), text.line))) {
+                ++number;
             }
-            m_plan[index].inPlace.push_back(Put(lie, from, aside(row % Rows), text.line));
+            number %= all;
+            m_plan[index].inPlace.push_back(Put(lie, along(number), aside(number), text.line));
         }
     }
 
@@ -122,14 +143,18 @@ private:
     {
         constexpr int OnText = 20;
         constexpr int OnBeam = 1;
-        constexpr int LeaderOnBeam = 40;
+        constexpr int LeaderOverBeam = 8;
+        constexpr int LeaderToBeam = 100;  // it would end on two
         const BeamLie& lie = m_lies[index];
-        const Box leader =
+        const PlanBox leader =
             BoxBetween(lie.At(along - TextHeight / 4, aside), lie.At(along - TextHeight / 4), 40.0);
         int cost = m_texts.IsMet(leader) ? OnText : 0;
-        m_strips.ForMet(leader, [&](std::size_t other) { cost += other == index ? 0 : LeaderOnBeam; });
+        const PlanBox end =
+            BoxBetween(lie.At(along - TextHeight / 4), lie.At(along - TextHeight / 4), 40.0);
+        m_strips.ForMet(leader, [&](std::size_t other) { cost += other == index ? 0 : LeaderOverBeam; });
+        m_strips.ForMet(end, [&](std::size_t other) { cost += other == index ? 0 : LeaderToBeam; });
         for (std::size_t i = 0; i < lines.size() && cost < enough; ++i) {
-            const Box box = BoxOf(lie, along, aside - static_cast<double>(i) * LinePitch, lines[i]);
+            const PlanBox box = BoxOf(lie, along, aside - static_cast<double>(i) * LinePitch, lines[i]);
             cost += m_texts.IsMet(box) ? OnText : 0;
             m_strips.ForMet(box, [&](std::size_t) { cost += OnBeam; });
             cost += along + 2 * box.halfLength > lie.length + TextHeight ? OnBeam : 0;
@@ -181,8 +206,8 @@ private:
     const Project& m_project;
     std::vector<BeamLie> m_lies;
     std::vector<BeamOnPlan> m_plan;
-    Boxes m_strips;  // the beams
-    Boxes m_texts;   // texts and leaders
+    PlanBoxes m_strips;  // the beams
+    PlanBoxes m_texts;   // texts and leaders
 };
 
 }  // namespace

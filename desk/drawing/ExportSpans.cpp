@@ -30,7 +30,7 @@ struct Crossing {
 BeamLie LieBetween(const PlanPoint& start, const PlanPoint& end, double width)
 {
     BeamLie lie;
-    const PlanPoint way = From(start, end);
+    const PlanPoint way = WayBetween(start, end);
     lie.length = std::hypot(way.x, way.y);
     lie.along = {way.x / lie.length, way.y / lie.length};
     constexpr double Upright = 0.02;  // about a degree
@@ -77,14 +77,14 @@ std::vector<Member> MembersOf(const Project& project)
 // Where a beam meets a member that does not run in its direction.
 std::optional<double> MeetingPoint(const BeamLie& lie, const Member& member)
 {
-    const PlanPoint way = From(member.from, member.to);
+    const PlanPoint way = WayBetween(member.from, member.to);
     const double length = std::hypot(way.x, way.y);
     const double slope = Dot(LeftOf(lie.along), way);
     constexpr double LeastAngle = 0.3;  // sine
     if (std::abs(slope) < LeastAngle * length || length < 1.0) {
         return std::nullopt;
     }
-    const PlanPoint to = From(lie.from, member.from);
+    const PlanPoint to = WayBetween(lie.from, member.from);
     const double onMember = -Dot(LeftOf(lie.along), to) / slope;
     const double at = Dot(lie.along, to) + Dot(lie.along, way) * onMember;
     constexpr double Near = 50.0;
@@ -196,7 +196,7 @@ void PlaceRest(const Project& project, std::vector<BeamLie>& lies)
 std::vector<BeamLie> LiesOf(const Project& project)
 {
     const std::vector<Member> members = MembersOf(project);
-    Boxes boxes;
+    PlanBoxes boxes;
     for (const Member& member : members) {
         boxes.Add(BoxBetween(member.from, member.to, member.width),
                   static_cast<std::size_t>(&member - members.data()));

@@ -217,13 +217,13 @@ private:
         const double height = m_found.lines[name].place.height;
         double pitch = 0.0;
         while (label.lines.size() < MostLines) {
-            const std::optional<std::size_t> next = NextLine(column, label.lines.back(), height, pitch);
+            const std::optional<Below> next = NextLine(column, label, height, pitch);
             if (!next) {
                 break;
             }
-            pitch = VOf(label, label.lines.back()) - VOf(label, *next);
-            label.lines.push_back(*next);
-            m_isTaken[*next] = true;
+            pitch = next->pitch;
+            label.lines.push_back(next->line);
+            m_isTaken[next->line] = true;
         }
         label.from = label.frame.U(m_found.lines[name].place.at);
         label.top = VOf(label, name) + height;
@@ -240,32 +240,69 @@ private:
         return label.frame.V(m_found.lines[line].place.at);
     }
 
-    // The line below at the same start: nearest first, at the label's pitch once that is known.
-    [[nodiscard]] std::optional<std::size_t> NextLine(const Column& column, std::size_t above,
-                                                      double height, double pitch) const
+    struct Below {
+        std::size_t line = 0;
+        double pitch = 0.0;
+    };
+
+    // The line below at the same start: nearest first, at the label's pitch once that is known. Where lines
+    // between were removed, a whole number of pitches below, if it says what the label does not say yet.
+    [[nodiscard]] std::optional<Below> NextLine(const Column& column, const FoundLabel& label,
+                                                double height, double pitch) const
     {
-        const TextLine& from = m_found.lines[above];
+        const TextLine& from = m_found.lines[label.lines.back()];
         const double u = column.frame.U(from.place.at);
         const double v = column.frame.V(from.place.at);
         const bool isMText = m_placed.texts[from.placed].text->kind == TextKind::MText;
         const double least = pitch > 0.0 ? 0.85 * pitch : 0.85 * height;
         const double most = pitch > 0.0 ? 1.15 * pitch : (isMText ? 2.6 : 1.9) * height;
         const double side = 0.3 * height;
-        std::optional<std::size_t> best;
-        double bestStep = most;
+        std::optional<Below> best;
+        double bestStep = 4.0 * height;
         for (auto at = std::lower_bound(column.byU.begin(), column.byU.end(),
                                         std::pair(u - side, std::size_t{0}));
              at != column.byU.end() && at->first <= u + side; ++at) {
             const TextLine& line = m_found.lines[at->second];
             const double step = v - column.frame.V(line.place.at);
-            const bool isLine = !m_isTaken[at->second] && !IsName(line) &&
-                                std::abs(line.place.height - height) <= 0.1 * height;
-            if (isLine && step >= least && step <= bestStep) {
-                best = at->second;
+            if (step < least || step > bestStep) {
+                continue;
+            }
+            if (IsName(line)) {
+                best.reset();
                 bestStep = step;
+            } else if (!m_isTaken[at->second] && std::abs(line.place.height - height) <= 0.1 * height) {
+                const double steps = step <= most ? 1.0 : StepsBetween(step, height, pitch);
+                if (steps == 1.0 || (steps > 1.0 && !isMText && SaysMore(label, line))) {
+                    best = Below{at->second, step / steps};
+                    bestStep = step;
+                }
             }
         }
         return best;
+    }
+
+    // Two or three pitches; 0 for anything else.
+    static double StepsBetween(double step, double height, double pitch)
+    {
+        for (const double steps : {2.0, 3.0}) {
+            const bool fits = pitch > 0.0 ? std::abs(step - steps * pitch) <= 0.05 * pitch
+                                          : step >= 0.99 * steps * height && step <= 1.11 * steps * height;
+            if (fits) {
+                return steps;
+            }
+        }
+        return 0.0;
+    }
+
+    [[nodiscard]] bool SaysMore(const FoundLabel& label, const TextLine& line) const
+    {
+        return std::none_of(label.lines.begin(), label.lines.end(), [&](std::size_t index) {
+            const std::vector<Annotation>& said = m_found.lines[index].annotations;
+            return std::any_of(said.begin(), said.end(), [&line](const Annotation& one) {
+                return std::any_of(line.annotations.begin(), line.annotations.end(),
+                                   [&one](const Annotation& other) { return other.field == one.field; });
+            });
+        });
     }
 
     // Lines on a label's layer across its texts, in ascending order of u.

@@ -10,6 +10,7 @@ namespace Desk {
 namespace {
 
 constexpr double CellSize = 3000.0;    // mm
+constexpr double MostSteps = 1e4;      // along a run; none that is drawn as meant is longer
 constexpr double Grain = 20.0;         // mm
 constexpr std::size_t MostAlike = 12;  // runs of one shape that are still compared each with each
 constexpr std::size_t FewestRuns = 6;  // of a plan that can be the same as another
@@ -21,7 +22,8 @@ Plans::Plans(const std::vector<BeamRun>& runs, double unit) : m_runs(runs), m_un
     std::vector<std::vector<Cell>> cells(runs.size());
     for (std::size_t i = 0; i < runs.size(); ++i) {
         const BeamRun& run = runs[i];
-        const auto steps = static_cast<long long>((run.To() - run.From()) / (CellSize * unit)) + 1;
+        const auto steps =
+            static_cast<long long>(std::min((run.To() - run.From()) / (CellSize * unit), MostSteps)) + 1;
         for (long long step = 0; step <= steps; ++step) {
             const double part = static_cast<double>(step) / static_cast<double>(steps);
             cells[i].push_back(CellOf(run.frame.At(run.From() + part * (run.To() - run.From()), run.axis)));

@@ -16,6 +16,8 @@ QRectF Around(const QLineF& line)
     return QRectF(line.p1(), line.p2()).normalized().adjusted(-1, -1, 1, 1);
 }
 
+double SquareOf(const QLineF& line) { return line.dx() * line.dx() + line.dy() * line.dy(); }
+
 QRectF BoundsOf(const Backdrop& backdrop)
 {
     QPolygonF ends;
@@ -59,7 +61,7 @@ void BackdropItem::Tiles(std::size_t first, std::size_t last)
     const auto begin = m_lines.begin() + static_cast<std::ptrdiff_t>(first);
     const auto end = m_lines.begin() + static_cast<std::ptrdiff_t>(last);
     if (last - first <= MostInTile) {
-        std::sort(begin, end, [](const QLineF& a, const QLineF& b) { return a.length() > b.length(); });
+        std::sort(begin, end, [](const QLineF& a, const QLineF& b) { return SquareOf(a) > SquareOf(b); });
         Tile tile{{}, first, last};
         std::for_each(begin, end, [&](const QLineF& line) { tile.bounds |= Around(line); });
         m_tiles.push_back(tile);
@@ -103,6 +105,7 @@ void BackdropItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* opti
     const bool smooth = painter->testRenderHint(QPainter::Antialiasing);
     painter->setRenderHint(QPainter::Antialiasing, smooth && !onScreen);  // it is most of the time
     painter->setPen(LinePen(Colors(), Colors().backdrop));
+    const double least = LeastLength * LeastLength / (scale * scale);
     for (const Tile& tile : m_tiles) {
         if (!tile.bounds.intersects(option->exposedRect)) {
             continue;
@@ -110,7 +113,7 @@ void BackdropItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* opti
         const auto begin = m_lines.begin() + static_cast<std::ptrdiff_t>(tile.first);
         const auto end =
             std::partition_point(begin, m_lines.begin() + static_cast<std::ptrdiff_t>(tile.last),
-                                 [&](const QLineF& line) { return line.length() * scale >= LeastLength; });
+                                 [&](const QLineF& line) { return SquareOf(line) >= least; });
         painter->drawLines(&*begin, static_cast<int>(end - begin));
     }
     painter->setRenderHint(QPainter::Antialiasing, smooth);

@@ -40,7 +40,8 @@ FloorItems AddFloor(QGraphicsScene& scene, const Project& project, const Backdro
     }
     items.covering = PlaceBlocks(items.owners);
     items.all.assign(items.owners.begin(), items.owners.end());
-    if (PlanItem* const axes = MakeAxes(project)) {
+    // A drawing has its axes among its own lines.
+    if (PlanItem* const axes = behind == nullptr ? MakeAxes(project) : nullptr) {
         items.all.push_back(axes);
     }
     for (PlanItem* const item : items.all) {

@@ -10,6 +10,7 @@ namespace Desk {
 namespace {
 
 constexpr double FieldGap = 160.0;    // mm between two texts of a line
+constexpr double MostGap = 1600.0;    // mm between two texts of a drawn line that belong together
 constexpr double EmptyWidth = 900.0;  // mm of a label without a text
 constexpr double TextGap = 120.0;     // mm between a beam's edge and a text
 constexpr double EndInset = 350.0;    // mm from a support to its text
@@ -129,8 +130,10 @@ private:
         }
         double x = line.at.x();
         if (after && !text.empty()) {
-            const double gap = FieldGap / TextHeight * line.place.height;
-            x = joined ? m_right : std::max(x, m_right + gap);
+            // How wide the drawing's own font is, it does not tell.
+            const double unit = line.place.height / TextHeight;
+            const double next = joined ? m_right : m_right + FieldGap * unit;
+            x = x - next < MostGap * unit ? next : x;
         }
         Add(line.field, drawn, {x, line.at.y()}, line.place.height, line.place.angle);
         m_right = !text.empty() ? x + TextWidth(drawn, line.place.height) : follows ? m_right : 0.0;

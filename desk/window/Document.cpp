@@ -97,8 +97,12 @@ void Document::Write(const std::string& file, bool asDrawing) const
     } else if (m_drawing) {
         m_drawing->Save(m_project, file);
     } else {
-        if (const std::string companion = Drawing::CompanionOf(m_project); !companion.empty()) {
+        const std::string companion = Drawing::CompanionOf(m_project);
+        if (!companion.empty()) {
             ReplaceFile(CompanionFile(file), companion);
+        } else {
+            std::error_code isNone;
+            std::filesystem::remove(CompanionFile(file), isNone);  // of another drawing
         }
         ReplaceFile(file, FormatDrawing(m_project));
     }

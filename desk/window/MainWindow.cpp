@@ -22,7 +22,9 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
     setMinimumSize(640, 420);  // the tool bar with its search, and something of the drawing
     m_floor->setObjectName("drawing");
     setCentralWidget(m_floor);
-    addDockWidget(Qt::LeftDockWidgetArea, m_openTexts);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    addDockWidget(Qt::BottomDockWidgetArea, m_openTexts);
+    resizeDocks({m_openTexts}, {150}, Qt::Vertical);
     setAcceptDrops(true);
     auto* const gap = new QWidget;
     gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);

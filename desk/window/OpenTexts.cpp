@@ -23,10 +23,10 @@ OpenTexts::OpenTexts(Document& document, FloorView& floor, QWidget* parent)
     m_rows->setUniformRowHeights(true);
     m_point->setObjectName("pointToBeam");
     auto* const inside = new QWidget;
-    auto* const lines = new QVBoxLayout(inside);
+    auto* const lines = new QHBoxLayout(inside);
     lines->setContentsMargins(0, 0, 0, 0);
     lines->addWidget(m_rows);
-    lines->addWidget(m_point);
+    lines->addWidget(m_point, 0, Qt::AlignTop);
     setWidget(inside);
     hide();
 

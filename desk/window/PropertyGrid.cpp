@@ -176,10 +176,9 @@ void PropertyGrid::AddFixed(const QString& caption, const QString& value)
 }
 
 // The rows of annotations are the first ones.
-std::optional<FieldRef> PropertyGrid::RefOf(const QTreeWidgetItem* row) const
+std::optional<FieldRef> PropertyGrid::RefOf(QTreeWidgetItem* row) const
 {
-    const auto place = static_cast<std::size_t>(
-        row != nullptr ? indexOfTopLevelItem(const_cast<QTreeWidgetItem*>(row)) : -1);
+    const auto place = static_cast<std::size_t>(row != nullptr ? indexOfTopLevelItem(row) : -1);
     return place < m_refs.size() ? std::optional(m_refs[place]) : std::nullopt;
 }
 

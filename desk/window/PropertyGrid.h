@@ -32,7 +32,7 @@ signals:
 private:
     void AddText(const Project& project, const FieldRef& ref);
     void AddFixed(const QString& caption, const QString& value);
-    [[nodiscard]] std::optional<FieldRef> RefOf(const QTreeWidgetItem* row) const;
+    [[nodiscard]] std::optional<FieldRef> RefOf(QTreeWidgetItem* row) const;
     [[nodiscard]] QTreeWidgetItem* RowOf(const FieldRef& ref) const;
 
     void TellEdited();

@@ -1,6 +1,7 @@
 #include "desk/window/RecoveryCopy.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "desk/project/Failure.h"
@@ -65,49 +66,64 @@ void DropLostWork(const LostWork& lost)
     }
 }
 
+namespace {
+
+// The text in place that a drawing has there; null for none.
+InPlace* DrawnAt(Beam& beam, const InPlace& lost)
+{
+    constexpr double Same = 0.01;  // mm
+    const auto found = std::find_if(beam.inPlace.begin(), beam.inPlace.end(), [&](const InPlace& each) {
+        return each.role == lost.role && std::abs(each.place.at.x - lost.place.at.x) < Same &&
+               std::abs(each.place.at.y - lost.place.at.y) < Same;
+    });
+    return found != beam.inPlace.end() ? &*found : nullptr;
+}
+
+// Points an open text as it was pointed before the work was lost; false when no beam takes it any more.
+bool PointAgain(const Drawing& drawing, const std::string& handle, const PlanPoint& at, Project& project)
+{
+    const std::vector<AnnotationText>& texts = drawing.Texts();
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (texts[i].open && texts[i].handle == handle) {
+            const std::optional<Drawing::Pointed> pointed = drawing.PointTo(project, i, at);
+            if (pointed) {
+                project.beams[pointed->beam] = pointed->as;
+            }
+            return pointed.has_value();
+        }
+    }
+    return true;  // the drawing was saved since
+}
+
+}  // namespace
+
 std::optional<Project> OntoDrawing(const Drawing& drawing, const Project& copy)
 {
     Project project = drawing.Get();
     if (project.beams.size() != copy.beams.size()) {
         return std::nullopt;
     }
-    std::vector<int> taken(project.beams.size());  // texts that were pointed to each beam
     for (const auto& [handle, at] : copy.pointed) {
-        const std::vector<AnnotationText>& texts = drawing.Texts();
-        const auto text =
-            std::find_if(texts.begin(), texts.end(), [&name = handle](const AnnotationText& each) {
-                return each.open && each.handle == name;
-            });
-        if (text == texts.end()) {
-            continue;  // pointed before the drawing was saved
-        }
-        const auto pointed = drawing.PointTo(project, static_cast<std::size_t>(text - texts.begin()), at);
-        if (!pointed) {
+        if (!PointAgain(drawing, handle, at, project)) {
             return std::nullopt;
-        }
-        taken[pointed->beam] += text->inPlace ? 1 : 0;
-        project.beams[pointed->beam] = pointed->as;
-    }
-    for (std::size_t i = 0; i < copy.beams.size(); ++i) {
-        Beam& beam = project.beams[i];
-        const Beam& lost = copy.beams[i];
-        for (const Field field : BeamFields()) {
-            beam.*RowOf(field).ofBeam = lost.*RowOf(field).ofBeam;
-        }
-        const std::size_t drawn = beam.inPlace.size();
-        // The order in which two or more were pointed, or pointed and added, is not known.
-        if (lost.inPlace.size() < drawn || taken[i] > 1 || (taken[i] == 1 && lost.inPlace.size() > drawn)) {
-            return std::nullopt;
-        }
-        for (std::size_t k = 0; k < lost.inPlace.size(); ++k) {
-            if (k < drawn) {
-                beam.inPlace[k].text = lost.inPlace[k].text;
-            } else {
-                beam.inPlace.push_back(lost.inPlace[k]);
-            }
         }
     }
     project.pointed = copy.pointed;
+    for (std::size_t i = 0; i < copy.beams.size(); ++i) {
+        Beam& beam = project.beams[i];
+        for (const Field field : BeamFields()) {
+            beam.*RowOf(field).ofBeam = copy.beams[i].*RowOf(field).ofBeam;
+        }
+        for (const InPlace& lost : copy.beams[i].inPlace) {
+            if (lost.place.height <= 0.0) {
+                beam.inPlace.push_back(lost);
+            } else if (InPlace* const drawn = DrawnAt(beam, lost)) {
+                drawn->text = lost.text;
+            } else {
+                return std::nullopt;
+            }
+        }
+    }
     return project;
 }
 

@@ -22,7 +22,7 @@ struct LostWork {
 [[nodiscard]] QList<LostWork> FindLostWork(const QString& folder);
 void DropLostWork(const LostWork& lost);
 // The project of a drawing, which is as it was then, with the copy's texts and what was pointed. Nothing
-// when it is not certain which text of the copy is which of the drawing.
+// when a text of the copy is none of the drawing's.
 [[nodiscard]] std::optional<Project> OntoDrawing(const Drawing& drawing, const Project& copy);
 
 // The copy of one document: NAME.json with the project; NAME.from with the name of its file and, in the

@@ -1,21 +1,16 @@
 // What the documents show is what the programs print. RENEW_DOCS=1 writes it into them.
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 
 #include <gtest/gtest.h>
 
 #include "tests/console/Shell.h"
+#include "tests/support/Folder.h"
 
 namespace {
-
-std::string ContentOf(const std::string& file)
-{
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 // A command goes on over lines as long as a quote is open.
 bool IsWhole(const std::string& command)
@@ -65,7 +60,11 @@ TEST_P(Docs, ShowWhatTheProgramsPrint)
 {
     const std::string file = std::string(SOURCE_FOLDER "/docs/") + GetParam();
     const std::string document = ContentOf(file);
+    const Folder folder;  // for what the commands write
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.Path());
     const std::string renewed = Renew(document);
+    std::filesystem::current_path(before);
     ASSERT_NE(renewed.find("\n$ "), std::string::npos) << "no console block in " << file;
     if (std::getenv("RENEW_DOCS") != nullptr) {
         std::ofstream(file, std::ios::binary) << renewed;
@@ -73,6 +72,6 @@ TEST_P(Docs, ShowWhatTheProgramsPrint)
     EXPECT_EQ(document, renewed);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Docs, testing::Values("panels.md", "host.md"));
+INSTANTIATE_TEST_SUITE_P(All, Docs, testing::Values("panels.md", "host.md", "drawings.md"));
 
 }  // namespace

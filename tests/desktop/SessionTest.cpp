@@ -8,14 +8,18 @@
 #include <fstream>
 #include <functional>
 #include <iostream>
+#include <numeric>
+#include <sstream>
 #include <string>
 #include <thread>
 
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "desk/project/Fields.h"
+#include "desk/drawing/Drawing.h"
+#include "desk/drawing/Export.h"
 #include "desk/project/ProjectFile.h"
+#include "desk/project/SafeFile.h"
 
 namespace {
 
@@ -202,7 +206,7 @@ protected:
         }
         FAIL() << "no button " << button;
     }
-    [[nodiscard]] std::string Saved(const FieldRef& ref) const { return TextAt(ReadProject(m_file), ref); }
+    [[nodiscard]] std::string Saved(const FieldRef& ref) const { return TextAt(OpenProject(m_file), ref); }
 
     std::string m_folder;
     std::string m_file;
@@ -290,6 +294,33 @@ TEST_F(Session, AKillInTheMiddleLosesNothing)
     Keys("ctrl+s");
     WaitFor("the save", [](const json& report) { return report["changed"] == false; });
     EXPECT_EQ(Saved(Top), "2B28");
+}
+
+TEST_F(Session, ADrawingIsEditedInItsFile)
+{
+    const auto lines = [this] {
+        std::istringstream in(ReadWholeFile(m_file));
+        std::vector<std::string> all;
+        for (std::string line; std::getline(in, line);) {
+            all.push_back(line);
+        }
+        return all;
+    };
+    m_file = m_folder + "/floor.dxf";
+    ReplaceFile(m_file, FormatDrawing(SampleProject()));
+    const std::vector<std::string> before = lines();
+    Start();
+    Choose(Top);
+    TakeCandidate("2B25");
+    Keys("ctrl+s");
+    WaitFor("the save", [](const json& report) { return report["changed"] == false; });
+    EXPECT_EQ(Saved(Top), "2B25");
+    const std::vector<std::string> after = lines();
+    ASSERT_EQ(after.size(), before.size());
+    EXPECT_EQ(std::inner_product(before.begin(), before.end(), after.begin(), 0, std::plus<>(),
+                                 std::not_equal_to<>()),
+              1)
+        << "lines that differ";
 }
 
 }  // namespace

@@ -184,9 +184,10 @@ TEST(Replay, IsWhatHidingOneUseAfterTheOtherGives)
         };
         const auto endKind = [&project](const FieldRef& ref) {
             const Beam& beam = project.beams[ref.index];
+            const auto inPlace = static_cast<std::size_t>(ref.inPlace);
             const bool isRight = ref.inPlace < 0
                                      ? ref.field == Field::RightEnd
-                                     : !beam.spans.empty() && beam.inPlace[ref.inPlace].number ==
+                                     : !beam.spans.empty() && beam.inPlace[inPlace].number ==
                                                                   static_cast<int>(beam.spans.size()) + 1;
             return beam.topBars.empty() ? CString(isRight ? "3" : "2")
                                         : CString(std::string_view(beam.topBars));

@@ -80,7 +80,6 @@ TEST_F(DrawingTest, SavedUnderTheOtherKindOfNameItIsThat)
 
 TEST_F(DrawingTest, ABeamWithANameAloneIsSetWhereItIsWrittenOut)
 {
-    std::string bytes = Bytes(file);
     Project twice = SampleProject();
     Beam alone;
     alone.name = twice.beams[0].name;
@@ -110,6 +109,7 @@ TEST_F(DrawingTest, LostWorkComesBackOntoTheDrawing)
         auto document = std::make_unique<Document>(recovery);
         document->Open(file);
         document->SetText(Stirrup, "A10@100(4)");
+        document->SetText({false, 0, Field::LeftEnd, 0}, "9B25");
         const auto& beam = document->Get().beams[0];
         if (pointed) {
             const PlanPoint middle{(beam.start.x + beam.end.x) / 2, (beam.start.y + beam.end.y) / 2};
@@ -124,6 +124,8 @@ TEST_F(DrawingTest, LostWorkComesBackOntoTheDrawing)
         EXPECT_TRUE(next.OpenLost(lose(true)));
         ASSERT_NE(next.From(), nullptr);
         EXPECT_EQ(next.Get().beams[0].stirrup, "A10@100(4)");
+        EXPECT_EQ(next.Get().beams[0].inPlace[0].text, "9B25");
+        EXPECT_EQ(next.Get().beams[0].inPlace.back().text, "4C20");
         EXPECT_EQ(next.File(), file);
         EXPECT_TRUE(next.IsChanged());
         EXPECT_TRUE(next.OpenTexts().empty());
