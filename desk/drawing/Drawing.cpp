@@ -61,6 +61,11 @@ public:
         }
         m_parts->file = ReadEntities(std::move(bytes), name);
         m_parts->placed = PlaceEntities(m_parts->file, name);
+        // The lines are placed now. (An empty list in braces would keep their memory.)
+        m_parts->file.model.lines = std::vector<LineEntity>();
+        for (Entities& block : m_parts->file.blocks) {
+            block.lines = std::vector<LineEntity>();
+        }
         m_parts->found = FindTexts(m_parts->file, m_parts->placed);
     }
 
@@ -277,17 +282,14 @@ private:
                 ShowText(text);
             }
         }
+        m_parts->behind.lines.reserve(m_parts->placed.lines.size());
         for (const PlacedLine& line : m_parts->placed.lines) {
             if (!line.isHidden) {
                 m_parts->behind.lines.push_back(line.line);
             }
         }
         // The lines are in the backdrop now.
-        m_parts->placed.lines = {};
-        m_parts->file.model.lines = {};
-        for (Entities& block : m_parts->file.blocks) {
-            block.lines = {};
-        }
+        m_parts->placed.lines = std::vector<PlacedLine>();
     }
 
     void ShowText(const PlacedText& text)
@@ -467,16 +469,19 @@ std::optional<Source> Drawing::Parts::SourceOf(const InPlace& text) const
     const std::size_t line = lineOf[static_cast<std::size_t>(text.drawn)];
     const std::vector<Annotation>& annotations = found.lines[line].annotations;
     const Field field = text.role == Role::TopSupport ? Field::TopBars : RowOf(text.role).field;
-    std::optional<Source> open;  // plain bars below a beam
+    // Bars below a beam are plain ones. Of several in one text it is the one that says the same.
+    std::optional<Source> source;
     for (std::size_t i = 0; i < annotations.size(); ++i) {
-        if (annotations[i].field == field) {
+        const bool isPlain = annotations[i].field == Field::TopBars && text.role == Role::Bottom;
+        if (annotations[i].field != field && !isPlain) {
+            continue;
+        }
+        if (annotations[i].text == text.text) {
             return Source{line, i};
         }
-        if (annotations[i].field == Field::TopBars && text.role == Role::Bottom) {
-            open = Source{line, i};
-        }
+        source = source ? source : Source{line, i};
     }
-    return open;
+    return source;
 }
 
 bool IsDrawing(std::string_view bytes)

@@ -30,6 +30,7 @@ public:
 
     Placed Place()
     {
+        m_placed.lines.reserve(m_file.model.lines.size());
         PlaceAll(m_file.model, Transform(), 0, 0, false);
         return std::move(m_placed);
     }

@@ -160,7 +160,7 @@ private:
 
     void WriteInPlace(std::size_t beam, const InPlace& now, const InPlace* before)
     {
-        const std::optional<Source> source = m_parts.SourceOf(now);
+        const std::optional<Source> source = m_parts.SourceOf(before != nullptr ? *before : now);
         if (!source) {
             if (!now.text.empty()) {
                 AddInPlace(beam, now);
