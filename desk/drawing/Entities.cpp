@@ -373,14 +373,32 @@ private:
             }
             text.attachment = std::clamp(e.whole71, 1, 9);
             text.lineSpacing = e.number44 > 0.0 ? e.number44 : 1.0;
-        } else if (e.at.x == 0.0 && e.at.y == 0.0 && e.hasOther) {
-            text.at = e.other;  // only the aligned position is given
+        } else if (e.hasOther &&
+                   ((e.at.x == 0.0 && e.at.y == 0.0) || (e.at.x == e.other.x && e.at.y == e.other.y))) {
+            text.at = Aligned(e);  // only the aligned position is given
         }
         for (const Stretch& piece : text.values) {
             CountHighBytes(std::string_view(m_file.bytes).substr(piece.begin, piece.end - piece.begin),
                            m_highBytes, m_notUtf8);
         }
         m_in->texts.push_back(std::move(text));
+    }
+
+    // The lower left corner of a text that is aligned: across by code 72, up by code 73, of an ATTRIB 74.
+    // Its length is about three quarters of a height a character.
+    static PlanPoint Aligned(const Entity& e)
+    {
+        const double length =
+            0.75 * e.number40 * e.scale41 * static_cast<double>(e.value.end - e.value.begin);
+        const bool isMiddle = e.whole72 == 4;
+        const int vertical = e.kind == EntityType::Attrib ? e.whole74 : e.whole73;
+        const double across = isMiddle || e.whole72 == 1 ? 0.5 : e.whole72 == 2 ? 1.0 : 0.0;
+        const double up = isMiddle || vertical == 2 ? 0.5 : vertical == 3 ? 1.0 : 0.0;
+        const double angle = Radians(e.angle50);
+        const double u = -length * across;
+        const double v = -e.number40 * up;
+        return {e.other.x + u * std::cos(angle) - v * std::sin(angle),
+                e.other.y + u * std::sin(angle) + v * std::cos(angle)};
     }
 
     void KeepInsert()
