@@ -7,6 +7,7 @@
 #include <numbers>
 #include <optional>
 
+#include "desk/drawing/Entity.h"
 #include "desk/drawing/Pairs.h"
 #include "desk/project/Failure.h"
 
@@ -15,9 +16,6 @@ namespace Desk {
 namespace {
 
 constexpr std::uint32_t NoBlock = ~std::uint32_t{0};
-constexpr double ArcStep = 15.0;  // degrees of an arc that one line stands for
-
-double Radians(double degrees) { return degrees * std::numbers::pi / 180.0; }
 
 std::string Upper(std::string_view text)
 {
@@ -26,78 +24,6 @@ std::string Upper(std::string_view text)
                    [](char ch) { return ch >= 'a' && ch <= 'z' ? static_cast<char>(ch - 32) : ch; });
     return upper;
 }
-
-enum class EntityType {
-    Other,
-    Text,
-    MText,
-    Attrib,
-    Line,
-    LwPolyline,
-    Polyline,
-    Vertex,
-    SeqEnd,
-    Circle,
-    Arc,
-    Insert,
-    Dimension
-};
-
-EntityType TypeOf(std::string_view type)
-{
-    static const std::unordered_map<std::string_view, EntityType> kinds = {
-        {"TEXT", EntityType::Text},
-        {"MTEXT", EntityType::MText},
-        {"ATTRIB", EntityType::Attrib},
-        {"LINE", EntityType::Line},
-        {"LWPOLYLINE", EntityType::LwPolyline},
-        {"POLYLINE", EntityType::Polyline},
-        {"VERTEX", EntityType::Vertex},
-        {"SEQEND", EntityType::SeqEnd},
-        {"CIRCLE", EntityType::Circle},
-        {"ARC", EntityType::Arc},
-        {"INSERT", EntityType::Insert},
-        {"DIMENSION", EntityType::Dimension},
-    };
-    const auto found = kinds.find(type);
-    return found == kinds.end() ? EntityType::Other : found->second;
-}
-
-struct Vertex {
-    PlanPoint at;
-    double bulge = 0.0;
-};
-
-// The pairs of one entity, by what they mean.
-struct Entity {
-    EntityType kind = EntityType::Other;
-    Stretch record;
-    std::string_view handle;
-    std::string_view layer = "0";
-    std::string_view name;        // code 2
-    std::vector<Stretch> pieces;  // code 3
-    Stretch value;                // code 1
-    bool hasValue = false;
-    PlanPoint at;     // 10, 20
-    PlanPoint other;  // 11, 21
-    bool hasOther = false;
-    double number40 = 0.0;
-    double scale41 = 1.0;
-    double scale42 = 1.0;
-    double number44 = 0.0;
-    double number45 = 0.0;
-    double angle50 = 0.0;
-    double angle51 = 0.0;
-    int whole60 = 0;
-    int whole67 = 0;
-    int whole70 = 0;
-    int whole71 = 0;
-    int whole72 = 0;
-    int whole73 = 0;
-    int whole74 = 0;
-    double extrusion = 1.0;  // 230
-    std::vector<Vertex> vertices;
-};
 
 class Reader {
 public:
@@ -200,7 +126,7 @@ private:
             NoteHandle(pair.value);
         }
         if (m_section == "ENTITIES" || m_section == "BLOCKS" || m_isLayer) {
-            TakeEntity(pair);
+            m_entity.Take(pair);
         }
     }
 
@@ -234,72 +160,14 @@ private:
         }
     }
 
-    void TakeEntity(const Pair& pair)
-    {
-        Entity& e = m_entity;
-        const auto number = [&pair] { return RealOf(pair.value); };
-        const auto whole = [&pair] { return WholeOf(pair.value); };
-        const Stretch value{pair.valueAt, pair.valueAt + pair.value.size()};
-        switch (pair.code) {
-        case 1:
-            e.value = value;
-            e.hasValue = true;
-            break;
-        case 2: e.name = pair.value; break;
-        case 3: e.pieces.push_back(value); break;
-        case 5: e.handle = Trimmed(pair.value); break;
-        case 8: e.layer = pair.value; break;
-        case 10:
-            e.at.x = number();
-            if (e.kind == EntityType::LwPolyline) {
-                e.vertices.push_back({{e.at.x, 0.0}, 0.0});
-            }
-            break;
-        case 20:
-            e.at.y = number();
-            if (!e.vertices.empty()) {
-                e.vertices.back().at.y = e.at.y;
-            }
-            break;
-        case 11:
-            e.other.x = number();
-            e.hasOther = true;
-            break;
-        case 21: e.other.y = number(); break;
-        case 40: e.number40 = number(); break;
-        case 41: e.scale41 = number(); break;
-        case 42:
-            e.scale42 = number();
-            if (!e.vertices.empty()) {
-                e.vertices.back().bulge = e.scale42;
-            }
-            break;
-        case 44: e.number44 = number(); break;
-        case 45: e.number45 = number(); break;
-        case 50: e.angle50 = number(); break;
-        case 51: e.angle51 = number(); break;
-        case 60: e.whole60 = whole(); break;
-        case 62: m_layerColor = whole(); break;
-        case 67: e.whole67 = whole(); break;
-        case 70: e.whole70 = whole(); break;
-        case 71: e.whole71 = whole(); break;
-        case 72: e.whole72 = whole(); break;
-        case 73: e.whole73 = whole(); break;
-        case 74: e.whole74 = whole(); break;
-        case 230: e.extrusion = number(); break;
-        default: break;
-        }
-    }
-
     void FinishEntity(std::size_t end)
     {
         Entity& e = m_entity;
         e.record.end = end;
         if (m_isLayer) {
             LayerRow& layer = m_file.layers[LayerOf(e.name)];
-            layer.isHidden = (e.whole70 & 1) != 0 || m_layerColor < 0;
+            layer.isHidden = (e.whole70 & 1) != 0 || e.whole62 < 0;
             m_isLayer = false;
-            m_layerColor = 0;
         } else if (m_isBlockHead) {
             m_file.blocks.back().base = e.at;
             m_blockNames.emplace(Upper(e.name), static_cast<std::uint32_t>(m_file.blocks.size() - 1));
@@ -322,7 +190,7 @@ private:
         case EntityType::Attrib: KeepText(); break;
         case EntityType::Line: AddLine(e.at, e.other, e.layer); break;
         case EntityType::LwPolyline:
-            AddPolyline(e.vertices, (e.whole70 & 1) != 0, e.layer, e.extrusion < 0);
+            AddChain(PolylinePoints(e.vertices, (e.whole70 & 1) != 0), e.layer, e.extrusion < 0);
             break;
         case EntityType::Polyline: m_polyline = std::move(e); break;
         case EntityType::Vertex:
@@ -332,13 +200,17 @@ private:
             break;
         case EntityType::SeqEnd:
             if (m_polyline) {
-                AddPolyline(m_polyline->vertices, (m_polyline->whole70 & 1) != 0, m_polyline->layer,
-                            m_polyline->extrusion < 0);
+                AddChain(PolylinePoints(m_polyline->vertices, (m_polyline->whole70 & 1) != 0),
+                         m_polyline->layer, m_polyline->extrusion < 0);
                 m_polyline.reset();
             }
             break;
-        case EntityType::Circle: AddArc(e.at, e.number40, 0.0, 360.0); break;
-        case EntityType::Arc: AddArc(e.at, e.number40, e.angle50, e.angle51); break;
+        case EntityType::Circle:
+            AddChain(ArcPoints(e.at, e.number40, 0.0, 360.0), e.layer, e.extrusion < 0);
+            break;
+        case EntityType::Arc:
+            AddChain(ArcPoints(e.at, e.number40, e.angle50, e.angle51), e.layer, e.extrusion < 0);
+            break;
         case EntityType::Insert:
         case EntityType::Dimension: KeepInsert(); break;
         case EntityType::Other: break;
@@ -442,54 +314,12 @@ private:
         }
     }
 
-    void AddPolyline(std::vector<Vertex>& vertices, bool isClosed, std::string_view layer, bool isMirrored)
+    void AddChain(const std::vector<PlanPoint>& points, std::string_view layer, bool isMirrored)
     {
-        for (Vertex& vertex : vertices) {
-            vertex.at.x = isMirrored ? -vertex.at.x : vertex.at.x;
-            vertex.bulge = isMirrored ? -vertex.bulge : vertex.bulge;
-        }
-        for (std::size_t i = 0; i + (isClosed ? 0 : 1) < vertices.size(); ++i) {
-            const Vertex& from = vertices[i];
-            const PlanPoint to = vertices[(i + 1) % vertices.size()].at;
-            from.bulge == 0.0 ? AddLine(from.at, to, layer) : AddBulge(from, to, layer);
-        }
-    }
-
-    // The bulge is the tangent of a quarter of the arc's angle.
-    void AddBulge(const Vertex& from, const PlanPoint& to, std::string_view layer)
-    {
-        const double angle = 4.0 * std::atan(from.bulge);
-        const int steps = 1 + static_cast<int>(std::abs(angle) / Radians(ArcStep));
-        const double lean = (1.0 - from.bulge * from.bulge) / (4.0 * from.bulge);
-        const PlanPoint center{(from.at.x + to.x) / 2.0 - (to.y - from.at.y) * lean,
-                               (from.at.y + to.y) / 2.0 + (to.x - from.at.x) * lean};
-        PlanPoint last = from.at;
-        for (int i = 1; i <= steps; ++i) {
-            const double turn = angle * i / steps;
-            const double dx = from.at.x - center.x;
-            const double dy = from.at.y - center.y;
-            const PlanPoint next = i == steps
-                                       ? to
-                                       : PlanPoint{center.x + dx * std::cos(turn) - dy * std::sin(turn),
-                                                   center.y + dx * std::sin(turn) + dy * std::cos(turn)};
-            AddLine(last, next, layer);
-            last = next;
-        }
-    }
-
-    void AddArc(PlanPoint center, double radius, double from, double to)
-    {
-        const bool isMirrored = m_entity.extrusion < 0;
-        double span = std::fmod(to - from, 360.0);
-        span = span <= 0.0 ? span + 360.0 : span;
-        const int steps = 1 + static_cast<int>(span / ArcStep);
-        const auto at = [&](int i) {
-            const double angle = Radians(from + span * i / steps);
-            const double x = center.x + radius * std::cos(angle);
-            return PlanPoint{isMirrored ? -x : x, center.y + radius * std::sin(angle)};
-        };
-        for (int i = 0; i < steps; ++i) {
-            AddLine(at(i), at(i + 1), m_entity.layer);
+        const double turned = isMirrored ? -1.0 : 1.0;
+        for (std::size_t i = 1; i < points.size(); ++i) {
+            AddLine({turned * points[i - 1].x, points[i - 1].y}, {turned * points[i].x, points[i].y},
+                    layer);
         }
     }
 
@@ -527,7 +357,6 @@ private:
     bool m_isLayer = false;
     bool m_isBlockHead = false;
     bool m_isInBlock = false;
-    int m_layerColor = 0;
     std::size_t m_highBytes = 0;
     std::size_t m_notUtf8 = 0;
     std::unordered_map<std::string, std::uint32_t> m_layers;

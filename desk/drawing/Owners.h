@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include "desk/drawing/Bundle.h"
 #include "desk/drawing/Labels.h"
 #include "desk/drawing/Plans.h"
 #include "desk/project/Failure.h"
@@ -57,11 +58,6 @@ public:
                                                   const std::map<std::size_t, PlanPoint>& pointed) const;
 
 private:
-    // Things that go the same way, by their v.
-    struct Bundle {
-        Frame frame;
-        std::vector<std::pair<double, std::size_t>> byAxis;
-    };
     // Where a beam can rest: a gap of its outline, or a beam that crosses it.
     struct Rest {
         double at = 0.0;    // u

@@ -36,6 +36,17 @@ struct Drawing::Parts {
     [[nodiscard]] std::optional<Source> SourceOf(const InPlace& text) const;
 };
 
+// What Drawing::Parse makes of a file and its companion.
+[[nodiscard]] std::unique_ptr<Drawing::Parts> ReadParts(std::string bytes, const std::string& name,
+                                                        std::string_view companion);
+// The texts in place that one text of the drawing is for its beam.
+[[nodiscard]] std::vector<InPlace> InPlaceOf(const Drawing::Parts& parts, std::size_t text,
+                                             const OwnerText& owner);
+// The plan is as drawn, spans are as long as dimensions say.
+void SetAxis(Beam& beam, const OwnerBeam& owner, double unit);
+// Where BeamFields() has a field.
+[[nodiscard]] std::size_t NumberOf(Field field);
+
 // The drawing with its texts as those of a project that was edited.
 [[nodiscard]] std::string WriteEdited(const Drawing::Parts& parts, const Project& edited);
 

@@ -1,23 +1,15 @@
 // Which values of the file change, and to what. Everything else is copied.
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <map>
-#include <numbers>
 #include <set>
 
 #include "desk/drawing/GradeSpelling.h"
-#include "desk/drawing/Pairs.h"
 #include "desk/drawing/Parts.h"
+#include "desk/drawing/Splices.h"
 
 namespace Desk {
 
 namespace {
-
-struct Splice {
-    Stretch at;  // of the file; empty for an insertion
-    std::string text;
-};
 
 std::string ComposeBars(const std::string& top, const std::string& erection, const std::string& bottom)
 {
@@ -28,19 +20,10 @@ std::string ComposeBars(const std::string& top, const std::string& erection, con
     return bottom.empty() ? text : text + ";" + bottom;
 }
 
-// As DXF writes numbers: with a point.
-std::string NumberText(double number)
-{
-    char digits[64];
-    const auto end = std::to_chars(digits, digits + sizeof digits, number).ptr;
-    std::string text(digits, end);
-    return text.find_first_of(".e") == std::string::npos ? text + ".0" : text;
-}
-
 class Writer {
 public:
     Writer(const Drawing::Parts& parts, const Project& edited)
-        : m_parts(parts), m_edited(edited), m_spelling(parts), m_nextHandle(parts.file.nextHandle)
+        : m_parts(parts), m_edited(edited), m_spelling(parts), m_splices(parts)
     {
     }
 
@@ -53,21 +36,13 @@ public:
             WriteBeam(i);
         }
         RemoveParts();
-        if (m_nextHandle != m_parts.file.nextHandle && m_parts.file.handSeed.end > 0) {
-            m_splices.push_back({m_parts.file.handSeed, HandleText(m_nextHandle)});
-        }
-        return Spliced();
+        return m_splices.Written();
     }
 
 private:
     [[nodiscard]] const TextLine& LineOf(const Source& source) const
     {
         return m_parts.found.lines[source.line];
-    }
-    [[nodiscard]] static std::size_t NumberOf(Field field)
-    {
-        const std::span<const Field> fields = BeamFields();
-        return static_cast<std::size_t>(std::find(fields.begin(), fields.end(), field) - fields.begin());
     }
     [[nodiscard]] const std::optional<Source>& SourceOf(std::size_t beam, Field field) const
     {
@@ -274,9 +249,9 @@ private:
     {
         const TextEntity& entity = m_parts.EntityOf(line);
         if (entity.kind == TextKind::Text) {
-            m_splices.push_back({entity.record, ""});
+            m_splices.Remove(entity);
         } else {
-            PutInValue(entity, line.whole, "");  // an attribute stays, and so do an MTEXT's other lines
+            m_splices.Put(entity, line.whole, "");  // an attribute stays, and so do an MTEXT's other lines
         }
     }
 
@@ -292,27 +267,7 @@ private:
                                               : value.begin;
             value.begin = part.end > part.begin ? value.begin : value.end;
         }
-        PutInValue(m_parts.EntityOf(line), value, text);
-    }
-
-    // A long MTEXT's value lies in pieces.
-    void PutInValue(const TextEntity& entity, const Stretch& at, const std::string& text)
-    {
-        std::size_t before = 0;
-        bool isPut = false;
-        for (const Stretch& piece : entity.values) {
-            const std::size_t length = piece.end - piece.begin;
-            const std::size_t from = std::max(at.begin, before);
-            const std::size_t to = std::min(at.end, before + length);
-            if (from < to ||
-                (!isPut && at.begin == at.end && at.begin >= before && at.begin <= before + length)) {
-                m_splices.push_back(
-                    {{piece.begin + from - before, piece.begin + std::max(from, to) - before},
-                     isPut ? std::string() : text});
-                isPut = true;
-            }
-            before += length;
-        }
+        m_splices.Put(m_parts.EntityOf(line), value, text);
     }
 
     // One more line below a label's last one.
@@ -325,13 +280,13 @@ private:
             m_spelling.Spell(last, {last.plain.size(), last.plain.size()}, text, isBars);
         ++m_newLines;
         if (entity.kind == TextKind::MText) {
-            PutInValue(entity, {last.whole.end, last.whole.end}, "\\P" + spelled);
+            m_splices.Put(entity, {last.whole.end, last.whole.end}, "\\P" + spelled);
             return;
         }
         const double pitch = PitchOf(label) * m_newLines;
         const PlanPoint from = last.place.at;
         const PlanPoint step = label.frame.At(0.0, -pitch);
-        AddCopy(last, spelled, {from.x + step.x, from.y + step.y});
+        m_splices.AddCopy(last, spelled, {from.x + step.x, from.y + step.y});
     }
 
     [[nodiscard]] double PitchOf(const FoundLabel& label) const
@@ -376,10 +331,10 @@ private:
         const double side = owner.width / 2.0 + FromEdge * unit;
         const double v = owner.axis + (isAbove ? side : -side - height);
         const bool isPositioned = text.place.height > 0.0;
-        AddCopy(*like,
-                m_spelling.Spell(*like, {like->plain.size(), like->plain.size()}, text.text,
-                                 IsBars(RowOf(text.role).field)),
-                isPositioned ? text.place.at : owner.frame.At(u, v));
+        m_splices.AddCopy(*like,
+                          m_spelling.Spell(*like, {like->plain.size(), like->plain.size()}, text.text,
+                                           IsBars(RowOf(text.role).field)),
+                          isPositioned ? text.place.at : owner.frame.At(u, v));
     }
 
     // A TEXT along the beam: one in place, else a line of its label.
@@ -403,87 +358,11 @@ private:
         return nullptr;
     }
 
-    // The same record with another value, at a position on the plan, with a handle of its own.
-    void AddCopy(const TextLine& like, const std::string& value, const PlanPoint& position)
-    {
-        const TextEntity& entity = m_parts.EntityOf(like);
-        if (entity.kind != TextKind::Text) {
-            throw Failure(Phrase("Desk", "%1: a label of block attributes takes no new line"),
-                          ShowPlain(like.plain));
-        }
-        const PlacedText& placed = m_parts.placed.texts[like.placed];
-        const PlanPoint now = placed.transform.Back(placed.place.at);
-        const PlanPoint wanted = placed.transform.Back(position);
-        const PlanPoint step{wanted.x - now.x, wanted.y - now.y};
-        const std::string_view bytes = m_parts.file.bytes;
-        PairReader pairs(bytes.substr(0, entity.record.end), entity.record.begin);
-        std::string copy;
-        std::size_t copied = entity.record.begin;
-        bool hasValue = false;
-        for (Pair pair; pairs.Next(pair);) {
-            std::optional<std::string> text;
-            switch (pair.code) {
-            case 1:
-                text = hasValue ? std::nullopt : std::optional(value);
-                hasValue = true;
-                break;
-            case 5: text = HandleText(m_nextHandle++); break;
-            case 10:
-            case 11: text = NumberText(RealOf(pair.value) + step.x); break;
-            case 20:
-            case 21: text = NumberText(RealOf(pair.value) + step.y); break;
-            default: break;
-            }
-            if (text) {
-                copy.append(bytes.substr(copied, pair.valueAt - copied)).append(*text);
-                copied = pair.valueAt + pair.value.size();
-            }
-        }
-        copy.append(bytes.substr(copied, entity.record.end - copied));
-        m_splices.push_back({{entity.record.end, entity.record.end}, std::move(copy)});
-    }
-
-    static std::string HandleText(std::uint64_t handle)
-    {
-        char digits[32];
-        std::string text(digits, std::to_chars(digits, digits + sizeof digits, handle, 16).ptr);
-        std::transform(text.begin(), text.end(), text.begin(),
-                       [](char ch) { return ch >= 'a' ? static_cast<char>(ch - 32) : ch; });
-        return text;
-    }
-
-    std::string Spliced()
-    {
-        std::stable_sort(m_splices.begin(), m_splices.end(), [](const Splice& a, const Splice& b) {
-            return std::pair(a.at.begin, a.at.end) < std::pair(b.at.begin, b.at.end);
-        });
-        const std::string_view bytes = m_parts.file.bytes;
-        std::string all;
-        std::size_t size = bytes.size();
-        for (const Splice& splice : m_splices) {
-            size += splice.text.size();
-        }
-        all.reserve(size);
-        std::size_t copied = 0;
-        const Splice* last = nullptr;
-        for (const Splice& splice : m_splices) {
-            // A block that is referred to twice changes once.
-            if (last != nullptr && splice.at.end > splice.at.begin && splice.at.begin < copied) {
-                continue;
-            }
-            all.append(bytes.substr(copied, splice.at.begin - copied)).append(splice.text);
-            copied = splice.at.end;
-            last = &splice;
-        }
-        return all.append(bytes.substr(copied));
-    }
-
     const Drawing::Parts& m_parts;
     const Project& m_edited;
     GradeSpelling m_spelling;
-    std::uint64_t m_nextHandle;
     int m_newLines = 0;  // of the beam that is being written
-    std::vector<Splice> m_splices;
+    Splices m_splices;
     std::map<std::size_t, std::set<std::size_t>> m_removed;  // annotations by line
     std::set<std::size_t> m_written;                         // lines with a part put anew
 };
