@@ -250,7 +250,7 @@ TEST(ReadDrawing, NoTextOfACrowdedPlanGoesToAWrongBeam)
             const std::size_t index = text.refs.at(0).index;
             const auto& [outline, plan] = beamOf[index];
             const Beam& beam = drawing.Get().beams[index];
-            const auto off = [&, plan = plan, outline = outline](const PlanPoint& a, const PlanPoint& b) {
+            const auto off = [&, plan = plan](const PlanPoint& a, const PlanPoint& b) {
                 return std::hypot(a.x - b.x - plan.x, a.y - b.y - plan.y);
             };
             const bool isRight = off(beam.start, outline->from) < 500 && off(beam.end, outline->to) < 500;
