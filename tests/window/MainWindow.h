@@ -1,0 +1,87 @@
+// The desk on the sample, and what a person does to it.
+#pragma once
+
+#include <QtTest/QtTest>
+
+#include <gtest/gtest.h>
+
+#include "desk/project/Encoding.h"
+#include "desk/project/ProjectFile.h"
+#include "desk/window/MainWindow.h"
+
+namespace Desk {
+
+class MainWindowTest : public testing::Test {
+protected:
+    MainWindowTest()
+    {
+        QSettings().clear();
+        window.SetLanguage(Language::English);
+        window.Files().Open(QString());
+        window.resize(1440, 900);  // whatever the screen's size and scale
+        window.show();
+        QCoreApplication::processEvents();
+    }
+    ~MainWindowTest() override { window.TheDocument().DropRecoveryCopy(); }
+
+    template <class Widget>
+    Widget& Find(const char* name)
+    {
+        return *window.findChild<Widget*>(name);
+    }
+    std::string Text(const FieldRef& ref) { return TextAt(window.TheDocument().Get(), ref); }
+    void Trigger(const char* action) { Find<QAction>(action).trigger(); }
+    // Presses an annotation in the drawing.
+    void Press(const FieldRef& ref)
+    {
+        FloorView& drawing = window.Drawing();
+        drawing.SetChosen(ref);  // brings it into view
+        QTest::mouseClick(drawing.viewport(), Qt::LeftButton, {},
+                          drawing.viewport()->mapFromGlobal(drawing.OnScreen(ref).center()));
+        ASSERT_EQ(window.Chosen(), ref);
+    }
+    // The texts on offer that are not hidden, group titles in brackets.
+    QStringList Offer()
+    {
+        QStringList texts;
+        auto& rows = Find<QTreeWidget>("choices");
+        for (QTreeWidgetItemIterator at(&rows, QTreeWidgetItemIterator::NotHidden); *at != nullptr; ++at) {
+            const bool group = (*at)->parent() == nullptr;
+            if (group || !(*at)->parent()->isHidden()) {
+                texts << (group ? "[" + (*at)->text(0) + "]" : (*at)->text(0));
+            }
+        }
+        return texts;
+    }
+    void ClickOffer(const QString& text)
+    {
+        auto& rows = Find<QTreeWidget>("choices");
+        const QList<QTreeWidgetItem*> found = rows.findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
+        ASSERT_FALSE(found.isEmpty());
+        rows.scrollToItem(found.front());
+        QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualItemRect(found.front()).center());
+    }
+    // A control of the open panel.
+    QWidget& Control(int id)
+    {
+        const HWND panel = window.Panels().Window();
+        QWidget* const widget = display.WidgetOf(CWnd::FromHandle(panel)->GetDlgItem(id)->m_hWnd);
+        auto* const area = qobject_cast<QAbstractScrollArea*>(widget);
+        return area != nullptr ? *area->viewport() : *widget;
+    }
+    void ClickRow(int id, const char* text)
+    {
+        auto& list = *qobject_cast<QListView*>(Control(id).parentWidget());
+        const QModelIndexList found = list.model()->match(list.model()->index(0, 0), Qt::DisplayRole,
+                                                          QString(text), 1, Qt::MatchExactly);
+        ASSERT_EQ(found.size(), 1) << text;
+        QTest::mouseClick(&Control(id), Qt::LeftButton, {}, list.visualRect(found[0]).center());
+    }
+
+    QtDisplay display{{Utf8FromGbk, GbkFromUtf8}};
+    MainWindow window{display};
+};
+
+inline constexpr FieldRef Bars{false, 0, Field::TopBars};
+
+}  // namespace Desk
