@@ -38,7 +38,17 @@ Drawing Drawing::Parse(std::string bytes, const std::string& name, std::string_v
 const Project& Drawing::Get() const { return m_parts->project; }
 const Backdrop& Drawing::Behind() const { return m_parts->behind; }
 const std::vector<AnnotationText>& Drawing::Texts() const { return m_parts->texts; }
-std::string Drawing::Written(const Project& edited) const { return WriteEdited(*m_parts, edited); }
+std::string Drawing::Written(const Project& edited) const
+{
+    std::string bytes;
+    bytes.reserve(m_parts->file.bytes.size());
+    WriteEdited(*m_parts, edited, [&bytes](std::span<const std::string_view> pieces) {
+        for (const std::string_view piece : pieces) {
+            bytes += piece;
+        }
+    });
+    return bytes;
+}
 
 std::string Drawing::CompanionOf(const Project& edited)
 {
@@ -78,21 +88,22 @@ std::string Drawing::CompanionOf(const Project& edited)
 
 void Drawing::Save(const Project& edited, const std::filesystem::path& file) const
 {
-    const std::string bytes = Written(edited);
-    std::string companion = CompanionOf(edited);
-    std::error_code error;
-    const std::filesystem::path beside = CompanionFile(file);
-    if (companion.empty() && std::filesystem::exists(beside, error)) {
-        companion = FormatProject(Project());  // what it held is no longer so
-    }
-    if (!companion.empty()) {
-        ReplaceFile(beside, companion);
-    }
-    const std::filesystem::path old = std::filesystem::canonical(file, error);
-    if (!error) {
-        KeepCopy(old, old.string() + ".bak");
-    }
-    ReplaceFile(file, bytes);
+    WriteEdited(*m_parts, edited, [&](std::span<const std::string_view> pieces) {
+        std::string companion = CompanionOf(edited);
+        std::error_code error;
+        const std::filesystem::path beside = CompanionFile(file);
+        if (companion.empty() && std::filesystem::exists(beside, error)) {
+            companion = FormatProject(Project());  // what it held is no longer so
+        }
+        if (!companion.empty()) {
+            ReplaceFile(beside, companion);
+        }
+        const std::filesystem::path old = std::filesystem::canonical(file, error);
+        if (!error) {
+            KeepCopy(old, old.string() + ".bak");
+        }
+        ReplaceFile(file, pieces);
+    });
 }
 
 std::optional<Drawing::Pointed> Drawing::PointTo(const Project& project, std::size_t text,

@@ -38,6 +38,7 @@ struct TextEntity {
 struct LineEntity {
     PlanLine line;
     std::uint32_t layer = 0;
+    bool isHidden = false;  // known once it is placed
 };
 
 struct InsertEntity {

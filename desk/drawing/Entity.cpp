@@ -8,7 +8,7 @@ namespace Desk {
 
 namespace {
 
-constexpr double ArcStep = 15.0;  // degrees of an arc that one line stands for
+constexpr double ArcStep = 22.5;  // degrees of an arc that one line stands for
 
 // The points after the first one; the last one is exactly the next vertex.
 void AppendBulge(std::vector<PlanPoint>& points, const Vertex& from, const PlanPoint& to)

@@ -316,7 +316,7 @@ private:
                 byLayer[key.first].emplace_back(key, label.frame);
             }
         }
-        for (const PlacedLine& line : m_placed.lines) {
+        for (const LineEntity& line : m_placed.lines) {
             const auto labels = byLayer.find(line.layer);
             if (labels == byLayer.end()) {
                 continue;
@@ -332,14 +332,30 @@ private:
         for (auto& [key, lines] : across) {
             std::sort(lines.begin(), lines.end());
         }
+        std::map<const PlanLine*, std::pair<double, FoundLabel*>> nearest;
         for (FoundLabel& label : m_found.labels) {
-            FindLeader(label, across[KeyOf(m_found.lines[label.lines.front()])]);
+            const auto [leader, side] =
+                FindLeader(label, across[KeyOf(m_found.lines[label.lines.front()])]);
+            if (leader == nullptr) {
+                continue;
+            }
+            // Of two labels that one line could lead, it leads the nearer one.
+            const auto [known, isNew] = nearest.try_emplace(leader, side, &label);
+            if (!isNew && side < known->second.first) {
+                known->second.second->leaderEnd.reset();
+                known->second = {side, &label};
+            } else if (!isNew) {
+                label.leaderEnd.reset();
+            }
         }
     }
 
     // It begins beside the label, a quarter of a text height before the start, and ends away from it.
-    void FindLeader(FoundLabel& label, const std::vector<std::pair<double, const PlanLine*>>& lines) const
+    // Answers which line it is, and how far from where it is wanted.
+    std::pair<const PlanLine*, double>
+    FindLeader(FoundLabel& label, const std::vector<std::pair<double, const PlanLine*>>& lines) const
     {
+        const PlanLine* leader = nullptr;
         const double height = m_found.lines[label.lines.front()].place.height;
         const double wanted = label.from - height / 4.0;
         double bestSide = 0.5 * height;
@@ -368,8 +384,10 @@ private:
                 label.leaderEnd = isFirstFar ? line.from : line.to;
                 bestSide = side;
                 bestLength = length;
+                leader = &line;
             }
         }
+        return {leader, bestSide};
     }
 
     const DxfFile& m_file;

@@ -1,8 +1,11 @@
 // What a drawing is made of, between reading and writing.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <span>
+#include <string_view>
 
 #include "desk/drawing/Drawing.h"
 #include "desk/drawing/Labels.h"
@@ -47,7 +50,9 @@ void SetAxis(Beam& beam, const OwnerBeam& owner, double unit);
 // Where BeamFields() has a field.
 [[nodiscard]] std::size_t NumberOf(Field field);
 
-// The drawing with its texts as those of a project that was edited.
-[[nodiscard]] std::string WriteEdited(const Drawing::Parts& parts, const Project& edited);
+// Gives use the drawing with its texts as those of a project that was edited, in pieces: a large file is
+// not copied in memory to be written.
+void WriteEdited(const Drawing::Parts& parts, const Project& edited,
+                 const std::function<void(std::span<const std::string_view>)>& use);
 
 }  // namespace Desk

@@ -23,15 +23,22 @@ Transform TurnedBy(double degrees)
 
 class Placer {
 public:
-    Placer(const DxfFile& file, const std::string& name)
+    Placer(DxfFile& file, const std::string& name)
         : m_file(file), m_name(name), m_left(100'000 + file.bytes.size())
     {
     }
 
     Placed Place()
     {
-        m_placed.lines.reserve(m_file.model.lines.size());
+        m_placed.lines = std::move(m_file.model.lines);
+        m_file.model.lines.clear();
+        for (LineEntity& line : m_placed.lines) {
+            line.isHidden = m_file.layers[line.layer].isHidden;
+        }
         PlaceAll(m_file.model, Transform(), 0, 0, false);
+        for (Entities& block : m_file.blocks) {
+            block.lines = std::vector<LineEntity>();  // braces would keep the memory
+        }
         return std::move(m_placed);
     }
 
@@ -105,7 +112,7 @@ private:
                 std::hypot(up.x, up.y)};
     }
 
-    const DxfFile& m_file;
+    DxfFile& m_file;
     const std::string& m_name;
     std::size_t m_left;
     Placed m_placed;
@@ -141,6 +148,6 @@ Transform Transform::After(const Transform& inner) const
     return {x.x, x.y, y.x, y.y, Of(inner.origin)};
 }
 
-Placed PlaceEntities(const DxfFile& file, const std::string& name) { return Placer(file, name).Place(); }
+Placed PlaceEntities(DxfFile& file, const std::string& name) { return Placer(file, name).Place(); }
 
 }  // namespace Desk

@@ -36,18 +36,13 @@ struct PlacedText {
     bool isHidden = false;
 };
 
-struct PlacedLine {
-    PlanLine line;
-    std::uint32_t layer = 0;
-    bool isHidden = false;
-};
-
 struct Placed {
     std::vector<PlacedText> texts;
-    std::vector<PlacedLine> lines;
+    std::vector<LineEntity> lines;
 };
 
-// Throws Failure for blocks that hold themselves or grow beyond all measure; name stands for the file.
-[[nodiscard]] Placed PlaceEntities(const DxfFile& file, const std::string& name);
+// The file's lines are gone then: those of a large drawing need not be held twice. Throws Failure for
+// blocks that hold themselves or grow beyond all measure; name stands for the file in messages.
+[[nodiscard]] Placed PlaceEntities(DxfFile& file, const std::string& name);
 
 }  // namespace Desk

@@ -45,11 +45,6 @@ public:
         }
         m_parts->file = ReadEntities(std::move(bytes), name);
         m_parts->placed = PlaceEntities(m_parts->file, name);
-        // The lines are placed now. (An empty list in braces would keep their memory.)
-        m_parts->file.model.lines = std::vector<LineEntity>();
-        for (Entities& block : m_parts->file.blocks) {
-            block.lines = std::vector<LineEntity>();
-        }
         m_parts->found = FindTexts(m_parts->file, m_parts->placed);
     }
 
@@ -83,7 +78,7 @@ private:
         }
         std::vector<PlanLine> beams;
         std::vector<PlanLine> carriers;
-        for (const PlacedLine& line : m_parts->placed.lines) {
+        for (const LineEntity& line : m_parts->placed.lines) {
             if (kinds[line.layer] == OutlineKind::Beam) {
                 beams.push_back(line.line);
             } else if (kinds[line.layer] == OutlineKind::Carrier) {
@@ -255,13 +250,17 @@ private:
             }
         }
         m_parts->behind.lines.reserve(m_parts->placed.lines.size());
-        for (const PlacedLine& line : m_parts->placed.lines) {
+        const auto& lines = m_parts->placed.lines;
+        const auto isShown = [](const LineEntity& line) { return !line.isHidden; };
+        m_parts->behind.lines.reserve(
+            static_cast<std::size_t>(std::count_if(lines.begin(), lines.end(), isShown)));
+        for (const LineEntity& line : m_parts->placed.lines) {
             if (!line.isHidden) {
                 m_parts->behind.lines.push_back(line.line);
             }
         }
         // The lines are in the backdrop now.
-        m_parts->placed.lines = std::vector<PlacedLine>();
+        m_parts->placed.lines = std::vector<LineEntity>();
     }
 
     void ShowText(const PlacedText& text)

@@ -86,7 +86,7 @@ void Splices::AddCopy(const TextLine& like, const std::string& value, const Plan
     m_all.push_back({{entity.record.end, entity.record.end}, std::move(copy)});
 }
 
-std::string Splices::Written()
+std::vector<std::string_view> Splices::Written()
 {
     if (m_nextHandle != m_parts.file.nextHandle && m_parts.file.handSeed.end > 0) {
         m_all.push_back({m_parts.file.handSeed, HandleText(m_nextHandle)});
@@ -95,22 +95,19 @@ std::string Splices::Written()
         return std::pair(a.at.begin, a.at.end) < std::pair(b.at.begin, b.at.end);
     });
     const std::string_view bytes = m_parts.file.bytes;
-    std::string all;
-    std::size_t size = bytes.size();
-    for (const Splice& splice : m_all) {
-        size += splice.text.size();
-    }
-    all.reserve(size);
+    std::vector<std::string_view> pieces;
     std::size_t copied = 0;
     for (const Splice& splice : m_all) {
         // A block that is referred to twice changes once.
         if (splice.at.begin < copied) {
             continue;
         }
-        all.append(bytes.substr(copied, splice.at.begin - copied)).append(splice.text);
+        pieces.push_back(bytes.substr(copied, splice.at.begin - copied));
+        pieces.push_back(splice.text);
         copied = splice.at.end;
     }
-    return all.append(bytes.substr(copied));
+    pieces.push_back(bytes.substr(copied));
+    return pieces;
 }
 
 }  // namespace Desk

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "desk/drawing/Parts.h"
@@ -21,8 +22,9 @@ public:
     // Failure for what is no TEXT.
     void AddCopy(const TextLine& like, const std::string& value, const PlanPoint& position);
 
-    // The file with all that; $HANDSEED moves on where handles were given.
-    [[nodiscard]] std::string Written();
+    // The file with all that, in pieces that live as long as this and the file; $HANDSEED moves on where
+    // handles were given.
+    [[nodiscard]] std::vector<std::string_view> Written();
 
 private:
     struct Splice {

@@ -27,7 +27,7 @@ public:
     {
     }
 
-    std::string Write()
+    std::vector<std::string_view> Write()
     {
         if (m_edited.beams.size() != m_parts.project.beams.size()) {
             throw Failure(Phrase("Desk", "the drawing takes no beams that it has no label for"));
@@ -369,9 +369,11 @@ private:
 
 }  // namespace
 
-std::string WriteEdited(const Drawing::Parts& parts, const Project& edited)
+void WriteEdited(const Drawing::Parts& parts, const Project& edited,
+                 const std::function<void(std::span<const std::string_view>)>& use)
 {
-    return Writer(parts, edited).Write();
+    Writer writer(parts, edited);
+    use(writer.Write());
 }
 
 }  // namespace Desk

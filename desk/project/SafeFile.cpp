@@ -169,6 +169,11 @@ public:
             Check(count < 0 ? -1 : 0);
             text.remove_prefix(static_cast<std::size_t>(count));
         }
+    }
+
+    // All of it is on the disk.
+    void Finish()
+    {
         Check(static_cast<int>(Again([this] { return fsync(m_descriptor.Number()); })));
         m_lock = Descriptor(fcntl(m_descriptor.Number(), F_DUPFD_CLOEXEC, 0));
         if (const int error = m_descriptor.Close()) {
@@ -282,7 +287,9 @@ void KeepCopy(const fs::path& file, const fs::path& copy)
     ReplaceFile(copy, ReadWholeFile(file, std::size_t{1} << 40U));  // a file system without second names
 }
 
-void ReplaceFile(const fs::path& file, std::string_view text)
+void ReplaceFile(const fs::path& file, std::string_view text) { ReplaceFile(file, std::span(&text, 1)); }
+
+void ReplaceFile(const fs::path& file, std::span<const std::string_view> pieces)
 {
     const fs::path target = FollowLinks(file);
     const std::optional<struct stat> old = OldFile(target);
@@ -290,7 +297,10 @@ void ReplaceFile(const fs::path& file, std::string_view text)
     if (old) {
         replacement.LookLike(*old);
     }
-    replacement.Write(text);
+    for (const std::string_view piece : pieces) {
+        replacement.Write(piece);
+    }
+    replacement.Finish();
     replacement.TakePlace();
     RemoveLeftovers(FolderOf(target));
     SyncFolder(target);

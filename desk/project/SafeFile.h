@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -23,5 +24,7 @@ void KeepCopy(const std::filesystem::path& file, const std::filesystem::path& co
 // what it had written. A file ".beamdesk-NUMBER" that a killed save left in the folder is removed by the
 // next one; another program's save in progress keeps its own.
 void ReplaceFile(const std::filesystem::path& file, std::string_view text);
+// The same for a text in pieces.
+void ReplaceFile(const std::filesystem::path& file, std::span<const std::string_view> pieces);
 
 }  // namespace Desk
