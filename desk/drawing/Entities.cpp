@@ -310,7 +310,7 @@ private:
     void AddLine(const PlanPoint& from, const PlanPoint& to, std::string_view layer)
     {
         if (m_entity.whole60 == 0) {
-            m_in->lines.push_back({{from, to}, LayerOf(layer)});
+            m_in->lines.Add({from, to}, LayerOf(layer));
         }
     }
 

@@ -35,10 +35,22 @@ struct TextEntity {
     double lineSpacing = 1;  // of an MTEXT, times five thirds of the height
 };
 
-struct LineEntity {
-    PlanLine line;
-    std::uint32_t layer = 0;
-    bool isHidden = false;  // known once it is placed
+// Lines and, parallel to them, their layers; arcs and circles are short lines. Two lists, so that the lines
+// of a large drawing become its backdrop without a copy.
+struct LineList {
+    static constexpr std::uint32_t Hidden = std::uint32_t{1}
+                                            << 31U;  // with the layer of what does not show
+
+    std::vector<PlanLine> lines;
+    std::vector<std::uint32_t> layers;
+
+    void Add(const PlanLine& line, std::uint32_t layer)
+    {
+        lines.push_back(line);
+        layers.push_back(layer);
+    }
+    [[nodiscard]] std::uint32_t LayerOf(std::size_t i) const { return layers[i] & ~Hidden; }
+    [[nodiscard]] bool IsHidden(std::size_t i) const { return (layers[i] & Hidden) != 0; }
 };
 
 struct InsertEntity {
@@ -59,7 +71,7 @@ struct InsertEntity {
 // What stands in one block, or among the entities of the model.
 struct Entities {
     std::vector<TextEntity> texts;
-    std::vector<LineEntity> lines;  // arcs and circles too, as short lines
+    LineList lines;
     std::vector<InsertEntity> inserts;
     PlanPoint base;
 };

@@ -316,16 +316,17 @@ private:
                 byLayer[key.first].emplace_back(key, label.frame);
             }
         }
-        for (const LineEntity& line : m_placed.lines) {
-            const auto labels = byLayer.find(line.layer);
+        for (std::size_t i = 0; i < m_placed.lines.lines.size(); ++i) {
+            const auto labels = byLayer.find(m_placed.lines.LayerOf(i));
             if (labels == byLayer.end()) {
                 continue;
             }
+            const PlanLine& line = m_placed.lines.lines[i];
             for (const auto& [key, frame] : labels->second) {
-                const double du = frame.U(line.line.to) - frame.U(line.line.from);
-                const double dv = frame.V(line.line.to) - frame.V(line.line.from);
+                const double du = frame.U(line.to) - frame.U(line.from);
+                const double dv = frame.V(line.to) - frame.V(line.from);
                 if (std::abs(du) <= 0.03 * std::abs(dv)) {
-                    across[key].emplace_back(frame.U(line.line.from), &line.line);
+                    across[key].emplace_back(frame.U(line.from), &line);
                 }
             }
         }

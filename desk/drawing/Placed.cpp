@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include "desk/project/Failure.h"
 
@@ -30,14 +31,14 @@ public:
 
     Placed Place()
     {
-        m_placed.lines = std::move(m_file.model.lines);
-        m_file.model.lines.clear();
-        for (LineEntity& line : m_placed.lines) {
-            line.isHidden = m_file.layers[line.layer].isHidden;
+        m_placed.lines = std::exchange(m_file.model.lines, LineList());
+        Spend(m_placed.lines.lines.size());
+        for (std::uint32_t& layer : m_placed.lines.layers) {
+            layer |= m_file.layers[layer].isHidden ? LineList::Hidden : 0;
         }
         PlaceAll(m_file.model, Transform(), 0, 0, false);
         for (Entities& block : m_file.blocks) {
-            block.lines = std::vector<LineEntity>();  // braces would keep the memory
+            block.lines = LineList();
         }
         return std::move(m_placed);
     }
@@ -57,7 +58,7 @@ private:
         const auto layerOf = [&](std::uint32_t own) {
             return depth > 0 && m_file.layers[own].name == "0" ? layerOfReference : own;
         };
-        Spend(entities.texts.size() + entities.lines.size());
+        Spend(entities.texts.size() + entities.lines.lines.size());
         for (const TextEntity& text : entities.texts) {
             const std::uint32_t layer = layerOf(text.layer);
             const Transform own = text.isMirrored ? transform.After({-1.0, 0.0, 0.0, 1.0, {}}) : transform;
@@ -67,11 +68,11 @@ private:
             m_placed.texts.push_back({&text, own, PlaceOf(text, own), layer,
                                       isHidden || text.isHidden || m_file.layers[layer].isHidden});
         }
-        for (const LineEntity& line : entities.lines) {
-            const std::uint32_t layer = layerOf(line.layer);
-            m_placed.lines.push_back({{transform.Of(line.line.from), transform.Of(line.line.to)},
-                                      layer,
-                                      isHidden || m_file.layers[layer].isHidden});
+        for (std::size_t i = 0; i < entities.lines.lines.size(); ++i) {
+            const std::uint32_t layer = layerOf(entities.lines.layers[i]);
+            const PlanLine& line = entities.lines.lines[i];
+            m_placed.lines.Add({transform.Of(line.from), transform.Of(line.to)},
+                               layer | (isHidden || m_file.layers[layer].isHidden ? LineList::Hidden : 0));
         }
         for (const InsertEntity& insert : entities.inserts) {
             if (insert.block < m_file.blocks.size()) {

@@ -38,7 +38,7 @@ struct PlacedText {
 
 struct Placed {
     std::vector<PlacedText> texts;
-    std::vector<LineEntity> lines;
+    LineList lines;
 };
 
 // The file's lines are gone then: those of a large drawing need not be held twice. Throws Failure for

@@ -78,13 +78,16 @@ private:
         }
         std::vector<PlanLine> beams;
         std::vector<PlanLine> carriers;
-        for (const LineEntity& line : m_parts->placed.lines) {
-            if (kinds[line.layer] == OutlineKind::Beam) {
-                beams.push_back(line.line);
-            } else if (kinds[line.layer] == OutlineKind::Carrier) {
-                carriers.push_back(line.line);
+        const LineList& placed = m_parts->placed.lines;
+        for (std::size_t i = 0; i < placed.lines.size(); ++i) {
+            const OutlineKind kind = kinds[placed.LayerOf(i)];
+            if (kind == OutlineKind::Beam) {
+                beams.push_back(placed.lines[i]);
+            } else if (kind == OutlineKind::Carrier) {
+                carriers.push_back(placed.lines[i]);
             }
         }
+        ShowLines();
         std::map<std::size_t, PlanPoint> pointed;
         for (std::size_t i = 0; i < m_parts->found.labels.size(); ++i) {
             const TextLine& name = m_parts->found.lines[m_parts->found.labels[i].lines.front()];
@@ -249,18 +252,20 @@ private:
                 ShowText(text);
             }
         }
-        m_parts->behind.lines.reserve(m_parts->placed.lines.size());
-        const auto& lines = m_parts->placed.lines;
-        const auto isShown = [](const LineEntity& line) { return !line.isHidden; };
-        m_parts->behind.lines.reserve(
-            static_cast<std::size_t>(std::count_if(lines.begin(), lines.end(), isShown)));
-        for (const LineEntity& line : m_parts->placed.lines) {
-            if (!line.isHidden) {
-                m_parts->behind.lines.push_back(line.line);
+    }
+
+    // The lines that show become the backdrop; no one needs the others any more.
+    void ShowLines()
+    {
+        LineList placed = std::exchange(m_parts->placed.lines, LineList());
+        std::size_t kept = 0;
+        for (std::size_t i = 0; i < placed.lines.size(); ++i) {
+            if (!placed.IsHidden(i)) {
+                placed.lines[kept++] = placed.lines[i];
             }
         }
-        // The lines are in the backdrop now.
-        m_parts->placed.lines = std::vector<LineEntity>();
+        placed.lines.resize(kept);
+        m_parts->behind.lines = std::move(placed.lines);
     }
 
     void ShowText(const PlacedText& text)
