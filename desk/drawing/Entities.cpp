@@ -145,7 +145,7 @@ private:
             std::uint64_t seed = 0;
             std::from_chars(value.data(), value.data() + value.size(), seed, 16);
             m_file.nextHandle = std::max(m_file.nextHandle, seed);
-        } else if (m_variable == "$DIMLFAC" && RealOf(pair.value) > 0.0) {
+        } else if (m_variable == "$DIMLFAC" && RealOf(pair.value) > 1e-4) {
             m_file.unitScale = 1.0 / RealOf(pair.value);
         }
     }
@@ -309,7 +309,7 @@ private:
 
     void AddLine(const PlanPoint& from, const PlanPoint& to, std::string_view layer)
     {
-        if (m_entity.whole60 == 0) {
+        if (m_entity.whole60 == 0 && IsOnPlan(from) && IsOnPlan(to)) {
             m_in->lines.Add({from, to}, LayerOf(layer));
         }
     }

@@ -30,6 +30,11 @@ void AppendBulge(std::vector<PlanPoint>& points, const Vertex& from, const PlanP
 
 }  // namespace
 
+bool IsOnPlan(const PlanPoint& point)
+{
+    return std::abs(point.x) <= FarthestOut && std::abs(point.y) <= FarthestOut;
+}
+
 double Radians(double degrees) { return degrees * std::numbers::pi / 180.0; }
 
 EntityType TypeOf(std::string_view type)
@@ -130,7 +135,9 @@ std::vector<PlanPoint> PolylinePoints(const std::vector<Vertex>& vertices, bool 
         }
         if (i + 1 < vertices.size() || isClosed) {
             const PlanPoint to = vertices[(i + 1) % vertices.size()].at;
-            vertices[i].bulge == 0.0 ? points.push_back(to) : AppendBulge(points, vertices[i], to);
+            constexpr double Straight = 1e-9;
+            std::abs(vertices[i].bulge) < Straight ? points.push_back(to)
+                                                   : AppendBulge(points, vertices[i], to);
         }
     }
     return points;

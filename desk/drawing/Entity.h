@@ -68,6 +68,8 @@ struct Entity {
 };
 
 [[nodiscard]] double Radians(double degrees);
+// False beyond FarthestOut, and for what is no number.
+[[nodiscard]] bool IsOnPlan(const PlanPoint& point);
 
 // Points along an arc, counterclockwise between two angles in degrees; equal angles are a whole circle.
 [[nodiscard]] std::vector<PlanPoint> ArcPoints(const PlanPoint& center, double radius, double from,

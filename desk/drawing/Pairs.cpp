@@ -73,7 +73,7 @@ double RealOf(std::string_view value)
     }
     double number = 0.0;
     const auto [stop, error] = std::from_chars(value.data(), value.data() + value.size(), number);
-    return error == std::errc() && std::isfinite(number) ? number : 0.0;
+    return error == std::errc() && std::abs(number) <= FarthestOut ? number : 0.0;
 }
 
 int WholeOf(std::string_view value)

@@ -29,7 +29,9 @@ private:
     std::size_t m_at;
 };
 
-// A number as DXF writes it, with blanks around it; 0 for what is none or not finite.
+// No drawing is larger, in its own units: what lies beyond is damage.
+inline constexpr double FarthestOut = 1e12;
+// A number as DXF writes it, with blanks around it; 0 for what is none or beyond FarthestOut.
 [[nodiscard]] double RealOf(std::string_view value);
 [[nodiscard]] int WholeOf(std::string_view value);
 // Without the blanks around it.

@@ -4,6 +4,8 @@
 #include <numbers>
 #include <utility>
 
+#include "desk/drawing/Entity.h"
+#include "desk/drawing/Pairs.h"
 #include "desk/project/Failure.h"
 
 namespace Desk {
@@ -62,16 +64,21 @@ private:
         for (const TextEntity& text : entities.texts) {
             const std::uint32_t layer = layerOf(text.layer);
             const Transform own = text.isMirrored ? transform.After({-1.0, 0.0, 0.0, 1.0, {}}) : transform;
-            if (own.IsFlat()) {
+            const TextPlace place = PlaceOf(text, own);
+            if (own.IsFlat() || !IsOnPlan(place.at) || !(place.height <= FarthestOut)) {
                 continue;
             }
-            m_placed.texts.push_back({&text, own, PlaceOf(text, own), layer,
-                                      isHidden || text.isHidden || m_file.layers[layer].isHidden});
+            m_placed.texts.push_back(
+                {&text, own, place, layer, isHidden || text.isHidden || m_file.layers[layer].isHidden});
         }
         for (std::size_t i = 0; i < entities.lines.lines.size(); ++i) {
             const std::uint32_t layer = layerOf(entities.lines.layers[i]);
             const PlanLine& line = entities.lines.lines[i];
-            m_placed.lines.Add({transform.Of(line.from), transform.Of(line.to)},
+            const PlanLine placed{transform.Of(line.from), transform.Of(line.to)};
+            if (!IsOnPlan(placed.from) || !IsOnPlan(placed.to)) {
+                continue;
+            }
+            m_placed.lines.Add(placed,
                                layer | (isHidden || m_file.layers[layer].isHidden ? LineList::Hidden : 0));
         }
         for (const InsertEntity& insert : entities.inserts) {
