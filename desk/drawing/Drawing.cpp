@@ -14,6 +14,14 @@ namespace {
 
 constexpr std::size_t LongestDrawing = std::size_t{1} << 30;  // bytes
 
+// What the file beside a drawing holds; empty where there is none.
+std::string CompanionText(const std::filesystem::path& file)
+{
+    const std::filesystem::path companion = CompanionFile(file);
+    std::error_code unknown;
+    return std::filesystem::exists(companion, unknown) ? ReadWholeFile(companion) : std::string();
+}
+
 }  // namespace
 
 Drawing::Drawing(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}
@@ -23,11 +31,7 @@ Drawing::~Drawing() = default;
 
 Drawing Drawing::Read(const std::filesystem::path& file)
 {
-    std::string bytes = ReadWholeFile(file, LongestDrawing);
-    const std::filesystem::path companion = CompanionFile(file);
-    std::error_code unknown;
-    return Parse(std::move(bytes), file.string(),
-                 std::filesystem::exists(companion, unknown) ? ReadWholeFile(companion) : std::string());
+    return Parse(ReadWholeFile(file, LongestDrawing), file.string(), CompanionText(file));
 }
 
 Drawing Drawing::Parse(std::string bytes, const std::string& name, std::string_view companion)
@@ -200,11 +204,7 @@ Opened OpenFile(const std::filesystem::path& file)
         }
         return {ParseProject(bytes, file.string()), std::nullopt};
     }
-    const std::filesystem::path companion = CompanionFile(file);
-    std::error_code unknown;
-    Drawing drawing = Drawing::Parse(std::move(bytes), file.string(),
-                                     std::filesystem::exists(companion, unknown) ? ReadWholeFile(companion)
-                                                                                 : std::string());
+    Drawing drawing = Drawing::Parse(std::move(bytes), file.string(), CompanionText(file));
     Project project = drawing.Get();
     return {std::move(project), std::move(drawing)};
 }

@@ -18,9 +18,9 @@ Transform TurnedBy(double degrees)
 {
     const double angle = degrees * std::numbers::pi / 180.0;
     // Quarter turns stay exact, so that what is drawn upright is upright.
-    const double quarter = std::remainder(degrees, 90.0) == 0.0 ? 1.0 : 0.0;
-    const double cosine = quarter != 0.0 ? std::round(std::cos(angle)) : std::cos(angle);
-    const double sine = quarter != 0.0 ? std::round(std::sin(angle)) : std::sin(angle);
+    const bool isQuarter = std::remainder(degrees, 90.0) == 0.0;
+    const double cosine = isQuarter ? std::round(std::cos(angle)) : std::cos(angle);
+    const double sine = isQuarter ? std::round(std::sin(angle)) : std::sin(angle);
     return {cosine, sine, -sine, cosine, {}};
 }
 

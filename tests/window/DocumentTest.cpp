@@ -71,6 +71,7 @@ TEST_F(DocumentTest, SavesAndOpensAndKeepsWhatFails)
     QFile other(File("a.json"));
     ASSERT_TRUE(other.open(QIODevice::Append));
     other.write("\n");
+    other.flush();  // what is written later would take the time along
     other.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime);
     other.close();
     EXPECT_TRUE(document.IsFileNewer());
