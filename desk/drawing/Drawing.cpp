@@ -62,6 +62,7 @@ std::string Drawing::CompanionOf(const Project& edited)
     kept.axesAcross = edited.axesAcross;
     kept.axesUp = edited.axesUp;
     kept.pointed = edited.pointed;
+    kept.checksOff = edited.checksOff;
     kept.inFile = edited.inFile;
     const Beam usual;
     const auto isUsual = [&usual](const Beam& beam) {
@@ -86,7 +87,8 @@ std::string Drawing::CompanionOf(const Project& edited)
         each.floor = beam.floor;
     }
     const bool isEmpty = kept.title.empty() && kept.walls.empty() && kept.axesAcross.empty() &&
-                         kept.axesUp.empty() && kept.pointed.empty() && kept.beams.empty();
+                         kept.axesUp.empty() && kept.pointed.empty() && kept.checksOff.empty() &&
+                         kept.beams.empty();
     return isEmpty ? std::string() : FormatProject(kept);
 }
 
