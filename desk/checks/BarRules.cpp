@@ -141,7 +141,7 @@ void CheckEndBars(const Station& at, const Tell& tell)
 
 // GB 50010-2010 (2015), 11.3.7: frame beams have two through bars at least on top and bottom, of 14 mm in
 // seismic classes 1 and 2, of 12 mm in 3 and 4; in classes 1 and 2 the top ones have a quarter of the end
-// bars' area as well.
+// bars' area as well. Bottom bars may be written in place alone, so they may be missing.
 void CheckThroughBars(const Station& at, const Tell& tell)
 {
     if (at.kind != BeamKind::Frame) {
@@ -149,10 +149,10 @@ void CheckThroughBars(const Station& at, const Tell& tell)
     }
     const bool isStrict = at.beam.seismicClass <= 2;
     const int thinnest = isStrict ? 14 : 12;
+    if (at.IsMissing(Field::TopBars)) {
+        tell(Field::TopBars, Phrase("Desk", "none; a frame beam has two at least"));
+    }
     for (const Field field : {Field::TopBars, Field::BottomBars}) {
-        if (at.IsMissing(field)) {
-            tell(field, Phrase("Desk", "none; a frame beam has two at least"));
-        }
         if (!at.Looks(field) || !at.BarsOf(field)) {
             continue;
         }

@@ -1,6 +1,8 @@
 #include "desk/drawing/Drawing.h"
 
 #include <algorithm>
+#include <iostream>
+#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -211,9 +213,24 @@ Opened OpenFile(const std::filesystem::path& file)
     return {std::move(project), std::move(drawing)};
 }
 
-Project OpenProject(const std::string& file)
+Opened OpenInput(const std::string& file)
 {
-    return file.empty() ? SampleProject() : OpenFile(file).project;
+    if (file.empty()) {
+        return {SampleProject(), std::nullopt};
+    }
+    if (file != "-") {
+        return OpenFile(file);
+    }
+    const std::string name = "standard input";
+    std::string bytes(std::istreambuf_iterator<char>(std::cin), {});
+    if (!IsDrawing(bytes)) {
+        return {ParseProject(bytes, name), std::nullopt};
+    }
+    Drawing drawing = Drawing::Parse(std::move(bytes), name);
+    Project project = drawing.Get();
+    return {std::move(project), std::move(drawing)};
 }
+
+Project OpenProject(const std::string& file) { return OpenInput(file).project; }
 
 }  // namespace Desk
