@@ -7,6 +7,7 @@
 #include <tuple>
 #include <utility>
 
+#include "desk/checks/Lengths.h"
 #include "desk/checks/Station.h"
 #include "desk/reading/BeamName.h"
 
@@ -17,22 +18,6 @@ namespace {
 constexpr double StockLength = 9000.0;  // mm; longer bars are lapped
 constexpr double LapFactor = 1.4;       // of the anchorage: half of the bars lapped at one place, 8.4.4
 constexpr double FirstStirrup = 50.0;   // mm from the support
-
-// Design strength of the grades A to D, and tensile strength of concrete, in N/mm²: GB 50010-2010 (2015),
-// tables 4.2.3-1 and 4.1.4-2. Concrete over C60 anchors like C60.
-constexpr double StrengthOfSteel[] = {270.0, 300.0, 360.0, 435.0};
-constexpr std::pair<int, double> StrengthOfConcrete[] = {{15, 0.91}, {20, 1.10}, {25, 1.27}, {30, 1.43},
-                                                         {35, 1.57}, {40, 1.71}, {45, 1.80}, {50, 1.89},
-                                                         {55, 1.96}, {60, 2.04}};
-
-double TensileStrength(int concreteGrade)
-{
-    double strength = StrengthOfConcrete[0].second;
-    for (const auto& [grade, tensile] : StrengthOfConcrete) {
-        strength = grade <= concreteGrade ? tensile : strength;
-    }
-    return strength;
-}
 
 struct BarKind {
     char grade = 'B';
@@ -48,25 +33,12 @@ std::map<BarKind, int> CountsOf(const Bars& bars)
     return counts;
 }
 
-// The lengths of a beam's spans in mm; those of a beam without are of one length.
-std::vector<double> SpansOf(const Beam& beam)
-{
-    if (!beam.spans.empty()) {
-        return beam.spans;
-    }
-    const double length = std::hypot(beam.end.x - beam.start.x, beam.end.y - beam.start.y);
-    const BeamName name = ReadName(beam.name).value_or(BeamName());
-    const int cantilevers = name.cantilever == 'B' ? 2 : name.cantilever == 'A' ? 1 : 0;
-    const int count = std::max(1, name.spans) + (name.spans > 0 ? cantilevers : 0);
-    return std::vector<double>(static_cast<std::size_t>(count), length / count);
-}
-
 // Counts one beam.
 class Count {
 public:
     Count(const Beam& beam, std::size_t index)
         : m_beam(beam), m_index(index), m_kind(KindOf(beam.name)), m_spans(SpansOf(beam)),
-          m_isCantilever(ReadName(beam.name).value_or(BeamName()).type == "XL")
+          m_isCantilever(ReadNameInAnyCase(beam.name).value_or(BeamName()).type == "XL")
     {
     }
 
@@ -116,18 +88,9 @@ private:
         return bars ? &*bars : nullptr;
     }
 
-    // GB 50010-2010 (2015), 8.3.1 and 11.1.7, in mm.
     [[nodiscard]] double Anchorage(const BarKind& kind) const
     {
-        constexpr double Plain = 0.16;
-        constexpr double Ribbed = 0.14;
-        const double seismic = m_kind == BeamKind::Other  ? 1.0
-                               : m_beam.seismicClass <= 2 ? 1.15
-                               : m_beam.seismicClass == 3 ? 1.05
-                                                          : 1.0;
-        const double steel = StrengthOfSteel[static_cast<std::size_t>(std::clamp(kind.grade - 'A', 0, 3))];
-        return seismic * (kind.grade == 'A' ? Plain : Ribbed) * steel /
-               TensileStrength(m_beam.concreteGrade) * kind.diameter;
+        return AnchorageOf(kind.grade, kind.diameter, m_kind, m_beam);
     }
 
     // So many bars of a length in mm, with their laps.
@@ -176,7 +139,7 @@ private:
             return;
         }
         const double width = at.section->width;
-        const double height = HeightOf(*at.section);
+        const double height = MeanHeight(*at.section);
         m_all.concrete += width * height * span / 1e9;
         m_all.formwork += (width + 2.0 * height) * span / 1e6;
         if (at.stirrup) {
@@ -187,26 +150,6 @@ private:
         }
     }
 
-    [[nodiscard]] static double HeightOf(const Section& section)
-    {
-        return section.otherHeight > 0 ? (section.height + section.otherHeight) / 2.0 : section.height;
-    }
-
-    // One stirrup in mm: a closed one around all bars, for every two legs more a closed one inside it, for
-    // an odd leg a tie; each with two hooks of 10 d, 75 mm at least, and their bends.
-    [[nodiscard]] double StirrupLength(const Section& section, int diameter, int legs) const
-    {
-        const double cover = CoverOf(m_beam.concreteGrade);
-        const double width = section.width - 2.0 * cover;
-        const double height = HeightOf(section) - 2.0 * cover;
-        const double hooks = 2.0 * (std::max(10.0 * diameter, 75.0) + 1.9 * diameter);
-        double length = 2.0 * (width + height) + hooks;
-        for (int more = legs - 2; more > 0; more -= 2) {
-            length += more == 1 ? height + hooks : 2.0 * (width / (legs - 1) + height) + hooks;
-        }
-        return length;
-    }
-
     void CountStirrups(const Station& at, const Stirrup& stirrup, double span)
     {
         const int legs = std::max(2, stirrup.legs);
@@ -215,23 +158,23 @@ private:
         const double within = span - 2.0 * FirstStirrup;
         double zone = 0.0;
         if (stirrup.tightSpacing > 0) {
-            zone = std::max((m_beam.seismicClass == 1 ? 2.0 : 1.5) * HeightOf(*at.section), 500.0);
+            zone = std::max((m_beam.seismicClass == 1 ? 2.0 : 1.5) * MeanHeight(*at.section), 500.0);
         }
         if (stirrup.tightSpacing > 0 && 2.0 * zone >= span) {
             Add(BarUse::Stirrup, kind, std::ceil(std::max(0.0, within) / stirrup.tightSpacing) + 1.0,
-                StirrupLength(*at.section, stirrup.diameter, tightLegs));
+                StirrupLength(*at.section, m_beam.concreteGrade, stirrup.diameter, tightLegs));
             return;
         }
         if (zone > 0.0) {
             Add(BarUse::Stirrup, kind,
                 2.0 * (std::ceil((zone - FirstStirrup) / stirrup.tightSpacing) + 1.0),
-                StirrupLength(*at.section, stirrup.diameter, tightLegs));
+                StirrupLength(*at.section, m_beam.concreteGrade, stirrup.diameter, tightLegs));
             Add(BarUse::Stirrup, kind,
                 std::max(0.0, std::ceil((span - 2.0 * zone) / stirrup.spacing) - 1.0),
-                StirrupLength(*at.section, stirrup.diameter, legs));
+                StirrupLength(*at.section, m_beam.concreteGrade, stirrup.diameter, legs));
         } else {
             Add(BarUse::Stirrup, kind, std::ceil(std::max(0.0, within) / stirrup.spacing) + 1.0,
-                StirrupLength(*at.section, stirrup.diameter, legs));
+                StirrupLength(*at.section, m_beam.concreteGrade, stirrup.diameter, legs));
         }
     }
 

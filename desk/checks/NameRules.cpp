@@ -57,7 +57,7 @@ Message Serials(const std::string& type, int from, int to)
 
 NameParts PartsOf(const std::string& name)
 {
-    const std::optional<BeamName> read = ReadName(name);
+    const std::optional<BeamName> read = ReadNameInAnyCase(name);
     return read ? NameParts{read->type, read->serial, read->letter, true} : NameParts();
 }
 

@@ -88,9 +88,11 @@ Station AtSupport(const Beam& beam, BeamKind kind, const InPlace& text)
 
 BeamKind KindOf(const std::string& name)
 {
-    const std::string type = ReadName(name).value_or(BeamName()).type;
-    const std::string plain = type.substr(type.rfind('-') + 1);
-    if (plain.ends_with("KL") || plain == "KZL" || plain == "LLk" || plain == "LLK") {
+    const std::string type = ReadNameInAnyCase(name).value_or(BeamName()).type;
+    std::string plain = type.substr(type.rfind('-') + 1);
+    std::transform(plain.begin(), plain.end(), plain.begin(),
+                   [](char ch) { return ch >= 'a' && ch <= 'z' ? static_cast<char>(ch - 'a' + 'A') : ch; });
+    if (plain.ends_with("KL") || plain == "KZL" || plain == "LLK") {
         return BeamKind::Frame;
     }
     return plain == "LL" ? BeamKind::Coupling : BeamKind::Other;

@@ -15,8 +15,8 @@
 
 namespace Desk {
 
-// Which rules of the code a beam goes by; its type tells: KL, WKL and KZL are frame beams, LL coupling
-// beams of walls.
+// Which rules of the code a beam goes by; its type tells: KL, WKL, KZL and LLk are frame beams, LL
+// coupling beams of walls.
 enum class BeamKind { Frame, Coupling, Other };
 [[nodiscard]] BeamKind KindOf(const std::string& name);
 

@@ -29,7 +29,7 @@ bool IsOfField(std::string_view text, Field field)
         return true;
     }
     switch (row.ranker) {
-    case Ranker::Names: return ReadName(text).has_value();
+    case Ranker::Names: return ReadNameInAnyCase(text).has_value();
     case Ranker::Sections: return ReadSection(text).has_value();
     case Ranker::Elevations: return ReadElevation(text).has_value();
     case Ranker::Stirrups: return ReadStirrup(text).has_value();
