@@ -56,7 +56,7 @@ std::vector<Message> HowCounted()
         Phrase("Desk", "Inner supports of a beam without texts in place have the stronger of its end "
                        "bars."),
         Phrase("Desk", "Erection bars a third of the span and 150 mm at either end."),
-        Phrase("Desk", "Stirrups from 50 mm off the axes, dense over 1.5 h (class 1: 2 h), 500 mm at "
+        Phrase("Desk", "Stirrups from 50 mm off the axes, tight over 1.5 h (class 1: 2 h), 500 mm at "
                        "least; cover as the code's environment class 1, hooks 10 d."),
         Phrase("Desk", "Concrete and formwork of the whole section, slabs and crossings not taken off; "
                        "haunches, ties of side bars and walls are not counted."),

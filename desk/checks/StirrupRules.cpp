@@ -37,8 +37,8 @@ int MostByDepth(int height)
     return height <= 150 ? 0 : height <= 300 ? 150 : height <= 500 ? 200 : height <= 800 ? 250 : 300;
 }
 
-// The same, table 11.3.6-2: the dense zone of a frame beam.
-int MostInDenseZone(const Station& at)
+// The same, table 11.3.6-2: the tight zone of a frame beam.
+int MostInTightZone(const Station& at)
 {
     const int seismicClass = at.beam.seismicClass;
     int most = seismicClass <= 2 ? 100 : 150;
@@ -60,7 +60,7 @@ void TellOver(int spacing, int most, const Phrase& phrase, const Tell& tell)
 
 }  // namespace
 
-// GB 50010-2010 (2015), 9.2.9 by the depth of the beam; frame beams by 11.3.6 in the dense zone and 11.3.9
+// GB 50010-2010 (2015), 9.2.9 by the depth of the beam; frame beams by 11.3.6 in the tight zone and 11.3.9
 // outside it, coupling beams by 11.3.6 all along, as 11.7.11 asks.
 void CheckStirrupSpacing(const Station& at, const Tell& tell)
 {
@@ -70,22 +70,22 @@ void CheckStirrupSpacing(const Station& at, const Tell& tell)
     const Stirrup& stirrup = *at.stirrup;
     const int byDepth = MostByDepth(HeightOf(at));
     const int widest = std::max(stirrup.spacing, stirrup.tightSpacing);
-    const Phrase anywhere("Desk", "spacing %1 mm, at most %2 mm at this depth");
+    const Phrase anywhere = Phrase("Desk", "spacing %1 mm, at most %2 mm at this depth");
     if (!IsSeismic(at)) {
         TellOver(widest, byDepth, anywhere, tell);
         return;
     }
     const bool hasZone = stirrup.tightSpacing > 0 && at.kind == BeamKind::Frame;
-    const int dense = hasZone ? stirrup.tightSpacing : widest;
-    const int mostDense = MostInDenseZone(at);
-    const Phrase inZone = hasZone ? Phrase("Desk", "spacing %1 mm in the dense zone, at most %2 mm")
+    const int tight = hasZone ? stirrup.tightSpacing : widest;
+    const int mostTight = MostInTightZone(at);
+    const Phrase inZone = hasZone ? Phrase("Desk", "spacing %1 mm in the tight zone, at most %2 mm")
                                   : Phrase("Desk", "spacing %1 mm at the ends, at most %2 mm");
-    TellOver(dense, mostDense, inZone, tell);
-    if (hasZone && dense <= mostDense) {
-        TellOver(stirrup.spacing, 2 * dense,
-                 Phrase("Desk", "spacing %1 mm, at most twice the dense one: %2 mm"), tell);
+    TellOver(tight, mostTight, inZone, tell);
+    if (hasZone && tight <= mostTight) {
+        TellOver(stirrup.spacing, 2 * tight,
+                 Phrase("Desk", "spacing %1 mm, at most twice the tight one: %2 mm"), tell);
     }
-    if (hasZone && stirrup.spacing <= 2 * dense) {
+    if (hasZone && stirrup.spacing <= 2 * tight) {
         TellOver(stirrup.spacing, byDepth, anywhere, tell);
     }
 }
@@ -109,7 +109,7 @@ void CheckStirrupDiameter(const Station& at, const Tell& tell)
     }
 }
 
-// GB 50010-2010 (2015), 11.3.8: legs in the dense zone of frame and coupling beams are at most 200, 250 or
+// GB 50010-2010 (2015), 11.3.8: legs in the tight zone of frame and coupling beams are at most 200, 250 or
 // 300 mm or 20 stirrup diameters apart, by seismic class; measured clear between the legs. Other beams
 // wider than 400 mm have more than two legs: rule of practice.
 void CheckStirrupLegs(const Station& at, const Tell& tell)

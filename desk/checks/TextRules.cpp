@@ -11,7 +11,7 @@ namespace {
 
 Message Unreadable(Field field)
 {
-    return {Phrase("Desk", "cannot be read; %1 could"), std::string(ExampleOf(field))};
+    return {Phrase("Desk", "cannot be read; an example: %1"), std::string(ExampleOf(field))};
 }
 
 }  // namespace

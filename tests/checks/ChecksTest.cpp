@@ -15,7 +15,7 @@ namespace {
 using namespace Desk;
 using Json = nlohmann::json;
 
-// A sound frame beam: the stirrups may be 8 x 20 = 160, 600 / 4 = 150, 150 mm apart in the dense zone.
+// A sound frame beam: the stirrups may be 8 x 20 = 160, 600 / 4 = 150, 150 mm apart in the tight zone.
 // Inside them the beam is 300 - 2 x (20 + 8) = 244 mm wide.
 const char* const Sound = R"j({"name": "KL1(2)", "section" : "300x600",
                   "stirrup" : "A8@100/200(2)",
@@ -77,12 +77,12 @@ TEST(Checks, JudgeABeamByTheCode)
         {R"j({"name": "KL1(2)"})j", R"j({"area": {"top": 500}})j", ""},
 
         // Every field by its own grammar; what cannot be read is judged by no other rule.
-        {Sound, R"j({"bottomBars": "A8@100"})j", "bottomBars unreadable: cannot be read; 2B25 could"},
-        {Sound, R"j({"side": "4B12"})j", "side unreadable: cannot be read; G4B12 could"},
+        {Sound, R"j({"bottomBars": "A8@100"})j", "bottomBars unreadable: cannot be read; an example: 2B25"},
+        {Sound, R"j({"side": "4B12"})j", "side unreadable: cannot be read; an example: G4B12"},
         {Sound, R"j({"torsion": "N4B12", "elevation": "-0.100", "side": ""})j", ""},
-        {Sound, R"j({"elevation": "down"})j", "elevation unreadable: cannot be read; -0.050 could"},
+        {Sound, R"j({"elevation": "down"})j", "elevation unreadable: cannot be read; an example: -0.050"},
         {Sound, R"j({"inPlace": [{"role": "stirrup", "span": 2, "text": "2B25"}]})j",
-         "stirrup 2 unreadable: cannot be read; A8@100/200(2) could"},
+         "stirrup 2 unreadable: cannot be read; an example: A8@100/200(2)"},
 
         // 2B25 are 981.7 mm², told as 982.
         {Simple, R"j({"bottomBars": "2B25", "area": {"bottom": 982}})j", ""},
@@ -163,21 +163,21 @@ TEST(Checks, JudgeABeamByTheCode)
         // Table 11.3.6-2: 150 mm, h / 4, 8 d; 100 mm in class 2, 6 d in class 1.
         {Sound, R"j({"stirrup": "A8@150/200(2)"})j", ""},
         {Sound, R"j({"stirrup": "A8@155/200(2)"})j",
-         "stirrup stirrup-spacing: spacing 155 mm in the dense zone, at most 150 mm"},
+         "stirrup stirrup-spacing: spacing 155 mm in the tight zone, at most 150 mm"},
         {Sound, R"j({"section": "300x500", "stirrup": "A8@130/200(2)"})j",
-         "stirrup stirrup-spacing: spacing 130 mm in the dense zone, at most 125 mm"},
+         "stirrup stirrup-spacing: spacing 130 mm in the tight zone, at most 125 mm"},
         {Sound, R"j({"bottomBars": "3B14", "stirrup": "A8@115/200(2)"})j",
-         "stirrup stirrup-spacing: spacing 115 mm in the dense zone, at most 112 mm"},
+         "stirrup stirrup-spacing: spacing 115 mm in the tight zone, at most 112 mm"},
         {Sound, R"j({"seismicClass": 2, "stirrup": "A8@110/200(2)"})j",
-         "stirrup stirrup-spacing: spacing 110 mm in the dense zone, at most 100 mm"},
+         "stirrup stirrup-spacing: spacing 110 mm in the tight zone, at most 100 mm"},
         {Sound, R"j({"seismicClass": 1, "section": "240x600", "topBars": "2B16", "bottomBars": "3B16",
                     "leftEnd": "", "rightEnd": "", "stirrup": "A10@100/200(2)"})j",
-         "stirrup stirrup-spacing: spacing 100 mm in the dense zone, at most 96 mm"},
+         "stirrup stirrup-spacing: spacing 100 mm in the tight zone, at most 96 mm"},
         {Sound, R"j({"stirrup": "A8@200(2)"})j",
          "stirrup stirrup-spacing: spacing 200 mm at the ends, at most 150 mm"},
-        // 11.3.9: twice the dense spacing; 9.2.9: 250 mm at 600 mm depth.
+        // 11.3.9: twice the tight spacing; 9.2.9: 250 mm at 600 mm depth.
         {Sound, R"j({"stirrup": "A8@100/210(2)"})j",
-         "stirrup stirrup-spacing: spacing 210 mm, at most twice the dense one: 200 mm"},
+         "stirrup stirrup-spacing: spacing 210 mm, at most twice the tight one: 200 mm"},
         {Sound, R"j({"stirrup": "A8@130/260(2)"})j",
          "stirrup stirrup-spacing: spacing 260 mm, at most 250 mm at this depth"},
         {Coupling, R"j({"stirrup": "A10@100/150(2)"})j",
@@ -195,7 +195,7 @@ TEST(Checks, JudgeABeamByTheCode)
         // The beam's own stirrups where one span is lower: 400 / 4.
         {Sound, R"j({"stirrup": "A8@120/200(2)",
                     "inPlace": [{"role": "section", "span": 2, "text": "300x400"}]})j",
-         "stirrup stirrup-spacing: spacing 120 mm in the dense zone, at most 100 mm"},
+         "stirrup stirrup-spacing: spacing 120 mm in the tight zone, at most 100 mm"},
 
         {Sound, R"j({"stirrup": "A6@100/200(2)"})j", "stirrup stirrup-diameter: 6 mm thick, 8 mm at least"},
         {Sound, R"j({"stirrup": "A6@100/200(2)", "seismicClass": 4})j", ""},
@@ -246,7 +246,7 @@ TEST(Checks, CompareTheNamesOfAFloor)
          "name name-gap: there is no L6 before it\nname name-gap: there is no KL3 before it"},
         {{beam("L1", ""), beam("L4a", "")}, "name name-gap: there are no L2 to L3 before it"},
         {{beam("", "300x600"), beam("", "300x500"), beam("?", "300x500")},
-         "name unreadable: cannot be read; KL1(3) could"},
+         "name unreadable: cannot be read; an example: KL1(3)"},
     };
     for (const NameCase& each : cases) {
         const Project project = ProjectWith(each.beams);
@@ -264,7 +264,7 @@ TEST(Checks, LeaveOutWhatTheProjectSwitchesOff)
         {"beams", {Json{{"name", "KL1"}}, beam}},
         {"walls", {Json{{"name", "?"}, {"verticalBars", "B28"}, {"horizontalBars", "B12 @ 2x"}}}}};
     Project project = ParseProject(source.dump(), "test");
-    const std::string wall = "horizontalBars unreadable: cannot be read; B10@150 could";
+    const std::string wall = "horizontalBars unreadable: cannot be read; an example: B10@150";
     const std::string gap = "name name-gap: there is no KL2 before it\n";
     const std::string end = "leftEnd end-bars: the through bars 2B20 are not among them\n";
     EXPECT_EQ(Told(project, CheckProject(project)), gap + end + wall);

@@ -72,7 +72,7 @@ TEST(Quantities, CountAFrameBeamOfTwoSpansWithTextsInPlace)
     const double laE = 1.05 * 29.371 * 0.020;
     const double through = 2 * (12.0 + 2 * laE + 1.4 * laE);  // lapped once
     const double bottom = 2 * 2 * (6.0 + 2 * laE);
-    // Dense over 1.5 x 600 = 900: 2 x (9 + 1) and (6000 - 1800) / 200 - 1 = 20. Each 2 x (310 + 560) +
+    // Tight over 1.5 x 600 = 900: 2 x (9 + 1) and (6000 - 1800) / 200 - 1 = 20. Each 2 x (310 + 560) +
     // 190.4 and, for the inner legs, 2 x (310 / 3 + 560) + 190.4.
     const double stirrups = 2 * 40 * (1.9304 + 1.51707);
     ExpectLengths(QuantitiesOf(OneBeam(beam)),
