@@ -4,7 +4,7 @@ _beamdesk() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]-}
   local words=
   case $previous in
-    --project | --output | -o | --report | --script | --csv)
+    --project | --output | -o | --report | --script | --csv | --pdf)
       mapfile -t COMPREPLY < <(compgen -f -- "$current")
       return
       ;;
@@ -23,7 +23,7 @@ _beamdesk() {
       labels) words="--json" ;;
       export) words="--output --scale --force" ;;
       check) words="--project --off --rules --json" ;;
-      quantities) words="--project --csv --json" ;;
+      quantities) words="--project --csv --pdf --json" ;;
       hitrate) words="--project --json" ;;
       panel | events) words="name section elevation stirrup bars hbars vbars --do --script --to --text --kind --quiet --ids
                              --json" ;;

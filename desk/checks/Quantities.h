@@ -52,12 +52,19 @@ struct Quantities {
 [[nodiscard]] Quantities QuantitiesOf(const Project& project, std::size_t beam);
 [[nodiscard]] Quantities QuantitiesOf(const Project& project);
 
-// How it was counted, a sentence each, to stand under every list.
-[[nodiscard]] std::vector<Message> HowCounted();
+using Translate = std::function<std::string(const Phrase&)>;
 
-// The list as comma-separated values in UTF-8 with a byte order mark, which spreadsheets look for. Headings
-// in the language of translate, English without.
-[[nodiscard]] std::string QuantitiesCsv(const Quantities& quantities,
-                                        const std::function<std::string(const Phrase&)>& translate = {});
+// The list as a person reads it, in the language of translate; English without.
+struct QuantityTable {
+    using Row = std::vector<std::string>;
+
+    std::vector<Row> bars;           // the first row is the headings
+    std::vector<Row> sums;           // what, and how much
+    std::vector<std::string> notes;  // how it was counted, a sentence each, to stand under every list
+};
+[[nodiscard]] QuantityTable TableOf(const Quantities& quantities, const Translate& translate = {});
+
+// The same as comma-separated values in UTF-8 with a byte order mark, which spreadsheets look for.
+[[nodiscard]] std::string CsvOf(const QuantityTable& table);
 
 }  // namespace Desk

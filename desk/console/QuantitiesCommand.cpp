@@ -16,6 +16,7 @@
 #include "desk/console/Options.h"
 #include "desk/console/Print.h"
 #include "desk/drawing/Drawing.h"
+#include "desk/plan/PlanFile.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/project/SafeFile.h"
 
@@ -28,6 +29,7 @@ using Json = nlohmann::ordered_json;
 struct QuantitiesOptions {
     std::string project;
     std::string csv;
+    std::string pdf;
     bool json = false;
 };
 
@@ -106,25 +108,39 @@ void PrintQuantities(const std::string& title, const Project& project, const Qua
         PrintRows(rows, out);
     }
     out << '\n';
-    for (const Message& sentence : HowCounted()) {
-        out << sentence.English() << '\n';
+    for (const std::string& note : TableOf(all).notes) {
+        out << note << '\n';
+    }
+}
+
+void Write(const QuantitiesOptions& options, const std::string& title, const Quantities& all)
+{
+    const QuantityTable table = TableOf(all);
+    if (!options.csv.empty()) {
+        ReplaceFile(options.csv, CsvOf(table));
+    }
+    if (!options.pdf.empty()) {
+        WriteTables(title, {table.bars, table.sums}, table.notes, options.pdf);
     }
 }
 
 void RunQuantities(const QuantitiesOptions& options, std::ostream& out)
 {
     const Project project = OpenProject(options.project);
+    const std::string title = TitleOf(project, options.project);
     const Quantities all = QuantitiesOf(project);
-    if (!options.csv.empty()) {
-        ReplaceFile(options.csv, QuantitiesCsv(all));
-    }
+    Write(options, title, all);
     if (options.json) {
         PrintQuantitiesJson(project, all, out);
-    } else if (!options.csv.empty()) {
-        out << "written to " << options.csv << ": " << Plural(all.bars.size(), "kind") << " of bars, "
-            << Number(all.Mass(), 1) << " kg\n";
-    } else {
-        PrintQuantities(TitleOf(project, options.project), project, all, out);
+        return;
+    }
+    for (const std::string& file : {options.csv, options.pdf}) {
+        if (!file.empty()) {
+            out << "written to " << file << '\n';
+        }
+    }
+    if (options.csv.empty() && options.pdf.empty()) {
+        PrintQuantities(title, project, all, out);
     }
 }
 
@@ -138,6 +154,7 @@ void AddQuantitiesCommand(CLI::App& program, std::ostream& out)
     AddProjectOption(*command, options->project);
     command->add_option("--csv", options->csv, "Write the list to this file, for spreadsheets")
         ->type_name("FILE");
+    command->add_option("--pdf", options->pdf, "Write the list to this file as PDF")->type_name("FILE");
     command->add_flag("--json", options->json, "Print JSON for programs");
     command->footer(
         "Bars by grade and diameter from the annotations and the spans, with anchorage and laps. An\n"

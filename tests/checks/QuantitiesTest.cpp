@@ -128,9 +128,9 @@ TEST(Quantities, AddUpAndAreWrittenAsATable)
     EXPECT_GT(all.Mass() / all.concrete, 100.0);
     EXPECT_LT(all.Mass() / all.concrete, 200.0);
     EXPECT_TRUE(all.uncounted.empty());
-    const std::string csv = QuantitiesCsv(all, [](const Phrase& phrase) {
+    const std::string csv = CsvOf(TableOf(all, [](const Phrase& phrase) {
         return std::string(phrase.english) == "Grade" ? "a \"b\", c" : phrase.english;
-    });
+    }));
     EXPECT_TRUE(csv.starts_with("\xEF\xBB\xBF\"a \"\"b\"\", c\",\"Diameter, mm\",")) << csv.substr(0, 80);
 }
 

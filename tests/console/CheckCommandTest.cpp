@@ -71,9 +71,11 @@ TEST_F(CheckCommand, QuantitiesAreTheSameInAllForms)
         mass += bar["mass"].get<double>();
     }
     EXPECT_NEAR(list["steel"].get<double>(), mass, 0.1);
-    EXPECT_TRUE(Run("beamdesk quantities --csv q.csv").out.starts_with("written to q.csv: "));
+    EXPECT_EQ(Run("beamdesk quantities --csv q.csv").out, "written to q.csv\n");
     const std::string csv = ContentOf(m_folder / "q.csv");
     EXPECT_NE(csv.find("\r\nB,25,"), std::string::npos) << csv;
+    EXPECT_EQ(Run("beamdesk quantities --pdf q.pdf").out, "written to q.pdf\n");
+    EXPECT_TRUE(ContentOf(m_folder / "q.pdf").starts_with("%PDF"));
     const Answer failed = Run("beamdesk quantities --csv absent/q.csv");
     EXPECT_EQ(failed.status, 2);
     EXPECT_EQ(failed.out.find("written"), std::string::npos) << failed.out;

@@ -1,4 +1,5 @@
-// A quantity list as a table for spreadsheets, and what is said under it.
+// A quantity list as a table for people and spreadsheets, and what is said under it.
+#include <array>
 #include <charconv>
 
 #include "desk/checks/Quantities.h"
@@ -6,8 +7,6 @@
 namespace Desk {
 
 namespace {
-
-using Translate = std::function<std::string(const Phrase&)>;
 
 std::string Number(double value, int decimals)
 {
@@ -31,7 +30,7 @@ std::string Cell(const std::string& text)
     return quoted + "\"";
 }
 
-void AddRow(std::string& csv, const std::vector<std::string>& cells)
+void AddRow(std::string& csv, const QuantityTable::Row& cells)
 {
     for (const std::string& cell : cells) {
         csv += &cell == &cells.front() ? "" : ",";
@@ -39,8 +38,6 @@ void AddRow(std::string& csv, const std::vector<std::string>& cells)
     }
     csv += "\r\n";
 }
-
-}  // namespace
 
 std::vector<Message> HowCounted()
 {
@@ -63,37 +60,54 @@ std::vector<Message> HowCounted()
     };
 }
 
-std::string QuantitiesCsv(const Quantities& quantities, const Translate& translate)
+}  // namespace
+
+QuantityTable TableOf(const Quantities& quantities, const Translate& translate)
 {
     const auto say = [&](const Message& message) {
         return translate ? message.In(translate) : message.English();
     };
-    std::string csv = "\xEF\xBB\xBF";
-    std::vector<std::string> heads = {say(Phrase("Desk", "Grade")), say(Phrase("Desk", "Diameter, mm"))};
+    QuantityTable table;
+    table.bars.push_back({say(Phrase("Desk", "Grade")), say(Phrase("Desk", "Diameter, mm"))});
     for (std::size_t use = 0; use < BarUses; ++use) {
-        heads.push_back(say({Phrase("Desk", "%1, m"), NameOf(static_cast<BarUse>(use))}));
+        table.bars.front().push_back(say({Phrase("Desk", "%1, m"), NameOf(static_cast<BarUse>(use))}));
     }
-    heads.push_back(say(Phrase("Desk", "Length, m")));
-    heads.push_back(say(Phrase("Desk", "Mass, kg")));
-    AddRow(csv, heads);
+    table.bars.front().push_back(say(Phrase("Desk", "Length, m")));
+    table.bars.front().push_back(say(Phrase("Desk", "Mass, kg")));
     for (const BarQuantity& bar : quantities.bars) {
-        std::vector<std::string> row = {std::string(1, bar.grade), std::to_string(bar.diameter)};
+        QuantityTable::Row& row = table.bars.emplace_back();
+        row = {std::string(1, bar.grade), std::to_string(bar.diameter)};
         for (const double length : bar.length) {
             row.push_back(Number(length, 1));
         }
         row.push_back(Number(bar.Length(), 1));
         row.push_back(Number(bar.Mass(), 1));
-        AddRow(csv, row);
     }
-    AddRow(csv, {});
-    AddRow(csv, {say(Phrase("Desk", "Steel, kg")), Number(quantities.Mass(), 1)});
-    AddRow(csv, {say(Phrase("Desk", "Concrete, m³")), Number(quantities.concrete, 2)});
-    AddRow(csv, {say(Phrase("Desk", "Formwork, m²")), Number(quantities.formwork, 1)});
-    AddRow(csv, {say(Phrase("Desk", "Beams")), std::to_string(quantities.beams)});
-    AddRow(csv, {say(Phrase("Desk", "Texts not counted")), std::to_string(quantities.uncounted.size())});
-    AddRow(csv, {});
+    table.sums = {
+        {say(Phrase("Desk", "Steel, kg")), Number(quantities.Mass(), 1)},
+        {say(Phrase("Desk", "Concrete, m³")), Number(quantities.concrete, 2)},
+        {say(Phrase("Desk", "Formwork, m²")), Number(quantities.formwork, 1)},
+        {say(Phrase("Desk", "Beams")), std::to_string(quantities.beams)},
+        {say(Phrase("Desk", "Length, m")), Number(quantities.beamLength, 1)},
+        {say(Phrase("Desk", "Texts not counted")), std::to_string(quantities.uncounted.size())},
+    };
     for (const Message& sentence : HowCounted()) {
-        AddRow(csv, {say(sentence)});
+        table.notes.push_back(say(sentence));
+    }
+    return table;
+}
+
+std::string CsvOf(const QuantityTable& table)
+{
+    std::string csv = "\xEF\xBB\xBF";
+    for (const std::vector<QuantityTable::Row>* const rows : {&table.bars, &table.sums}) {
+        for (const QuantityTable::Row& row : *rows) {
+            AddRow(csv, row);
+        }
+        AddRow(csv, {});
+    }
+    for (const std::string& note : table.notes) {
+        AddRow(csv, {note});
     }
     return csv;
 }
