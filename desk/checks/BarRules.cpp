@@ -58,7 +58,7 @@ void CheckRow(const std::vector<int>& row, double inner, double clear, Field fie
     const double gaps = static_cast<double>(row.size()) - 1.0;
     const double left = inner - std::accumulate(row.begin(), row.end(), 0);
     if (gaps >= 1.0 && left < gaps * clear) {
-        tell(field, {Phrase("Desk", "%1 bars in a row leave %2 mm clear between them, required are %3 mm"),
+        tell(field, {Phrase("Desk", "%1 bars in a row leave %2 mm clear between them, %3 mm required"),
                      std::to_string(row.size()), Mm(std::floor(left / gaps)), Mm(std::ceil(clear))});
     }
 }
@@ -76,16 +76,15 @@ void CheckSteelArea(const Station& at, const Tell& tell)
         }
         const bool isThrough = IsEnd(field) && at.IsMissing(field);
         if (at.IsMissing(field) && !isThrough) {
-            tell(field, {Phrase("Desk", "none, required are %1 mm²"), std::to_string(required)});
+            tell(field, {Phrase("Desk", "none, %1 mm² required"), std::to_string(required)});
             continue;
         }
         const std::optional<Bars>& bars = at.BarsOf(isThrough ? Field::TopBars : field);
         if (!bars || std::lround(bars->Area()) >= required) {
             continue;
         }
-        const Phrase phrase = isThrough
-                                  ? Phrase("Desk", "the through bars have %1 mm², required are %2 mm²")
-                                  : Phrase("Desk", "%1 mm², required are %2 mm²");
+        const Phrase phrase = isThrough ? Phrase("Desk", "the through bars have %1 mm², %2 mm² required")
+                                        : Phrase("Desk", "%1 mm², %2 mm² required");
         tell(field, {phrase, Mm(bars->Area()), std::to_string(required)});
     }
 }

@@ -29,7 +29,7 @@ struct Problem {
     FieldRef at;       // the annotation to mend
     const Rule* rule;  // one of AllRules()
     std::string text;  // as it is now, UTF-8; empty where one is missing
-    Message message;   // "982 mm², required 1105 mm²"
+    Message message;   // "982 mm², 1105 mm² required"
 };
 
 // Problems that a beam or a wall has by itself; beams that are named alike and gaps are a project's. Rules

@@ -61,8 +61,8 @@ NameParts PartsOf(const std::string& name)
     return read ? NameParts{read->type, read->serial, read->letter, true} : NameParts();
 }
 
-// One name on one floor is one kind of beam: 16G101-1, 4.2.2 writes its texts once. On a drawing with
-// several floors side by side each plan is a floor.
+// One name on one floor is one kind of beam: rule of practice. On a drawing with several floors side by
+// side each plan is a floor.
 void CheckNamesTwice(const Project& project, const std::vector<NameParts>& names, const TellAt& tell)
 {
     using Key = std::tuple<std::string_view, int, std::string_view, int, char>;

@@ -110,8 +110,8 @@ void CheckStirrupDiameter(const Station& at, const Tell& tell)
 }
 
 // GB 50010-2010 (2015), 11.3.8: legs in the tight zone of frame and coupling beams are at most 200, 250 or
-// 300 mm or 20 stirrup diameters apart, by seismic class; measured clear between the legs. Other beams
-// wider than 400 mm have more than two legs: rule of practice.
+// 300 mm or 20 stirrup diameters apart, by seismic class, and never over 300 mm; measured clear between the
+// legs. Other beams wider than 400 mm have more than two legs: rule of practice.
 void CheckStirrupLegs(const Station& at, const Tell& tell)
 {
     if (!at.Looks(Field::Stirrup) || !at.stirrup) {
@@ -136,7 +136,7 @@ void CheckStirrupLegs(const Station& at, const Tell& tell)
     }
     constexpr int BySeismicClass[] = {200, 250, 250, 300};
     const auto seismicClass = static_cast<std::size_t>(std::clamp(at.beam.seismicClass, 1, 4));
-    const int most = std::max(BySeismicClass[seismicClass - 1], 20 * stirrup.diameter);
+    const int most = std::min(300, std::max(BySeismicClass[seismicClass - 1], 20 * stirrup.diameter));
     const int between = width - 2 * CoverOf(at.beam.concreteGrade) - legs * stirrup.diameter;
     if (legs == 1 || between > most * (legs - 1)) {
         tell(Field::Stirrup,

@@ -580,19 +580,19 @@
         <translation>保存工程或图纸</translation>
     </message>
     <message>
-        <source>%1 bars in a row leave %2 mm clear between them, required are %3 mm</source>
+        <source>%1 bars in a row leave %2 mm clear between them, %3 mm required</source>
         <translation>一排%1根，净距%2 mm，要求不小于%3 mm</translation>
     </message>
     <message>
-        <source>none, required are %1 mm²</source>
+        <source>none, %1 mm² required</source>
         <translation>未配筋，需要%1 mm²</translation>
     </message>
     <message>
-        <source>the through bars have %1 mm², required are %2 mm²</source>
+        <source>the through bars have %1 mm², %2 mm² required</source>
         <translation>仅有通长筋%1 mm²，需要%2 mm²</translation>
     </message>
     <message>
-        <source>%1 mm², required are %2 mm²</source>
+        <source>%1 mm², %2 mm² required</source>
         <translation>实配%1 mm²，需要%2 mm²</translation>
     </message>
     <message>

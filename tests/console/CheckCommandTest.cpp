@@ -38,14 +38,15 @@ TEST_F(CheckCommand, ListsProblemsAndTellsThemByItsStatus)
     const Answer faulty = Run("beamdesk check --project - --json < f.json");
     EXPECT_EQ(faulty.status, 1);
     std::string told;
-    for (const auto& problem : nlohmann::json::parse(faulty.out)["problems"]) {
+    const auto answer = nlohmann::json::parse(faulty.out);
+    for (const auto& problem : answer["problems"]) {
         for (const char* const key : {"beam", "field", "rule", "text", "message"}) {
             told += problem[key].get<std::string>() + (key == std::string("message") ? "\n" : "|");
         }
     }
     EXPECT_EQ(told, "KL1(2)|stirrup|stirrup-legs|A8@100/200(2)|2 legs are 294 mm apart, at most 250 mm\n"
                     "KL1(2)|bottom 2|bar-spacing|8B25|8 bars in a row leave 13 mm clear between them, "
-                    "required are 25 mm\n"
+                    "25 mm required\n"
                     "KL3(1)|name|name-gap|KL3(1)|there is no KL2 before it\n"
                     "KL3(1)|section|unreadable|300x6O0|cannot be read; an example: 300x600\n"
                     "Q1|verticalBars|unreadable|?|cannot be read; an example: B10@150\n");
@@ -61,6 +62,24 @@ TEST_F(CheckCommand, ListsProblemsAndTellsThemByItsStatus)
         const std::string key = rule["rule"];
         EXPECT_NE(ContentOf(SOURCE_FOLDER "/docs/checks.md").find("| `" + key + "` |"), std::string::npos);
     }
+}
+
+// The width comes with the drawing, the switches with its companion, also after a change.
+TEST_F(CheckCommand, KnowsTheOutlinesOfADrawing)
+{
+    EXPECT_EQ(Run("beamdesk export -o f.dxf && beamdesk check --project f.dxf").status, 0);
+    const Answer found =
+        Run("beamdesk set --project f.dxf --beam L1 section 300x600; beamdesk check --project f.dxf");
+    EXPECT_NE(found.out.find("  L1(1)  section  300x600  section-width  drawn 250 mm wide\n"),
+              std::string::npos)
+        << found.out;
+    EXPECT_EQ(
+        Run("beamdesk import f.dxf -o f.json --force >/dev/null; beamdesk check --project f.json").status,
+        1);
+    const Answer off =
+        Run(R"(sed -i 's/"version": 1,/"version": 1, "checksOff": ["section-width"],/' f.beamdesk.json
+        beamdesk set --project f.dxf --beam L2 section 300x600; beamdesk check --project f.dxf)");
+    EXPECT_EQ(off.status, 0) << off.out;
 }
 
 TEST_F(CheckCommand, QuantitiesAreTheSameInAllForms)
