@@ -70,8 +70,8 @@ void PlaceOnPlan(const Beam& beam, Traits& traits)
     const std::int64_t dx = std::abs(rounded(beam.start.x) - rounded(beam.end.x));
     const std::int64_t dy = std::abs(rounded(beam.start.y) - rounded(beam.end.y));
     traits.direction = dx > dy ? 1 : dx < dy ? 2 : dx > 0 ? 3 : 0;
-    traits.along = static_cast<int>(traits.direction == 2 ? y : x);
-    traits.across = static_cast<int>(traits.direction == 2 ? x : y);
+    traits.x = static_cast<int>(x);
+    traits.y = static_cast<int>(y);
 }
 
 // A text that stands to be proposed, by votes.
@@ -104,6 +104,7 @@ struct Proposer::Kept {
     [[nodiscard]] std::vector<Voted> VotesFor(const FieldRef& ref, int end, std::int64_t& all) const;
     template <class Visit>
     void Walk(const FieldRef& ref, int end, Visit visit) const;
+    [[nodiscard]] std::size_t PlaceOfReadable(const FieldRef& ref, int end, int text) const;
     [[nodiscard]] std::string Called(int beam) const
     {
         return project.beams[static_cast<std::size_t>(beam)].name;
@@ -252,6 +253,27 @@ void Proposer::Kept::Walk(const FieldRef& ref, int end, Visit visit) const
     }
 }
 
+// Where Walk visits a readable text, without the walk.
+std::size_t Proposer::Kept::PlaceOfReadable(const FieldRef& ref, int end, int text) const
+{
+    std::int64_t all = 0;
+    std::size_t place = 0;
+    const std::vector<Voted> voted = VotesFor(ref, end, all);
+    const TextPool& pool = pools[At(PoolOf(FieldOf(ref)))];
+    for (const Voted& each : voted) {
+        place += pool.IsReadable(each.text) ? 1U : 0U;
+        if (each.text == text) {
+            return place;
+        }
+    }
+    const UsesKnown uses = UsesFor(ref, end);
+    const TextUse use = pool.UseOf(text, uses);
+    for (const Voted& each : voted) {
+        place -= pool.IsReadable(each.text) && pool.IsBefore(each.text, each.use, text, use) ? 1U : 0U;
+    }
+    return place + pool.CountBefore(text, uses) + 1;
+}
+
 Message Proposer::Kept::ReasonFor(const FieldRef& ref, int end, const Voter& best, KnownTraits known) const
 {
     const Message shared = likeness.Shared(static_cast<int>(ref.index), end, known, best.beam);
@@ -323,6 +345,9 @@ std::size_t Proposer::PlaceOf(const FieldRef& ref, Known known) const
     const int text = pool.Of(static_cast<int>(ref.index))[uses.ofBeam];
     if (pool.UseOf(text, uses).uses == 0) {
         return 0;
+    }
+    if (pool.IsReadable(text)) {
+        return m_kept->PlaceOfReadable(ref, end, text);
     }
     m_kept->Walk(ref, end, [&](const Voted& voted, std::int64_t) {
         ++place;
