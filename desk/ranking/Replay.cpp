@@ -1,11 +1,10 @@
 // Each text is asked for by a run of its own, on as few texts as give its place.
 #include "desk/ranking/Replay.h"
 
-#include <algorithm>
+#include <deque>
 #include <map>
 #include <optional>
 #include <set>
-#include <tuple>
 #include <utility>
 
 #include "desk/ranking/Question.h"
@@ -138,124 +137,118 @@ private:
     std::map<int, std::size_t> m_places;
 };
 
-class KindReplay {
-public:
-    KindReplay(const Project& project, const Proposer& proposer, const ListKind& kind, Known known)
-        : m_project(project), m_proposer(proposer), m_kind(kind), m_known(known), m_tally{kind.name, {}}
-    {
-    }
-
-    KindTally Run()
-    {
-        const bool isBefore = m_known == Known::Before;
-        ForEachUse([&](const FieldRef& ref) {
-            if (isBefore) {
-                Ask(ref, m_uses.contains(TextAt(m_project, ref)), std::nullopt);
-            }
-            Enter(ref);
-        });
-        for (const Use& use : m_hidden) {
-            Ask(use.ref, m_uses[TextAt(m_project, use.ref)] > 1, use.index);
-        }
-        return m_tally;
-    }
-
-private:
-    // With the index among the uses of the pool that it is asked for in.
-    struct Use {
-        FieldRef ref;
-        std::size_t index = 0;
-    };
-
-    template <class Visit>
-    void ForEachUse(Visit visit)
-    {
-        for (std::size_t i = 0; i < m_project.beams.size(); ++i) {
-            for (const FieldRef& ref : RefsOf(m_project, {false, i})) {
-                const auto& fields = m_kind.fields;
-                if (std::find(fields.begin(), fields.end(), ref.field) != fields.end() &&
-                    !TextAt(m_project, ref).empty()) {
-                    visit(ref);
-                }
-            }
-        }
-    }
+struct KindReplay {
+    explicit KindReplay(const ListKind& kind) : tally{kind.name, {}} {}
 
     Pool& PoolFor(const Question& question)
     {
-        return m_pools.try_emplace(question.barKind, question).first->second;
+        return pools.try_emplace(question.barKind, question).first->second;
     }
 
-    // A text is looked for among those of its kind text. The ranker gets it under that of its field too,
-    // whatever through bars it lies on.
-    void Enter(const FieldRef& ref)
+    KindTally tally;
+    std::map<std::string, Pool> pools;  // by the kind text of the bar ranker
+    std::map<std::string, int> uses;    // of each text, as it is written
+};
+
+class Replay {
+public:
+    Replay(const Project& project, Known known) : m_project(project), m_proposer(project), m_known(known)
+    {
+        for (const ListKind& kind : ListKinds()) {
+            for (const Field field : kind.fields) {
+                m_kindOf[field] = m_kinds.size();
+            }
+            m_kinds.emplace_back(kind);
+        }
+    }
+
+    std::vector<KindTally> Run()
+    {
+        // By beams, as one enters them: the proposer keeps what the fields of a beam have in common.
+        for (std::size_t i = 0; i < m_project.beams.size(); ++i) {
+            for (const FieldRef& ref : RefsOf(m_project, {false, i})) {
+                if (TextAt(m_project, ref).empty()) {
+                    continue;
+                }
+                if (m_known == Known::Before || ref.field == Field::Name) {
+                    Ask(ref, std::nullopt);
+                    Enter(ref);
+                } else {
+                    m_hidden.push_back({ref, Enter(ref)});
+                }
+            }
+        }
+        for (const auto& [ref, index] : m_hidden) {
+            Ask(ref, index);
+        }
+        std::vector<KindTally> tallies = {{"all", {}}};
+        for (const KindReplay& kind : m_kinds) {
+            tallies.push_back(kind.tally);
+            for (std::size_t i = 0; i < OrderNames.size() && &kind != &KindOf(Field::Name); ++i) {
+                tallies.front().tallies[i] += kind.tally.tallies[i];
+            }
+        }
+        return tallies;
+    }
+
+private:
+    [[nodiscard]] KindReplay& KindOf(Field field) { return m_kinds[m_kindOf.at(field)]; }
+
+    // The index of the use in the pool that it is asked for in, which is that of its kind text. The ranker
+    // gets it under that of its field too, whatever through bars it lies on.
+    std::size_t Enter(const FieldRef& ref)
     {
         const std::string& text = TextAt(m_project, ref);
-        ++m_uses[text];
-        Question question = QuestionFor(m_project, ref, false);
-        Pool& asked = PoolFor(question);
-        if (m_known == Known::All) {
-            m_hidden.push_back({ref, asked.Size()});
-        }
-        asked.Add(ref.index, text);
         const Beam& beam = m_project.beams[ref.index];
-        question.barKind =
-            RowOf(ref.inPlace < 0 ? ref.field
-                                  : FieldAt(beam, beam.inPlace[static_cast<std::size_t>(ref.inPlace)]))
-                .barKind;
-        if (Pool& own = PoolFor(question); &own != &asked) {
+        KindReplay& kind = KindOf(ref.field);
+        ++kind.uses[text];
+        Question question = QuestionFor(m_project, ref, false);
+        Pool& asked = kind.PoolFor(question);
+        const std::size_t index = asked.Size();
+        asked.Add(ref.index, text);
+        const Field field = ref.inPlace < 0
+                                ? ref.field
+                                : FieldAt(beam, beam.inPlace[static_cast<std::size_t>(ref.inPlace)]);
+        question.barKind = RowOf(field).barKind;
+        if (Pool& own = kind.PoolFor(question); &own != &asked) {
             own.Add(ref.index, text);
         }
+        return index;
     }
 
-    void Ask(const FieldRef& ref, bool isSeen, std::optional<std::size_t> hidden)
+    // Without the use at an index, or of what was entered so far.
+    void Ask(const FieldRef& ref, std::optional<std::size_t> hidden)
     {
         const std::string& text = TextAt(m_project, ref);
-        Pool& pool = PoolFor(QuestionFor(m_project, ref, false));
+        KindReplay& kind = KindOf(ref.field);
+        Pool& pool = kind.PoolFor(QuestionFor(m_project, ref, false));
         std::size_t ofRanker = 0;
         SimplePlaces simple;
         if (const std::optional<int> number = pool.NumberOf(text)) {
             ofRanker = hidden ? pool.PlaceWithout(*hidden) : pool.PlaceOf(*number);
             simple = pool.SimplePlacesOf(*number, hidden.has_value());
         }
-        m_tally.Of(Order::Proposal).Add(ProposedPlace(ref, text), isSeen);
-        m_tally.Of(Order::Ranker).Add(ofRanker, isSeen);
-        m_tally.Of(Order::Frequency).Add(simple.frequency, isSeen);
-        m_tally.Of(Order::Alphabetical).Add(simple.alphabetical, isSeen);
-    }
-
-    [[nodiscard]] std::size_t ProposedPlace(const FieldRef& ref, const std::string& text) const
-    {
-        const std::vector<Proposal> proposals = m_proposer.For(ref, static_cast<std::size_t>(-1), m_known);
-        const auto found = std::find_if(proposals.begin(), proposals.end(),
-                                        [&text](const Proposal& each) { return each.text == text; });
-        return found == proposals.end() ? 0 : static_cast<std::size_t>(found - proposals.begin()) + 1;
+        const bool isSeen = kind.uses[text] > (hidden ? 1 : 0);
+        const std::size_t proposed = m_proposer.PlaceOf(ref, hidden ? Known::All : Known::Before);
+        kind.tally.Of(Order::Proposal).Add(proposed, isSeen);
+        kind.tally.Of(Order::Ranker).Add(ofRanker, isSeen);
+        kind.tally.Of(Order::Frequency).Add(simple.frequency, isSeen);
+        kind.tally.Of(Order::Alphabetical).Add(simple.alphabetical, isSeen);
     }
 
     const Project& m_project;
-    const Proposer& m_proposer;
-    const ListKind& m_kind;
+    Proposer m_proposer;
     Known m_known;
-    KindTally m_tally;
-    std::map<std::string, Pool> m_pools;  // by the kind text of the bar ranker
-    std::map<std::string, int> m_uses;
-    std::vector<Use> m_hidden;
+    std::map<Field, std::size_t> m_kindOf;
+    std::deque<KindReplay> m_kinds;
+    std::vector<std::pair<FieldRef, std::size_t>> m_hidden;
 };
 
 }  // namespace
 
 std::vector<KindTally> ReplayProject(const Project& project, Known known)
 {
-    const Proposer proposer(project);
-    std::vector<KindTally> tallies = {{"all", {}}};
-    for (const ListKind& kind : ListKinds()) {
-        const bool areNames = kind.fields.front() == Field::Name;
-        tallies.push_back(KindReplay(project, proposer, kind, areNames ? Known::Before : known).Run());
-        for (std::size_t i = 0; i < OrderNames.size() && !areNames; ++i) {
-            tallies.front().tallies[i] += tallies.back().tallies[i];
-        }
-    }
-    return tallies;
+    return Replay(project, known).Run();
 }
 
 }  // namespace Desk::Hitrate
