@@ -22,7 +22,7 @@ _beamdesk() {
                   leftEnd rightEnd erection torsion side" ;;
       labels) words="--json" ;;
       export) words="--output --scale --force" ;;
-      hitrate) words="--project --json" ;;
+      hitrate) words="--project --order --json" ;;
       panel | events) words="name section elevation stirrup bars hbars vbars --do --script --to --text --kind --quiet --ids
                              --json" ;;
       generate) words="--seed --output --force" ;;
