@@ -139,8 +139,9 @@ const std::vector<int>& Likeness::Points(Asked& asked, int end, KnownTraits know
         if (asked.beam < end) {
             points[static_cast<std::size_t>(asked.beam)] = Never;
         }
-        Add(points, most,
-            [=](std::size_t i) { return (along[i] >= from ? SameRow : 0) & (along[i] <= to ? SameRow : 0); });
+        Add(points, most, [=](std::size_t i) {
+            return (along[i] >= from ? SameRow : 0) & (along[i] <= to ? SameRow : 0);
+        });
         return points;
     }
     KnownTraits added = KnowsTopBars;
@@ -211,7 +212,8 @@ void Likeness::FindNear(int beam, int end, bool byBars, std::vector<int>& near) 
     const std::size_t ofDirection = found.size();
     for (int direction = 1; direction <= 3 && ofDirection < MostNear; ++direction) {
         if (direction != from.direction) {
-            std::vector<Found> others(found.begin() + static_cast<std::ptrdiff_t>(ofDirection), found.end());
+            std::vector<Found> others(found.begin() + static_cast<std::ptrdiff_t>(ofDirection),
+                                      found.end());
             FindNear(beam, end, byBars, direction, MostNear - ofDirection, others);
             found.resize(ofDirection);
             found.insert(found.end(), others.begin(), others.end());

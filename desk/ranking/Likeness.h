@@ -24,7 +24,7 @@ struct Traits {
     int topBars = 0;
     int x = 0;  // middle of the beam in half millimetres
     int y = 0;
-    int direction = 0;   // 1 along x, 2 along y, 3 just between; 0 for a beam without an extent
+    int direction = 0;  // 1 along x, 2 along y, 3 just between; 0 for a beam without an extent
     bool hasSection = false;
     bool hasBars = false;  // any annotation after the section
 
@@ -95,7 +95,7 @@ private:
     std::array<std::vector<int>, 3> m_along;  // by direction, NoRow for beams of the others
     mutable bool m_isSorted = false;
     mutable std::array<std::vector<std::pair<int, int>>, 3> m_byX;  // by direction: x and beam
-    mutable std::array<Asked, 2> m_asked;     // of all beams, of those before
+    mutable std::array<Asked, 2> m_asked;                           // of all beams, of those before
 };
 
 }  // namespace Desk
