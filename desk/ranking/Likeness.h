@@ -30,6 +30,7 @@ struct Traits {
 
     [[nodiscard]] int Along() const { return direction == 2 ? y : x; }
     static constexpr int NoRow = std::numeric_limits<int>::min();
+    static constexpr int RowReach = 1000;  // half millimetres
 };
 
 // Which traits of the beam that is asked for are known, by the fields that they come from.
@@ -50,6 +51,8 @@ class Likeness {
 public:
     static constexpr std::size_t MostVoters = 16;
     static constexpr std::size_t MostNear = 9;
+    // Points of the nearest, the next and so on.
+    static constexpr std::array<int, MostNear> NearnessAt = {3, 3, 3, 2, 2, 1, 1, 1, 1};
 
     explicit Likeness(std::size_t beams);
     void Set(std::size_t beam, const Traits& traits);
