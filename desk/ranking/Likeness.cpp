@@ -2,9 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
-#include <span>
-#include <string>
 
 namespace Desk {
 
@@ -61,7 +58,7 @@ void Enter(std::vector<Voter>& voters, const Voter& voter)
 Likeness::Likeness(std::size_t beams) : m_traits(beams)
 {
     for (std::vector<int>* const column : {&m_family, &m_spans, &m_serial, &m_section, &m_width, &m_height,
-                                           &m_stirrup, &m_topBars, &m_along[0], &m_along[1], &m_along[2]}) {
+                                           &m_stirrup, &m_topBars, &m_along[0], &m_along[1]}) {
         column->resize(beams);
     }
 }
@@ -79,7 +76,7 @@ void Likeness::Set(std::size_t beam, const Traits& traits)
     m_height[beam] = traits.height;
     m_stirrup[beam] = traits.stirrup;
     m_topBars[beam] = traits.topBars;
-    for (int direction = 1; direction <= 3; ++direction) {
+    for (int direction = 1; direction <= 2; ++direction) {
         m_along[static_cast<std::size_t>(direction - 1)][beam] =
             traits.direction == direction ? traits.Along() : Traits::NoRow;
     }
@@ -115,9 +112,9 @@ const std::vector<int>& Likeness::Points(Asked& asked, int end, KnownTraits know
             return static_cast<int>(std::clamp<std::int64_t>(
                 std::int64_t{beam.Along()} + reach, Traits::NoRow + 1, std::numeric_limits<int>::max()));
         };
-        const int* const along = m_along[static_cast<std::size_t>(std::max(beam.direction - 1, 0))].data();
+        const int* const along = m_along[beam.direction == 2 ? 1 : 0].data();
         const int from = within(-Traits::RowReach);
-        const int to = beam.direction == 0 ? Traits::NoRow : within(Traits::RowReach);
+        const int to = beam.HasRow() ? within(Traits::RowReach) : Traits::NoRow;
         points.assign(static_cast<std::size_t>(end), 0);
         if (asked.beam < end) {
             points[static_cast<std::size_t>(asked.beam)] = Never;

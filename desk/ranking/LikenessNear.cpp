@@ -21,7 +21,7 @@ bool IsNeighbour(int serial, int other) { return serial >= 0 && std::abs(serial 
 
 bool IsInRow(const Traits& a, const Traits& b)
 {
-    return a.direction != 0 && a.direction == b.direction &&
+    return a.HasRow() && a.direction == b.direction &&
            std::abs(std::int64_t{a.Along()} - b.Along()) <= Traits::RowReach;
 }
 
