@@ -579,6 +579,102 @@
         <source>Saves the project or the drawing</source>
         <translation>保存工程或图纸</translation>
     </message>
+    <message>
+        <source>same section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>same stirrups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>same top bars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>next to it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>same type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>near it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>same width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>same height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>same spans</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in the same row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>neighbouring number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1:%2：%2 {1,?}</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the number after %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a free number between %1 and %2, near it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first free number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a beam without a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as the other end of its span</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as the span next to it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as the whole beam</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gives %1 of %2 mm²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new, gives %1 of %2 mm²</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>
