@@ -24,7 +24,7 @@ _beamdesk() {
       export) words="--output --scale --force" ;;
       check) words="--project --off --rules --json" ;;
       quantities) words="--project --csv --pdf --json" ;;
-      hitrate) words="--project --json" ;;
+      hitrate) words="--project --order --json" ;;
       panel | events) words="name section elevation stirrup bars hbars vbars --do --script --to --text --kind --quiet --ids
                              --json" ;;
       generate) words="--seed --output --force" ;;
