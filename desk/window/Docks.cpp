@@ -1,6 +1,7 @@
 #include "desk/window/Docks.h"
 
-#include "desk/ranking/Ranking.h"
+#include <utility>
+
 #include "desk/window/FieldNames.h"
 #include "desk/window/Languages.h"
 
@@ -33,6 +34,13 @@ Docks::Docks(QMainWindow& window, const Document& document)
             emit Taken(*m_chosen, text);
         }
     });
+    connect(m_choices, &ChoiceBox::ProposalTaken, this, [this](const QString& text, const QString& reason) {
+        if (m_chosen) {
+            emit ProposalTaken({{*m_chosen, text}}, reason);
+        }
+    });
+    connect(m_choices, &ChoiceBox::BeamTaken, this, &Docks::TakeForBeam);
+    connect(m_choices, &ChoiceBox::GoOn, this, &Docks::GoOn);
     connect(m_choices, &ChoiceBox::PanelAsked, this, [this] {
         if (m_chosen) {
             emit PanelAsked(*m_chosen);
@@ -41,8 +49,25 @@ Docks::Docks(QMainWindow& window, const Document& document)
     connect(m_choices, &ChoiceBox::TableToggled, this, &Docks::ShowChoices);
     connect(m_choices, &ChoiceBox::Left, this, &Docks::Left);
     connect(m_properties, &PropertyGrid::Picked, this, &Docks::Picked);
-    connect(m_properties, &PropertyGrid::Edited, this, &Docks::Taken);
+    connect(m_properties, &PropertyGrid::Edited, this, &Docks::Edited);
     connect(m_properties, &PropertyGrid::PanelAsked, this, &Docks::PanelAskedInGrid);
+    connect(&document, &Document::Replaced, this, &Docks::Renew);
+    connect(&document, &Document::TextChanged, this,
+            [this](const FieldRef& ref) { m_changed.insert(ref); });
+    // A dock that comes into view catches up.
+    connect(m_choiceDock, &QDockWidget::visibilityChanged, this, &Docks::ShowChoices);
+    connect(m_propertyDock, &QDockWidget::visibilityChanged, this, &Docks::ShowProperties);
+    connect(m_sketchDock, &QDockWidget::visibilityChanged, this, &Docks::ShowSection);
+    Renew();
+}
+
+void Docks::Renew()
+{
+    m_chosen.reset();
+    m_choices->Clear();  // its rows are the rankings'
+    m_changed.clear();
+    m_rankings.emplace(m_document.Get());
+    m_proposer.emplace(m_document.Get());
 }
 
 QDockWidget* Docks::AddDock(QMainWindow& window, QWidget* inside, const char* name)
@@ -65,13 +90,24 @@ QList<QAction*> Docks::Toggles() const
 void Docks::Show(const std::optional<FieldRef>& chosen)
 {
     m_chosen = chosen;
-    m_properties->Show(m_document.Get(), chosen);
+    ShowProperties();
     ShowSection();
     ShowChoices();
 }
 
+// What is not in view is made when it comes into view.
+void Docks::ShowProperties()
+{
+    if (m_properties->isVisible()) {
+        m_properties->Show(m_document.Get(), m_chosen);
+    }
+}
+
 void Docks::ShowSection()
 {
+    if (!m_sketch->isVisible()) {
+        return;
+    }
     if (!m_chosen || m_chosen->isWall) {
         m_sketch->SetBeam(nullptr);
         return;
@@ -92,17 +128,55 @@ void Docks::ShowChoices()
         m_choices->Clear();
         return;
     }
+    if (!m_choices->isVisible()) {
+        return;
+    }
+    for (const FieldRef& ref : std::exchange(m_changed, {})) {
+        if (ref.isWall) {
+            m_rankings->UpdateWall(ref.index);
+        } else {
+            m_rankings->Update(ref.index);
+            m_proposer->Update(ref.index);
+        }
+    }
+    static const Ranking none;
     const Project& project = m_document.Get();
-    Ranking ranking;
+    const Ranking* ranking = &none;
     try {
-        ranking = ChoicesFor(project, *m_chosen, m_choices->WantsTable());
+        ranking = &m_rankings->For(*m_chosen, m_choices->WantsTable());
     } catch (const Failure& failure) {
         emit Failed(Told(failure));
     }
     m_choices->SetChoices(OwnerName(project, *m_chosen), FieldName(project, *m_chosen),
-                          QString::fromStdString(TextAt(project, *m_chosen)), ranking,
-                          m_chosen->field == Field::Name);
+                          QString::fromStdString(TextAt(project, *m_chosen)), ProposedFor(*m_chosen),
+                          *ranking, m_chosen->field == Field::Name);
     m_choices->SetPanelEnabled(PanelOf(*m_chosen) != PanelKind::None);
+}
+
+Proposed Docks::ProposedFor(const FieldRef& ref) const
+{
+    Proposed proposed;
+    if (!ref.isWall) {
+        proposed.texts = m_proposer->For(ref, Proposed::Most);
+        proposed.haveKeys = ref.field != Field::Name || TextAt(m_document.Get(), ref).empty();
+        std::vector<BeamProposal> forBeam = m_proposer->ForBeam(ref.index, 1);
+        if (!forBeam.empty()) {
+            proposed.beam = std::move(forBeam.front());
+        }
+    }
+    return proposed;
+}
+
+void Docks::TakeForBeam()
+{
+    const std::optional<BeamProposal> beam = m_chosen ? ProposedFor(*m_chosen).beam : std::nullopt;
+    if (beam) {
+        std::vector<std::pair<FieldRef, QString>> texts;
+        for (const auto& [ref, text] : beam->texts) {
+            texts.emplace_back(ref, QString::fromStdString(text));
+        }
+        emit ProposalTaken(texts, Told(beam->reason));
+    }
 }
 
 void Docks::Redraw()
@@ -124,6 +198,7 @@ void Docks::StartTyping(const QString& first)
 void Docks::StartEditing()
 {
     Raise(*m_propertyDock);
+    ShowProperties();
     m_properties->EditMarked();
 }
 

@@ -3,9 +3,14 @@
 #pragma once
 
 #include <optional>
+#include <set>
+#include <utility>
+#include <vector>
 
 #include "desk/Toolkit.h"
 #include "desk/plan/SectionSketch.h"
+#include "desk/ranking/Proposals.h"
+#include "desk/ranking/Ranking.h"
 #include "desk/window/ChoiceBox.h"
 #include "desk/window/Document.h"
 #include "desk/window/PropertyGrid.h"
@@ -23,6 +28,8 @@ public:
     // Draws all anew, for another language or other colours.
     void Redraw();
 
+    // Takes a proposal in view by its key; false for a character that is a text's.
+    bool TakeByKey(const QString& key) { return m_choices->isVisible() && m_choices->TakeByKey(key); }
     // Show a dock, wherever it is, and give it the keyboard: the texts, which a first character may
     // narrow already, or the marked property.
     void StartTyping(const QString& first = QString());
@@ -38,6 +45,10 @@ public:
 signals:
     void Picked(const Desk::FieldRef& ref);
     void Taken(const Desk::FieldRef& ref, const QString& text);
+    // A proposal for an annotation, or for several of its beam.
+    void ProposalTaken(const std::vector<std::pair<Desk::FieldRef, QString>>& texts, const QString& reason);
+    void Edited(const Desk::FieldRef& ref, const QString& text);
+    void GoOn();                                       // to the next annotation without a text
     void PanelAsked(const Desk::FieldRef& ref);        // for the drawing's text
     void PanelAskedInGrid(const Desk::FieldRef& ref);  // for the value in the properties
     void Left();                                       // the keyboard goes back to the drawing
@@ -45,11 +56,19 @@ signals:
 
 private:
     QDockWidget* AddDock(QMainWindow& window, QWidget* inside, const char* name);
+    // For another project, or one with other beams.
+    void Renew();
+    [[nodiscard]] Proposed ProposedFor(const FieldRef& ref) const;
+    void ShowProperties();
     void ShowChoices();
     void ShowSection();
+    void TakeForBeam();
 
     const Document& m_document;
     std::optional<FieldRef> m_chosen;
+    std::optional<Rankings> m_rankings;
+    std::optional<Proposer> m_proposer;
+    std::set<FieldRef> m_changed;  // texts that rankings and proposer have not been told of
     ChoiceBox* m_choices;
     PropertyGrid* m_properties;
     SectionSketch* m_sketch;
