@@ -21,27 +21,25 @@ constexpr int SameSection = 2;
 constexpr int SameStirrup = 3;
 constexpr int SameTopBars = 3;
 constexpr int SameRow = 1;
+constexpr int Never = -1000;    // points of the beam itself
 constexpr int RowReach = 1000;  // half millimetres
 constexpr std::array<int, Likeness::MostNear> Nearness = {3, 3, 3, 2, 2, 1, 1, 1, 1};
 
-void AddWhereEqual(std::vector<int>& points, const std::vector<int>& column, int value, int worth)
+// What is worth so much for each beam goes onto its points; most gets the most points of each block.
+template <class Worth>
+void Add(std::vector<int>& points, std::vector<int>& most, Worth worth)
 {
     int* const to = points.data();
-    const int* const from = column.data();
     const std::size_t count = points.size();
-    for (std::size_t i = 0; i < count; ++i) {
-        to[i] += from[i] == value ? worth : 0;
-    }
-}
-
-void AddWhereWithin(std::vector<int>& points, const std::vector<int>& column, int least, int most,
-                    int worth)
-{
-    int* const to = points.data();
-    const int* const from = column.data();
-    const std::size_t count = points.size();
-    for (std::size_t i = 0; i < count; ++i) {
-        to[i] += (from[i] >= least) & (from[i] <= most) ? worth : 0;
+    most.clear();
+    for (std::size_t from = 0; from < count; from += Block) {
+        const std::size_t end = std::min(from + Block, count);
+        int of = -1;
+        for (std::size_t i = from; i < end; ++i) {
+            to[i] += worth(i);
+            of = std::max(of, to[i]);
+        }
+        most.push_back(of);
     }
 }
 
@@ -50,17 +48,14 @@ bool IsNeighbour(int serial, int other) { return serial >= 0 && std::abs(serial 
 bool IsInRow(const Traits& a, const Traits& b)
 {
     return a.direction != 0 && a.direction == b.direction &&
-           std::abs(std::int64_t{a.along} - b.along) <= RowReach;
+           std::abs(std::int64_t{a.Along()} - b.Along()) <= RowReach;
 }
 
-std::uint64_t SquaredDistance(const Traits& a, const Traits& b)
+// Of half millimetres, no more than two of them can add up to.
+std::uint64_t Squared(std::int64_t a, std::int64_t b)
 {
-    const auto apart = [](std::int64_t one, std::int64_t other) {
-        const std::int64_t difference = std::min(std::abs(one - other), std::int64_t{3'000'000'000});
-        return static_cast<std::uint64_t>(difference * difference);
-    };
-    const bool isTurned = (a.direction == 2) != (b.direction == 2);
-    return apart(a.along, isTurned ? b.across : b.along) + apart(a.across, isTurned ? b.along : b.across);
+    const std::int64_t apart = std::min(std::abs(a - b), std::int64_t{3'000'000'000});
+    return static_cast<std::uint64_t>(apart * apart);
 }
 
 // Ordered by points, then entered last; room for so many.
@@ -90,6 +85,8 @@ Likeness::Likeness(std::size_t beams) : m_traits(beams)
 
 void Likeness::Set(std::size_t beam, const Traits& traits)
 {
+    const Traits& before = m_traits[beam];
+    m_isSorted = m_isSorted && before.direction == traits.direction && before.x == traits.x;
     m_traits[beam] = traits;
     m_family[beam] = traits.family;
     m_spans[beam] = traits.spans;
@@ -101,7 +98,7 @@ void Likeness::Set(std::size_t beam, const Traits& traits)
     m_topBars[beam] = traits.topBars;
     for (int direction = 1; direction <= 3; ++direction) {
         m_along[static_cast<std::size_t>(direction - 1)][beam] =
-            traits.direction == direction ? traits.along : Traits::NoRow;
+            traits.direction == direction ? traits.Along() : Traits::NoRow;
     }
     for (Asked& asked : m_asked) {
         asked.beam = -1;
@@ -128,54 +125,78 @@ const std::vector<int>& Likeness::Points(Asked& asked, int end, KnownTraits know
         return points;
     }
     const Traits& beam = Of(asked.beam);
-    if (known == 0) {
-        points.assign(static_cast<std::size_t>(end), 0);
-        if (beam.direction != 0) {
-            // Beams without a row have the least number, which no row reaches.
-            const auto within = [](std::int64_t at) {
-                return static_cast<int>(
-                    std::clamp<std::int64_t>(at, Traits::NoRow + 1, std::numeric_limits<int>::max()));
-            };
-            AddWhereWithin(points, m_along[static_cast<std::size_t>(beam.direction - 1)],
-                           within(std::int64_t{beam.along} - RowReach),
-                           within(std::int64_t{beam.along} + RowReach), SameRow);
-        }
-    } else {
-        KnownTraits added = KnowsTopBars;
-        while ((known & added) == 0) {
-            added >>= 1U;
-        }
-        points = Points(asked, end, known & ~added);
-        if (added == KnowsName && beam.family > 0) {
-            AddWhereEqual(points, m_family, beam.family, SameFamily);
-            AddWhereEqual(points, m_spans, beam.spans, SameSpans);
-            AddWhereEqual(points, m_serial, beam.serial - 1, NextSerial);
-            AddWhereEqual(points, m_serial, beam.serial + 1, NextSerial);
-        } else if (added == KnowsSection && beam.section > 0) {
-            if (beam.width > 0) {
-                AddWhereEqual(points, m_width, beam.width, SameWidth);
-                AddWhereEqual(points, m_height, beam.height, SameHeight);
-            }
-            AddWhereEqual(points, m_section, beam.section, SameSection);
-        } else if (added == KnowsStirrup) {
-            AddWhereEqual(points, m_stirrup, beam.stirrup, SameStirrup);
-        } else if (added == KnowsTopBars) {
-            AddWhereEqual(points, m_topBars, beam.topBars, SameTopBars);
-        }
-    }
-    if (asked.beam < end) {
-        points[static_cast<std::size_t>(asked.beam)] = -1;
-    }
     std::vector<int>& most = asked.mostOf[known];
-    most.clear();
-    for (std::size_t from = 0; from < points.size(); from += Block) {
-        int of = -1;
-        for (std::size_t i = from; i < std::min(from + Block, points.size()); ++i) {
-            of = std::max(of, points[i]);
+    if (known == 0) {
+        // Beams without a row have the least number, which no row reaches.
+        const auto within = [&beam](int reach) {
+            return static_cast<int>(std::clamp<std::int64_t>(
+                std::int64_t{beam.Along()} + reach, Traits::NoRow + 1, std::numeric_limits<int>::max()));
+        };
+        const int* const along = m_along[static_cast<std::size_t>(std::max(beam.direction - 1, 0))].data();
+        const int from = within(-RowReach);
+        const int to = beam.direction == 0 ? Traits::NoRow : within(RowReach);
+        points.assign(static_cast<std::size_t>(end), 0);
+        if (asked.beam < end) {
+            points[static_cast<std::size_t>(asked.beam)] = Never;
         }
-        most.push_back(of);
+        Add(points, most, [=](std::size_t i) {
+            return (along[i] >= from ? SameRow : 0) & (along[i] <= to ? SameRow : 0);
+        });
+        return points;
+    }
+    KnownTraits added = KnowsTopBars;
+    while ((known & added) == 0) {
+        added >>= 1U;
+    }
+    points = Points(asked, end, known & ~added);
+    most = asked.mostOf[known & ~added];
+    if (added == KnowsName && beam.family > 0) {
+        const int* const family = m_family.data();
+        const int* const spans = m_spans.data();
+        const int* const serial = m_serial.data();
+        Add(points, most, [=, b = beam](std::size_t i) {
+            return (family[i] == b.family ? SameFamily : 0) + (spans[i] == b.spans ? SameSpans : 0) +
+                   (serial[i] == b.serial - 1 ? NextSerial : 0) +
+                   (serial[i] == b.serial + 1 ? NextSerial : 0);
+        });
+    } else if (added == KnowsSection && beam.section > 0) {
+        const int* const section = m_section.data();
+        const int* const width = m_width.data();
+        const int* const height = m_height.data();
+        const int sameWidth = beam.width > 0 ? SameWidth : 0;
+        const int sameHeight = beam.width > 0 ? SameHeight : 0;
+        Add(points, most, [=, b = beam](std::size_t i) {
+            return (section[i] == b.section ? SameSection : 0) + (width[i] == b.width ? sameWidth : 0) +
+                   (height[i] == b.height ? sameHeight : 0);
+        });
+    } else if (added == KnowsStirrup) {
+        const int* const stirrup = m_stirrup.data();
+        Add(points, most,
+            [=, b = beam.stirrup](std::size_t i) { return stirrup[i] == b ? SameStirrup : 0; });
+    } else if (added == KnowsTopBars) {
+        const int* const topBars = m_topBars.data();
+        Add(points, most,
+            [=, b = beam.topBars](std::size_t i) { return topBars[i] == b ? SameTopBars : 0; });
     }
     return points;
+}
+
+void Likeness::SortByX() const
+{
+    if (m_isSorted) {
+        return;
+    }
+    for (std::size_t direction = 1; direction <= 3; ++direction) {
+        std::vector<std::pair<int, int>>& byX = m_byX[direction - 1];
+        byX.clear();
+        for (std::size_t i = 0; i < m_traits.size(); ++i) {
+            if (m_traits[i].direction == static_cast<int>(direction)) {
+                byX.emplace_back(m_traits[i].x, static_cast<int>(i));
+            }
+        }
+        std::sort(byX.begin(), byX.end());
+    }
+    m_isSorted = true;
 }
 
 void Likeness::FindNear(int beam, int end, bool byBars, std::vector<int>& near) const
@@ -185,36 +206,55 @@ void Likeness::FindNear(int beam, int end, bool byBars, std::vector<int>& near) 
     if (from.direction == 0) {
         return;
     }
-    struct Found {
-        std::uint64_t distance;
-        int beam;
+    SortByX();
+    std::vector<Found> found;
+    FindNear(beam, end, byBars, from.direction, MostNear, found);
+    const std::size_t ofDirection = found.size();
+    for (int direction = 1; direction <= 3 && ofDirection < MostNear; ++direction) {
+        if (direction != from.direction) {
+            std::vector<Found> others(found.begin() + static_cast<std::ptrdiff_t>(ofDirection),
+                                      found.end());
+            FindNear(beam, end, byBars, direction, MostNear - ofDirection, others);
+            found.resize(ofDirection);
+            found.insert(found.end(), others.begin(), others.end());
+        }
+    }
+    for (const Found& each : found) {
+        near.push_back(each.beam);
+    }
+}
+
+// From the beam on to both sides, as far as the last one found lies.
+void Likeness::FindNear(int beam, int end, bool byBars, int direction, std::size_t room,
+                        std::vector<Found>& found) const
+{
+    const Traits& from = Of(beam);
+    const auto isNearer = [](const Found& a, const Found& b) {
+        return a.distance != b.distance ? a.distance < b.distance : a.beam > b.beam;
     };
-    const auto take = [&](bool sameDirection, std::size_t room) {
-        std::vector<Found> found;
-        const auto isNearer = [](const Found& a, const Found& b) {
-            return a.distance != b.distance ? a.distance < b.distance : a.beam > b.beam;
-        };
-        for (int other = end - 1; other >= 0 && room > 0; --other) {
-            const Traits& to = Of(other);
-            if (other == beam || to.direction == 0 || (to.direction == from.direction) != sameDirection ||
-                !(byBars ? to.hasBars : to.hasSection)) {
-                continue;
-            }
-            const Found one = {SquaredDistance(from, to), other};
-            if (found.size() == room) {
-                if (one.distance >= found.back().distance) {
-                    continue;
-                }
-                found.pop_back();
-            }
+    // False where this one and all beyond it lie too far.
+    const auto take = [&](const std::pair<int, int>& at) {
+        if (found.size() == room && Squared(at.first, from.x) > found.back().distance) {
+            return false;
+        }
+        const Traits& to = Of(at.second);
+        if (at.second < end && at.second != beam && (byBars ? to.hasBars : to.hasSection)) {
+            const Found one = {Squared(at.first, from.x) + Squared(to.y, from.y), at.second};
             found.insert(std::upper_bound(found.begin(), found.end(), one, isNearer), one);
+            found.resize(std::min(found.size(), room));
         }
-        for (const Found& each : found) {
-            near.push_back(each.beam);
-        }
+        return true;
     };
-    take(true, MostNear);
-    take(false, MostNear - near.size());
+    const std::vector<std::pair<int, int>>& byX = m_byX[static_cast<std::size_t>(direction - 1)];
+    const auto middle = std::lower_bound(byX.begin(), byX.end(), std::pair(from.x, 0));
+    auto right = middle;
+    auto left = middle;
+    bool goesRight = true;
+    bool goesLeft = true;
+    while (goesRight || goesLeft) {
+        goesRight = goesRight && right != byX.end() && take(*right++);
+        goesLeft = goesLeft && left != byX.begin() && take(*--left);
+    }
 }
 
 const std::vector<int>& Likeness::NearOf(Asked& asked, int end, KnownTraits known) const
