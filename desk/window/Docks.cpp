@@ -153,8 +153,9 @@ void Docks::ShowChoices()
     m_choices->SetPanelEnabled(PanelOf(*m_chosen) != PanelKind::None);
 }
 
-Proposed Docks::ProposedFor(const FieldRef& ref) const
+Proposed Docks::ProposedFor(const FieldRef& chosen) const
 {
+    const FieldRef ref = m_document.Target(chosen);
     Proposed proposed;
     if (!ref.isWall) {
         proposed.texts = m_proposer->For(ref, Proposed::Most);

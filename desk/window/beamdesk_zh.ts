@@ -667,6 +667,26 @@
         <source>The next annotation that a text is wanted for</source>
         <translation>转到下一处需要标注而尚空的位置</translation>
     </message>
+    <message>
+        <source>as the other end of its span</source>
+        <translation>同本跨另一端</translation>
+    </message>
+    <message>
+        <source>as the span next to it</source>
+        <translation>同相邻跨</translation>
+    </message>
+    <message>
+        <source>as the whole beam</source>
+        <translation>同本梁集中标注</translation>
+    </message>
+    <message>
+        <source>gives %1 of %2 mm²</source>
+        <translation>配 %1，需 %2 mm²</translation>
+    </message>
+    <message>
+        <source>new, gives %1 of %2 mm²</source>
+        <translation>新配，配 %1，需 %2 mm²</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>
@@ -700,7 +720,7 @@
     </message>
     <message>
         <source>Enter to type, 1 to 3 take a proposal</source>
-        <translation>回车后键入，1 至 3 采用推荐</translation>
+        <translation>回车后键入，1 至 3 采用建议</translation>
     </message>
     <message>
         <source>Text</source>
@@ -714,7 +734,7 @@
         <source>Enter takes the marked text, Ctrl+Enter the text as typed.
 In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T or a click here first types a text that begins with such a digit.</source>
         <translation>回车采用选中的文字，Ctrl+回车采用键入的文字。
-在图中按 1 至 3 采用推荐，按 0 采用整根梁的推荐；要键入以这些数字开头的文字，先按回车、Ctrl+T 或单击此处。</translation>
+在图中按 1 至 3 采用建议，按 0 采用整根梁的建议；要键入以这些数字开头的文字，先按回车、Ctrl+T 或单击此处。</translation>
     </message>
 </context>
 <context>
@@ -982,7 +1002,7 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     </message>
     <message>
         <source>Proposals</source>
-        <translation>推荐</translation>
+        <translation>建议</translation>
     </message>
     <message>
         <source>as it is; %1</source>

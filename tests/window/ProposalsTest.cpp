@@ -168,7 +168,7 @@ TEST_F(ProposalsTest, AClickTakesAndThePresentTextIsMarked)
     window.SetLanguage(Language::Chinese);
     const QModelIndex reason = rows.model()->index(0, 0);
     EXPECT_FALSE(reason.data(ChoiceDelegate::After).toString().contains("same"));
-    EXPECT_EQ(rows.accessibleName(), QString::fromUtf8("推荐"));
+    EXPECT_EQ(rows.accessibleName(), QString::fromUtf8("建议"));
     EXPECT_FALSE(reason.data(Qt::AccessibleTextRole).toString().isEmpty());
 }
 
