@@ -19,7 +19,7 @@ void Raise(QDockWidget& dock)
 }  // namespace
 
 Docks::Docks(QMainWindow& window, const Document& document)
-    : QObject(&window), m_document(document), m_choices(new ChoiceBox(&window)),
+    : QObject(&window), m_document(document), m_offers(document), m_choices(new ChoiceBox(&window)),
       m_properties(new PropertyGrid(&window)), m_sketch(new SectionSketch(&window)),
       m_choiceDock(AddDock(window, m_choices, "choiceDock")),
       m_propertyDock(AddDock(window, m_properties, "propertyDock")),
@@ -51,23 +51,14 @@ Docks::Docks(QMainWindow& window, const Document& document)
     connect(m_properties, &PropertyGrid::Picked, this, &Docks::Picked);
     connect(m_properties, &PropertyGrid::Edited, this, &Docks::Edited);
     connect(m_properties, &PropertyGrid::PanelAsked, this, &Docks::PanelAskedInGrid);
-    connect(&document, &Document::Replaced, this, &Docks::Renew);
-    connect(&document, &Document::TextChanged, this,
-            [this](const FieldRef& ref) { m_changed.insert(ref); });
+    connect(&m_offers, &Offers::Renewed, this, [this] {
+        m_chosen.reset();
+        m_choices->Clear();
+    });
     // A dock that comes into view catches up.
     connect(m_choiceDock, &QDockWidget::visibilityChanged, this, &Docks::ShowChoices);
     connect(m_propertyDock, &QDockWidget::visibilityChanged, this, &Docks::ShowProperties);
     connect(m_sketchDock, &QDockWidget::visibilityChanged, this, &Docks::ShowSection);
-    Renew();
-}
-
-void Docks::Renew()
-{
-    m_chosen.reset();
-    m_choices->Clear();  // its rows are the rankings'
-    m_changed.clear();
-    m_rankings.emplace(m_document.Get());
-    m_proposer.emplace(m_document.Get());
 }
 
 QDockWidget* Docks::AddDock(QMainWindow& window, QWidget* inside, const char* name)
@@ -131,19 +122,11 @@ void Docks::ShowChoices()
     if (!m_choices->isVisible()) {
         return;
     }
-    for (const FieldRef& ref : std::exchange(m_changed, {})) {
-        if (ref.isWall) {
-            m_rankings->UpdateWall(ref.index);
-        } else {
-            m_rankings->Update(ref.index);
-            m_proposer->Update(ref.index);
-        }
-    }
     static const Ranking none;
     const Project& project = m_document.Get();
     const Ranking* ranking = &none;
     try {
-        ranking = &m_rankings->For(*m_chosen, m_choices->WantsTable());
+        ranking = &m_offers.RankingFor(*m_chosen, m_choices->WantsTable());
     } catch (const Failure& failure) {
         emit Failed(Told(failure));
     }
@@ -153,24 +136,9 @@ void Docks::ShowChoices()
     m_choices->SetPanelEnabled(PanelOf(*m_chosen) != PanelKind::None);
 }
 
-Proposed Docks::ProposedFor(const FieldRef& chosen) const
-{
-    const FieldRef ref = m_document.Target(chosen);
-    Proposed proposed;
-    if (!ref.isWall) {
-        proposed.texts = m_proposer->For(ref, Proposed::Most);
-        proposed.haveKeys = ref.field != Field::Name || TextAt(m_document.Get(), ref).empty();
-        std::vector<BeamProposal> forBeam = m_proposer->ForBeam(ref.index, 1);
-        if (!forBeam.empty()) {
-            proposed.beam = std::move(forBeam.front());
-        }
-    }
-    return proposed;
-}
-
 void Docks::TakeForBeam()
 {
-    const std::optional<BeamProposal> beam = m_chosen ? ProposedFor(*m_chosen).beam : std::nullopt;
+    const std::optional<BeamProposal> beam = m_chosen ? m_offers.ProposedFor(*m_chosen).beam : std::nullopt;
     if (beam) {
         std::vector<std::pair<FieldRef, QString>> texts;
         for (const auto& [ref, text] : beam->texts) {
@@ -192,6 +160,9 @@ void Docks::Redraw()
 
 void Docks::StartTyping(const QString& first)
 {
+    if (m_choices->isVisible() && m_choices->TakeByKey(first)) {
+        return;
+    }
     Raise(*m_choiceDock);
     m_choices->StartTyping(first);
 }

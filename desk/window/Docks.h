@@ -3,16 +3,14 @@
 #pragma once
 
 #include <optional>
-#include <set>
 #include <utility>
 #include <vector>
 
 #include "desk/Toolkit.h"
 #include "desk/plan/SectionSketch.h"
-#include "desk/ranking/Proposals.h"
-#include "desk/ranking/Ranking.h"
 #include "desk/window/ChoiceBox.h"
 #include "desk/window/Document.h"
+#include "desk/window/Offers.h"
 #include "desk/window/PropertyGrid.h"
 
 namespace Desk {
@@ -28,10 +26,8 @@ public:
     // Draws all anew, for another language or other colours.
     void Redraw();
 
-    // Takes a proposal in view by its key; false for a character that is a text's.
-    bool TakeByKey(const QString& key) { return m_choices->isVisible() && m_choices->TakeByKey(key); }
     // Show a dock, wherever it is, and give it the keyboard: the texts, which a first character may
-    // narrow already, or the marked property.
+    // narrow already, or the marked property. The key of a proposal in view takes it instead.
     void StartTyping(const QString& first = QString());
     void StartEditing();
     // Ends editing in place and signals at once what it made.
@@ -56,9 +52,6 @@ signals:
 
 private:
     QDockWidget* AddDock(QMainWindow& window, QWidget* inside, const char* name);
-    // For another project, or one with other beams.
-    void Renew();
-    [[nodiscard]] Proposed ProposedFor(const FieldRef& ref) const;
     void ShowProperties();
     void ShowChoices();
     void ShowSection();
@@ -66,9 +59,7 @@ private:
 
     const Document& m_document;
     std::optional<FieldRef> m_chosen;
-    std::optional<Rankings> m_rankings;
-    std::optional<Proposer> m_proposer;
-    std::set<FieldRef> m_changed;  // texts that rankings and proposer have not been told of
+    Offers m_offers;
     ChoiceBox* m_choices;
     PropertyGrid* m_properties;
     SectionSketch* m_sketch;

@@ -159,9 +159,6 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
     }
     const QString text = event->text();
     const bool plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
-    if (Chosen() && plain && m_docks->TakeByKey(text)) {
-        return;
-    }
     if (plain && text == QLatin1String(" ")) {
         m_selection->GoOn();
     } else if (Chosen() && plain && !text.isEmpty() && text.front().isPrint()) {
