@@ -10,7 +10,7 @@ _beamdesk() {
       ;;
   esac
   if [ "$COMP_CWORD" -eq 1 ]; then
-    words="tour rank table import set labels export hitrate panel events generate window shot --help --help-all --version"
+    words="tour rank propose table import set labels export hitrate panel events generate window shot --help --help-all --version"
   else
     case $command in
       tour) words="--project --beam" ;;
@@ -22,7 +22,7 @@ _beamdesk() {
                   leftEnd rightEnd erection torsion side" ;;
       labels) words="--json" ;;
       export) words="--output --scale --force" ;;
-      hitrate) words="--project --json" ;;
+      hitrate) words="--project --order --json" ;;
       panel | events) words="name section elevation stirrup bars hbars vbars --do --script --to --text --kind --quiet --ids
                              --json" ;;
       generate) words="--seed --output --force" ;;
