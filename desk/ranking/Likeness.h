@@ -28,8 +28,10 @@ struct Traits {
     bool hasSection = false;
     bool hasBars = false;  // any annotation after the section
 
+    [[nodiscard]] bool HasRow() const { return direction == 1 || direction == 2; }
     [[nodiscard]] int Along() const { return direction == 2 ? y : x; }
     static constexpr int NoRow = std::numeric_limits<int>::min();
+    static constexpr int RowReach = 1000;  // half millimetres
 };
 
 // Which traits of the beam that is asked for are known, by the fields that they come from.
@@ -50,6 +52,8 @@ class Likeness {
 public:
     static constexpr std::size_t MostVoters = 16;
     static constexpr std::size_t MostNear = 9;
+    // Points of the nearest, the next and so on.
+    static constexpr std::array<int, MostNear> NearnessAt = {3, 3, 3, 2, 2, 1, 1, 1, 1};
 
     explicit Likeness(std::size_t beams);
     void Set(std::size_t beam, const Traits& traits);
@@ -92,7 +96,7 @@ private:
     std::vector<Traits> m_traits;
     // The same by column, which the compiler turns into few instructions.
     std::vector<int> m_family, m_spans, m_serial, m_section, m_width, m_height, m_stirrup, m_topBars;
-    std::array<std::vector<int>, 3> m_along;  // by direction, NoRow for beams of the others
+    std::array<std::vector<int>, 2> m_along;  // by direction, NoRow for beams of the others
     mutable bool m_isSorted = false;
     mutable std::array<std::vector<std::pair<int, int>>, 3> m_byX;  // by direction: x and beam
     mutable std::array<Asked, 2> m_asked;                           // of all beams, of those before
