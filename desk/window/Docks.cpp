@@ -131,8 +131,8 @@ void Docks::ShowChoices()
         emit Failed(Told(failure));
     }
     m_choices->SetChoices(OwnerName(project, *m_chosen), FieldName(project, *m_chosen),
-                          QString::fromStdString(TextAt(project, *m_chosen)), ProposedFor(*m_chosen),
-                          *ranking, m_chosen->field == Field::Name);
+                          QString::fromStdString(TextAt(project, *m_chosen)),
+                          m_offers.ProposedFor(*m_chosen), *ranking, m_chosen->field == Field::Name);
     m_choices->SetPanelEnabled(PanelOf(*m_chosen) != PanelKind::None);
 }
 
