@@ -580,10 +580,6 @@
         <translation>保存工程或图纸</translation>
     </message>
     <message>
-        <source>%1 texts</source>
-        <translation>%1 处标注</translation>
-    </message>
-    <message>
         <source>same section</source>
         <translation>截面相同</translation>
     </message>
@@ -593,7 +589,7 @@
     </message>
     <message>
         <source>same top bars</source>
-        <translation>上部通长筋相同</translation>
+        <translation>上部筋相同</translation>
     </message>
     <message>
         <source>next to it</source>
@@ -605,7 +601,7 @@
     </message>
     <message>
         <source>near it</source>
-        <translation>在附近</translation>
+        <translation>相近</translation>
     </message>
     <message>
         <source>same width</source>
@@ -621,11 +617,11 @@
     </message>
     <message>
         <source>in the same row</source>
-        <translation>在同一排</translation>
+        <translation>同一开间</translation>
     </message>
     <message>
         <source>neighbouring number</source>
-        <translation>编号相邻</translation>
+        <translation>序号相邻</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -637,11 +633,11 @@
     </message>
     <message>
         <source>the number after %1</source>
-        <translation>%1 的下一编号</translation>
+        <translation>接%1编号</translation>
     </message>
     <message>
         <source>a free number between %1 and %2, near it</source>
-        <translation>附近 %1 与 %2 之间的空号</translation>
+        <translation>附近%1与%2之间的空号</translation>
     </message>
     <message>
         <source>the first free number</source>
@@ -649,15 +645,39 @@
     </message>
     <message>
         <source>a beam without a name</source>
-        <translation>未命名的梁</translation>
+        <translation>未编号的梁</translation>
     </message>
     <message>
         <source>as %1</source>
-        <translation>同 %1</translation>
+        <translation>同%1</translation>
     </message>
     <message>
         <source>as %1: %2</source>
-        <translation>同 %1：%2</translation>
+        <translation>同%1：%2</translation>
+    </message>
+    <message>
+        <source>as the other end of its span</source>
+        <translation>同本跨另一端</translation>
+    </message>
+    <message>
+        <source>as the span next to it</source>
+        <translation>同邻跨</translation>
+    </message>
+    <message>
+        <source>as the whole beam</source>
+        <translation>同集中标注</translation>
+    </message>
+    <message>
+        <source>gives %1 of %2 mm²</source>
+        <translation>实配%1，需%2 mm²</translation>
+    </message>
+    <message>
+        <source>new, gives %1 of %2 mm²</source>
+        <translation>新配，实配%1，需%2 mm²</translation>
+    </message>
+    <message>
+        <source>%1 texts</source>
+        <translation>%1 处标注</translation>
     </message>
     <message>
         <source>Next &amp;without a text</source>
@@ -666,26 +686,6 @@
     <message>
         <source>The next annotation that a text is wanted for</source>
         <translation>转到下一处需要标注而尚空的位置</translation>
-    </message>
-    <message>
-        <source>as the other end of its span</source>
-        <translation>同本跨另一端</translation>
-    </message>
-    <message>
-        <source>as the span next to it</source>
-        <translation>同相邻跨</translation>
-    </message>
-    <message>
-        <source>as the whole beam</source>
-        <translation>同本梁集中标注</translation>
-    </message>
-    <message>
-        <source>gives %1 of %2 mm²</source>
-        <translation>配 %1，需 %2 mm²</translation>
-    </message>
-    <message>
-        <source>new, gives %1 of %2 mm²</source>
-        <translation>新配，配 %1，需 %2 mm²</translation>
     </message>
 </context>
 <context>
