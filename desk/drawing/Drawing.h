@@ -47,6 +47,8 @@ public:
     [[nodiscard]] const Project& Get() const;
     // What is drawn beside the annotations; hidden layers are left out.
     [[nodiscard]] const Backdrop& Behind() const;
+    // The same with the texts that are no beam's yet, for a plan on paper.
+    [[nodiscard]] Backdrop BehindWithOpenTexts() const;
     [[nodiscard]] const std::vector<AnnotationText>& Texts() const;
 
     // The file's bytes with the texts of a project that was got from this drawing and then edited. A text
