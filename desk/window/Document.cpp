@@ -3,13 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "desk/drawing/Export.h"
 #include "desk/project/Encoding.h"
 #include "desk/project/FindBeam.h"
-#include "desk/project/ProjectFile.h"
-#include "desk/project/SafeFile.h"
+#include "desk/project/Making.h"
 #include "desk/window/Changes.h"
-#include "desk/window/Languages.h"
 
 namespace Desk {
 
@@ -17,9 +14,23 @@ namespace {
 
 constexpr int RecoveryDelay = 2000;  // ms from a change to its recovery copy
 
-bool IsDrawingName(const QString& file)
+template <class Owner>
+bool LeavesPlan(const EditsOf<Owner>& edits)
 {
-    return file.endsWith(QLatin1String(".dxf"), Qt::CaseInsensitive);
+    const auto leaves = [](const Owner& owner) { return !IsInRange(owner.start) || !IsInRange(owner.end); };
+    return std::any_of(edits.added.begin(), edits.added.end(), leaves) ||
+           std::any_of(edits.changed.begin(), edits.changed.end(),
+                       [&](const auto& each) { return leaves(each.second); });
+}
+
+bool MovesBeams(const EditsOf<Beam>& edits, const std::vector<Beam>& beams)
+{
+    return !edits.added.empty() || !edits.removed.empty() ||
+           std::any_of(edits.changed.begin(), edits.changed.end(), [&](const auto& each) {
+               const auto& [index, beam] = each;
+               return !IsSame(beam.start, beams.at(index).start) || !IsSame(beam.end, beams[index].end) ||
+                      beam.spans != beams[index].spans;
+           });
 }
 
 }  // namespace
@@ -33,80 +44,6 @@ Document::Document(const QString& recoveryFolder, QObject* parent)
 }
 
 Document::~Document() = default;
-
-void Document::OpenSample() { Replace(SampleProject(), QString()); }
-
-void Document::Open(const QString& file)
-{
-    const QString path = QFileInfo(file).absoluteFilePath();
-    Opened opened = OpenFile(path.toStdString());
-    Replace(std::move(opened.project), path, std::move(opened.drawing));
-}
-
-bool Document::OpenLost(const LostWork& lost)
-{
-    Project copy = ReadProject(lost.copy.toStdString());
-    const QFileInfo file(lost.file);
-    bool fits = true;
-    if (IsDrawingName(lost.file)) {
-        std::optional<Drawing> drawing;
-        std::optional<Project> onDrawing;
-        if (file.exists() && file.lastModified() == lost.fileTime) {
-            drawing = OpenFile(lost.file.toStdString()).drawing;
-            onDrawing = drawing ? OntoDrawing(*drawing, copy) : std::nullopt;
-        }
-        fits = onDrawing.has_value();
-        if (fits) {
-            Replace(std::move(*onDrawing), lost.file, std::move(drawing));
-        } else {
-            Replace(std::move(copy), QString());
-        }
-    } else {
-        Replace(std::move(copy), lost.file);
-    }
-    m_fileTime = fits ? lost.fileTime
-                      : QDateTime();  // what another program saved since is not in the copy: saving asks
-    m_changes.resetClean();
-    if (!m_recovery.TakeOver(lost)) {
-        WriteRecoveryCopy();
-    }
-    return fits;
-}
-
-void Document::SaveAs(const QString& file)
-{
-    const QString path = QFileInfo(file).absoluteFilePath();
-    const bool isProject = path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
-    const bool asDrawing = IsDrawingName(path) || (m_drawing && !isProject);
-    Write(path.toStdString(), asDrawing);
-    if (asDrawing != m_drawing.has_value()) {
-        Open(path);
-        return;
-    }
-    m_file = path;
-    NoteFileTime();
-    m_changes.setClean();
-    DropRecoveryCopy();
-    emit FileChanged();
-}
-
-void Document::Write(const std::string& file, bool asDrawing) const
-{
-    if (!asDrawing) {
-        SaveProject(m_project, file);
-    } else if (m_drawing) {
-        m_drawing->Save(m_project, file);
-    } else {
-        const std::string companion = Drawing::CompanionOf(m_project);
-        if (!companion.empty()) {
-            ReplaceFile(CompanionFile(file), companion);
-        } else {
-            std::error_code isNone;
-            std::filesystem::remove(CompanionFile(file), isNone);  // of another drawing
-        }
-        ReplaceFile(file, FormatDrawing(m_project));
-    }
-}
 
 std::vector<std::size_t> Document::OpenTexts() const
 {
@@ -142,11 +79,6 @@ FieldRef Document::Target(FieldRef ref) const
     return ref;
 }
 
-bool Document::IsFileNewer() const
-{
-    return !m_file.isEmpty() && QFileInfo::exists(m_file) && QFileInfo(m_file).lastModified() != m_fileTime;
-}
-
 QString Document::SetText(const FieldRef& asked, const QString& text)
 {
     const FieldRef ref = Target(asked);
@@ -165,22 +97,6 @@ QString Document::SetText(const FieldRef& asked, const QString& text)
     return {};
 }
 
-void Document::DropRecoveryCopy()
-{
-    m_recoverySoon.stop();
-    m_recovery.Drop();
-}
-
-void Document::WriteRecoveryCopy()
-{
-    m_recoverySoon.stop();
-    try {
-        m_recovery.Write(m_project, m_file, m_fileTime);
-    } catch (const Failure& failure) {
-        emit RecoveryFailed(tr("There is no recovery copy: %1").arg(Told(failure)));
-    }
-}
-
 void Document::PutText(const FieldRef& ref, const std::string& text)
 {
     TextAt(m_project, ref) = text;
@@ -189,28 +105,29 @@ void Document::PutText(const FieldRef& ref, const std::string& text)
 
 void Document::Changed(const FieldRef& ref)
 {
-    if (!m_recoverySoon.isActive()) {
-        m_recoverySoon.start();
-    }
+    WriteCopySoon();
     emit TextChanged(ref);
 }
 
-void Document::Replace(Project project, const QString& file, std::optional<Drawing> drawing)
+void Document::WriteCopySoon()
 {
-    DropRecoveryCopy();
-    m_project = std::move(project);
-    m_drawing = std::move(drawing);
-    m_file = file;
-    NoteFileTime();
-    m_changes.clear();
-    emit Replaced();
-    emit OpenTextsChanged();
-    emit FileChanged();
+    if (!m_recoverySoon.isActive()) {
+        m_recoverySoon.start();
+    }
 }
 
-void Document::NoteFileTime()
+QString Document::Edit(Edits edits)
 {
-    m_fileTime = m_file.isEmpty() ? QDateTime() : QFileInfo(m_file).lastModified();
+    if (LeavesPlan(edits.beams) || LeavesPlan(edits.walls)) {
+        return tr("The plan ends 1000 km from its origin.");
+    }
+    if (m_drawing && MovesBeams(edits.beams, m_project.beams)) {
+        return tr(
+            "The beams of a drawing are where it has their outlines: they are added, moved and removed "
+            "in the drawing program. Saved as a project they can be changed here.");
+    }
+    m_changes.push(new OwnersChange(*this, std::move(edits)));
+    return {};
 }
 
 }  // namespace Desk

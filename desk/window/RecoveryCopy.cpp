@@ -109,11 +109,16 @@ std::optional<Project> OntoDrawing(const Drawing& drawing, const Project& copy)
         }
     }
     project.pointed = copy.pointed;
+    project.walls = copy.walls;
     for (std::size_t i = 0; i < copy.beams.size(); ++i) {
         Beam& beam = project.beams[i];
         for (const Field field : BeamFields()) {
             beam.*RowOf(field).ofBeam = copy.beams[i].*RowOf(field).ofBeam;
         }
+        beam.floor = copy.beams[i].floor;
+        beam.concreteGrade = copy.beams[i].concreteGrade;
+        beam.seismicClass = copy.beams[i].seismicClass;
+        beam.area = copy.beams[i].area;
         for (const InPlace& lost : copy.beams[i].inPlace) {
             if (lost.place.height <= 0.0) {
                 beam.inPlace.push_back(lost);
