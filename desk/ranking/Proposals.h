@@ -35,7 +35,8 @@ struct BeamProposal {
 enum class Known { All, Before };
 
 // Keeps what repeated requests need of a project, which it borrows: parsed once, in numbers. What it
-// answers depends on the project alone.
+// answers depends on the project alone. Requests for the fields of one beam after another are the cheapest,
+// and those that know what comes before in the order of beams. Not for two threads at once.
 class Proposer {
 public:
     explicit Proposer(const Project& project);
@@ -51,6 +52,9 @@ public:
     // not count. Empty for a wall's.
     [[nodiscard]] std::vector<Proposal> For(const FieldRef& ref, std::size_t most,
                                             Known known = Known::All) const;
+    // The place in the whole order, from 1, of the text that the annotation holds now; 0 for one that is
+    // empty or not in it.
+    [[nodiscard]] std::size_t PlaceOf(const FieldRef& ref, Known known = Known::All) const;
     // The best sets of texts for what a beam with a name or a section lacks, at most so many.
     [[nodiscard]] std::vector<BeamProposal> ForBeam(std::size_t beam, std::size_t most,
                                                     Known known = Known::All) const;

@@ -208,4 +208,15 @@ Ranking ChoicesFor(const Project& project, const FieldRef& ref, bool wantsTable)
     return row.ranker == Ranker::OtherWalls ? OtherWalls(project, row.ofWall) : Ranking();
 }
 
+Rankings::Rankings(const Project& project) : m_project(project) {}
+
+void Rankings::Update(std::size_t /*beam*/) {}
+void Rankings::UpdateWall(std::size_t /*wall*/) {}
+
+const Ranking& Rankings::For(const FieldRef& ref, bool wantsTable)
+{
+    m_ranking = ChoicesFor(m_project, ref, wantsTable);
+    return m_ranking;
+}
+
 }  // namespace Desk

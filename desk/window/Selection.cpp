@@ -1,5 +1,7 @@
 #include "desk/window/Selection.h"
 
+#include <algorithm>
+
 #include "desk/window/Ask.h"
 #include "desk/window/FieldNames.h"
 #include "desk/window/Steps.h"
@@ -28,9 +30,11 @@ Selection::Selection(Document& document, FloorView& floor, Docks& docks, PanelHo
     connect(&docks, &Docks::Left, &floor, [this] { m_floor.setFocus(); });
     connect(&docks, &Docks::Failed, this, &Selection::Said);
     connect(&panels, &PanelHost::Composed, this, &Selection::Take);
-    connect(&document, &Document::TextChanged, this, [this](const FieldRef& ref) {
-        m_floor.Refresh(ref);
-        Choose(ref);  // undo and redo go where they change something
+    connect(&document, &Document::TextChanged, this, [this](const FieldRef& ref) { m_floor.Refresh(ref); });
+    connect(&document, &Document::StepDone, this, [this](const std::vector<FieldRef>& changed) {
+        // Undo and redo go where they change something.
+        const bool isHere = m_chosen && std::count(changed.begin(), changed.end(), *m_chosen) != 0;
+        Choose(isHere ? m_chosen : changed.front());
     });
     connect(&document, &Document::Replaced, this, [this] {
         m_panels.Close();  // it serves an annotation of the project before

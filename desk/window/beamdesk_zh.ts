@@ -579,6 +579,10 @@
         <source>Saves the project or the drawing</source>
         <translation>保存工程或图纸</translation>
     </message>
+    <message>
+        <source>%1 texts</source>
+        <translation>%1 处标注</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>
