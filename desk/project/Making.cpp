@@ -119,6 +119,21 @@ void SetEnds(Wall& wall, const PlanPoint& start, const PlanPoint& end)
     wall.end = end;
 }
 
+void Shift(Beam& beam, const PlanPoint& by)
+{
+    beam.start = Shifted(beam.start, by);
+    beam.end = Shifted(beam.end, by);
+    for (InPlace& text : beam.inPlace) {
+        text.place.at = text.place.height > 0.0 ? Shifted(text.place.at, by) : text.place.at;
+    }
+}
+
+void Shift(Wall& wall, const PlanPoint& by)
+{
+    wall.start = Shifted(wall.start, by);
+    wall.end = Shifted(wall.end, by);
+}
+
 void TurnRound(Beam& beam, int spans)
 {
     std::swap(beam.start, beam.end);

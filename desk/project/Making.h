@@ -33,6 +33,10 @@ namespace Desk {
 void SetEnds(Beam& beam, const PlanPoint& start, const PlanPoint& end);
 void SetEnds(Wall& wall, const PlanPoint& start, const PlanPoint& end);
 
+// Elsewhere, with the texts in place that have a position of their own.
+void Shift(Beam& beam, const PlanPoint& by);
+void Shift(Wall& wall, const PlanPoint& by);
+
 // The end becomes the start, and with it all that is told from the start: bars and required areas at the
 // ends, spans, texts in place. The number of spans stands for spans that are not known.
 void TurnRound(Beam& beam, int spans);
