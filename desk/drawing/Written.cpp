@@ -78,7 +78,7 @@ private:
 
     void WriteField(std::size_t beam, Field field, const std::string& text)
     {
-        if (field == Field::Name && text.empty()) {
+        if (field == Field::Name && text.empty() && !IsEmptied(m_edited.beams[beam])) {
             throw Failure(Phrase("Desk", "%1: a label needs its name"), m_parts.project.beams[beam].name);
         }
         if (const std::optional<Source>& source = SourceOf(beam, field)) {
@@ -89,6 +89,13 @@ private:
         } else {
             AddLine(beam, text, field != Field::Elevation);
         }
+    }
+
+    // The whole label goes.
+    static bool IsEmptied(const Beam& beam)
+    {
+        return std::all_of(BeamFields().begin(), BeamFields().end(),
+                           [&](Field field) { return (beam.*RowOf(field).ofBeam).empty(); });
     }
 
     // Top, erection and bottom bars share a line: "2C14+(2C12);3C14".
