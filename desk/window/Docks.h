@@ -38,6 +38,7 @@ public:
 signals:
     void Picked(const Desk::FieldRef& ref);
     void Taken(const Desk::FieldRef& ref, const QString& text);
+    void DataEdited(const Desk::FieldRef& owner, Desk::Datum datum, const QString& text);
     void PanelAsked(const Desk::FieldRef& ref);        // for the drawing's text
     void PanelAskedInGrid(const Desk::FieldRef& ref);  // for the value in the properties
     void Left();                                       // the keyboard goes back to the drawing

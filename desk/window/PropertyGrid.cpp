@@ -1,10 +1,10 @@
 #include "desk/window/PropertyGrid.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "desk/window/FieldNames.h"
+#include "desk/window/Languages.h"
 
 namespace Desk {
 
@@ -55,10 +55,12 @@ PropertyGrid::PropertyGrid(QWidget* parent) : QTreeWidget(parent)
         }
     });
     connect(this, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* row, int column) {
-        const std::optional<FieldRef> ref = RefOf(row);
-        if (ref && column == ValueColumn && !m_isFilling) {
+        if (column == ValueColumn && !m_isFilling && !m_refs.empty()) {
+            const std::optional<FieldRef> ref = RefOf(row);
+            const auto datum = static_cast<std::size_t>(indexOfTopLevelItem(row)) - m_refs.size();
             // Later, since the answer fills the grid anew under the editor's feet.
-            m_edited = {*ref, row->text(ValueColumn)};
+            m_edited = {ref.value_or(m_refs.front()), ref ? std::nullopt : std::optional(m_data.at(datum)),
+                        row->text(ValueColumn)};
             QMetaObject::invokeMethod(this, &PropertyGrid::TellEdited, Qt::QueuedConnection);
         }
     });
@@ -72,37 +74,22 @@ void PropertyGrid::Show(const Project& project, const std::optional<FieldRef>& r
     m_refs = std::move(refs);
     if (!same) {
         clear();
+        m_data.clear();
     }
     if (!ref) {
         return;
     }
-    if (!same) {
-        for (const FieldRef& each : m_refs) {
+    for (const FieldRef& each : m_refs) {
+        if (!same) {
             AddText(project, each);
-        }
-        if (ref->isWall) {
-            AddFixed(tr("Thickness"), QStringLiteral("%1 mm").arg(project.walls[ref->index].thickness));
         } else {
-            const Beam& beam = project.beams[ref->index];
-            if (!beam.spans.empty()) {
-                QStringList lengths;
-                for (const double length : beam.spans) {
-                    lengths << QString::number(std::round(length), 'f', 0);
-                }
-                AddFixed(tr("Spans"), QStringLiteral("%1 mm").arg(lengths.join(QStringLiteral(" + "))));
-            }
-            AddFixed(tr("Floor"), QString::fromStdString(beam.floor));
-            AddFixed(tr("Concrete"), QStringLiteral("C%1").arg(beam.concreteGrade));
-            AddFixed(tr("Seismic class"), QString::number(beam.seismicClass));
-            AddFixed(tr("Required top"), QStringLiteral("%1 mm²").arg(beam.area.top));
-            AddFixed(tr("Required ends"),
-                     QStringLiteral("%1 / %2 mm²").arg(beam.area.leftEnd).arg(beam.area.rightEnd));
-            AddFixed(tr("Required bottom"), QStringLiteral("%1 mm²").arg(beam.area.bottom));
-        }
-    } else {
-        for (const FieldRef& each : m_refs) {
             RowOf(each)->setText(ValueColumn, QString::fromStdString(TextAt(project, each)));
         }
+    }
+    if (ref->isWall) {
+        ShowData(project.walls[ref->index]);
+    } else {
+        ShowData(project.beams[ref->index]);
     }
     setCurrentItem(RowOf(*ref), ValueColumn);
 }
@@ -119,7 +106,7 @@ QRect PropertyGrid::OnScreen(const FieldRef& ref) const
 
 void PropertyGrid::EditMarked()
 {
-    if (QTreeWidgetItem* const row = currentItem(); RefOf(row)) {
+    if (QTreeWidgetItem* const row = currentItem()) {
         editItem(row, ValueColumn);
     }
 }
@@ -138,7 +125,11 @@ void PropertyGrid::CommitEdit()
 void PropertyGrid::TellEdited()
 {
     if (const auto edited = std::exchange(m_edited, std::nullopt)) {
-        emit Edited(edited->first, edited->second);
+        if (edited->datum) {
+            emit DataEdited(edited->ref, *edited->datum, edited->text);
+        } else {
+            emit Edited(edited->ref, edited->text);
+        }
     }
 }
 
@@ -166,12 +157,20 @@ void PropertyGrid::AddText(const Project& project, const FieldRef& ref)
     setItemWidget(row, ButtonColumn, open);
 }
 
-void PropertyGrid::AddFixed(const QString& caption, const QString& value)
+template <class Owner>
+void PropertyGrid::ShowData(const Owner& owner)
 {
-    auto* const row = new QTreeWidgetItem(this, {caption, value});
-    row->setFlags(Qt::ItemIsEnabled);
-    for (const int column : {CaptionColumn, ValueColumn}) {
-        row->setForeground(column, palette().brush(QPalette::PlaceholderText));
+    const bool isFirst = m_data.empty();
+    int at = static_cast<int>(m_refs.size());
+    for (const DatumRow& datum : DataOf(owner)) {
+        if (isFirst) {
+            m_data.push_back(datum.datum);
+            auto* const row =
+                new QTreeWidgetItem(this, {QString::fromUtf8(IsChinese() ? datum.chinese : datum.english)});
+            row->setFlags(row->flags() | Qt::ItemIsEditable);
+            row->setForeground(CaptionColumn, palette().brush(QPalette::PlaceholderText));
+        }
+        topLevelItem(at++)->setText(ValueColumn, QString::fromStdString(DatumText(owner, datum.datum)));
     }
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "desk/Toolkit.h"
+#include "desk/project/Data.h"
 #include "desk/project/Fields.h"
 
 namespace Desk {
@@ -28,17 +29,26 @@ signals:
     void Picked(const Desk::FieldRef& ref);
     void PanelAsked(const Desk::FieldRef& ref);
     void Edited(const Desk::FieldRef& ref, const QString& text);
+    void DataEdited(const Desk::FieldRef& owner, Desk::Datum datum, const QString& text);
 
 private:
     void AddText(const Project& project, const FieldRef& ref);
-    void AddFixed(const QString& caption, const QString& value);
+    template <class Owner>
+    void ShowData(const Owner& owner);
     [[nodiscard]] std::optional<FieldRef> RefOf(QTreeWidgetItem* row) const;
     [[nodiscard]] QTreeWidgetItem* RowOf(const FieldRef& ref) const;
 
     void TellEdited();
 
-    std::vector<FieldRef> m_refs;                          // of the rows
-    std::optional<std::pair<FieldRef, QString>> m_edited;  // not yet told
+    struct Edit {
+        FieldRef ref;
+        std::optional<Datum> datum;  // nothing for the annotation itself
+        QString text;
+    };
+
+    std::vector<FieldRef> m_refs;  // of the first rows
+    std::vector<Datum> m_data;     // of those after them
+    std::optional<Edit> m_edited;  // not yet told
     bool m_isFilling = false;
 };
 

@@ -35,6 +35,7 @@ signals:
 
 private:
     void Take(const FieldRef& asked, const QString& text);
+    void Follow(const Exchanged& exchanged);
     void OpenPanelBeside(const QRect& field);
     void Show();
 
