@@ -1,11 +1,17 @@
-// What the desk costs without a screen: start to the first drawn floor, a click to the ranked list, memory.
+// What the desk costs without a screen: start to the first drawn floor, a click to the ranked list, the hit
+// rate, memory.
 #include <fstream>
 #include <iostream>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "desk/project/Encoding.h"
 #include "desk/project/Generate.h"
 #include "desk/project/ProjectFile.h"
+#include "desk/ranking/Proposals.h"
+#include "desk/ranking/Ranking.h"
+#include "desk/ranking/Replay.h"
 #include "desk/window/MainWindow.h"
 
 namespace {
@@ -22,6 +28,50 @@ double MemoryInUse()
     return static_cast<double>(resident) * 4096.0 / (1 << 20);
 }
 
+double Since(const QElapsedTimer& timer) { return static_cast<double>(timer.nsecsElapsed()) / 1e6; }
+
+// Every annotation of beams spread over the project.
+std::vector<FieldRef> SpreadRefs(const Project& project)
+{
+    constexpr std::size_t Beams = 50;
+    std::vector<FieldRef> refs;
+    for (std::size_t i = 0; i < Beams; ++i) {
+        const std::vector<FieldRef> ofBeam =
+            RefsOf(project, {false, i * (project.beams.size() - 1) / Beams});
+        refs.insert(refs.end(), ofBeam.begin(), ofBeam.end());
+    }
+    return refs;
+}
+
+template <class Click>
+void MeasureClicks(const char* name, const std::vector<FieldRef>& refs, Click click)
+{
+    double all = 0.0;
+    double worst = 0.0;
+    const FieldRef* worstRef = nullptr;
+    for (const FieldRef& ref : refs) {
+        QElapsedTimer timer;
+        timer.start();
+        click(ref);
+        const double ms = Since(timer);
+        all += ms;
+        if (ms > worst) {
+            worst = ms;
+            worstRef = &ref;
+        }
+    }
+    std::cout << "  " << name << ": " << all / static_cast<double>(refs.size()) << " ms on average, "
+              << worst << " at worst (" << RowOf(worstRef->field).key << ")\n";
+}
+
+// What the beams beside have, so that every list changes a little.
+std::string OtherText(const Project& project, const FieldRef& ref)
+{
+    const FieldRef beside{false, ref.index + 1, ref.field};
+    std::string text = TextAt(project, beside);
+    return text != TextAt(project, ref) ? text : ref.field == Field::Name ? "KL9999(1)" : "2B12";
+}
+
 void Measure(const char* name, const Project& project, const QString& file)
 {
     SaveProject(project, file.toStdString());
@@ -30,27 +80,50 @@ void Measure(const char* name, const Project& project, const QString& file)
     QtDisplay display{{Utf8FromGbk, GbkFromUtf8}};
     MainWindow window(display);
     window.show();
-    window.TheDocument().Open(file);
+    Document& document = window.TheDocument();
+    document.Open(file);
     window.grab();
-    const double drawn = static_cast<double>(timer.nsecsElapsed()) / 1e6;
-    std::cout << name << ": " << project.beams.size() << " beams; window to first drawn floor " << drawn
-              << " ms";
-    constexpr int Clicks = 20;
-    double worst = 0.0;
+    std::cout << name << ": " << project.beams.size() << " beams; window to first drawn floor "
+              << Since(timer) << " ms\n";
+    const std::vector<FieldRef> refs = SpreadRefs(project);
+    const auto click = [&window](const FieldRef& ref) { window.Choose(ref); };
+    MeasureClicks("click to ranked list", refs, click);
+    MeasureClicks("the same again", refs, click);
+    MeasureClicks("another text, to its list", refs, [&document](const FieldRef& ref) {
+        document.SetText(ref, QString::fromStdString(OtherText(document.Get(), ref)));
+    });
+    MeasureClicks("click after it", refs, click);
+
+    Project edited = project;
+    std::optional<Rankings> rankings;
+    std::optional<Proposer> proposer;
     timer.restart();
-    for (int i = 0; i < Clicks; ++i) {
-        QElapsedTimer click;
-        click.start();
-        const auto& fields = BeamFields();
-        window.Choose(FieldRef{false, static_cast<std::size_t>(i) % project.beams.size(),
-                               fields[static_cast<std::size_t>(i) % fields.size()]});
-        worst = std::max(worst, static_cast<double>(click.nsecsElapsed()) / 1e6);
+    rankings.emplace(edited);
+    proposer.emplace(edited);
+    std::cout << "  of that without the window: " << Since(timer) << " ms before the first\n";
+    const auto ask = [&](const FieldRef& ref) {
+        static_cast<void>(rankings->For(ref, false));
+        static_cast<void>(proposer->For(ref, 3));
+    };
+    MeasureClicks("lists and proposals", refs, ask);
+    MeasureClicks("the same again", refs, ask);
+    MeasureClicks("another text, to its list", refs, [&](const FieldRef& ref) {
+        TextAt(edited, ref) = OtherText(edited, ref);
+        rankings->Update(ref.index);
+        proposer->Update(ref.index);
+        ask(ref);
+    });
+
+    for (const Known known : {Known::All, Known::Before}) {
+        timer.restart();
+        const Hitrate::Tally all =
+            Hitrate::ReplayProject(project, known).front().Of(Hitrate::Order::Proposal);
+        std::cout << "  hit rate, " << (known == Known::All ? "hidden" : "drawn") << ": "
+                  << Since(timer) / 1e3 << " s for " << all.uses << " texts\n";
     }
-    std::cout << ", click to ranked list " << static_cast<double>(timer.nsecsElapsed()) / 1e6 / Clicks
-              << " ms (longest " << worst << "), redraw ";
     timer.restart();
     window.grab();
-    std::cout << static_cast<double>(timer.nsecsElapsed()) / 1e6 << " ms, " << MemoryInUse() << " MiB\n";
+    std::cout << "  redraw " << Since(timer) << " ms, " << MemoryInUse() << " MiB\n";
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <utility>
 #include <vector>
@@ -21,13 +22,16 @@ struct Traits {
     int height = 0;
     int stirrup = 0;
     int topBars = 0;
-    int along = NoRow;   // middle of the beam in half millimetres, in its direction
-    int across = NoRow;  // and in the other
-    int direction = 0;   // 1 along x, 2 along y, 3 just between; 0 for a beam without an extent
+    int x = 0;  // middle of the beam in half millimetres
+    int y = 0;
+    int direction = 0;  // 1 along x, 2 along y, 3 just between; 0 for a beam without an extent
     bool hasSection = false;
     bool hasBars = false;  // any annotation after the section
 
+    [[nodiscard]] bool HasRow() const { return direction == 1 || direction == 2; }
+    [[nodiscard]] int Along() const { return direction == 2 ? y : x; }
     static constexpr int NoRow = std::numeric_limits<int>::min();
+    static constexpr int RowReach = 1000;  // half millimetres
 };
 
 // Which traits of the beam that is asked for are known, by the fields that they come from.
@@ -48,6 +52,8 @@ class Likeness {
 public:
     static constexpr std::size_t MostVoters = 16;
     static constexpr std::size_t MostNear = 9;
+    // Points of the nearest, the next and so on.
+    static constexpr std::array<int, MostNear> NearnessAt = {3, 3, 3, 2, 2, 1, 1, 1, 1};
 
     explicit Likeness(std::size_t beams);
     void Set(std::size_t beam, const Traits& traits);
@@ -78,16 +84,22 @@ private:
     [[nodiscard]] Asked& At(int beam, int end) const;
     [[nodiscard]] const std::vector<int>& Points(Asked& asked, int end, KnownTraits known) const;
     [[nodiscard]] const std::vector<int>& NearOf(Asked& asked, int end, KnownTraits known) const;
+    struct Found {
+        std::uint64_t distance;
+        int beam;
+    };
+    void SortByX() const;
     void FindNear(int beam, int end, bool byBars, std::vector<int>& near) const;
-    template <class TextOf>
-    void Take(std::vector<Voter>& voters, const Asked& asked, const std::vector<int>& near,
-              const std::vector<int>& points, TextOf textOf) const;
+    void FindNear(int beam, int end, bool byBars, int direction, std::size_t room,
+                  std::vector<Found>& found) const;
 
     std::vector<Traits> m_traits;
     // The same by column, which the compiler turns into few instructions.
     std::vector<int> m_family, m_spans, m_serial, m_section, m_width, m_height, m_stirrup, m_topBars;
-    std::array<std::vector<int>, 3> m_along;  // by direction, NoRow for beams of the others
-    mutable std::array<Asked, 2> m_asked;     // of all beams, of those before
+    std::array<std::vector<int>, 2> m_along;  // by direction, NoRow for beams of the others
+    mutable bool m_isSorted = false;
+    mutable std::array<std::vector<std::pair<int, int>>, 3> m_byX;  // by direction: x and beam
+    mutable std::array<Asked, 2> m_asked;                           // of all beams, of those before
 };
 
 }  // namespace Desk

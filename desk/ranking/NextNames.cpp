@@ -29,6 +29,12 @@ int NumberIn(std::unordered_map<std::string, int>& numbers, const std::string& t
     return numbers.emplace(text, static_cast<int>(numbers.size()) + 1).first->second;
 }
 
+// Floors, and plans side by side, number their beams each for itself.
+std::string OnFloor(const std::string& type, const Beam& beam)
+{
+    return type + '\n' + std::to_string(beam.plan) + '\n' + beam.floor;
+}
+
 void Insert(std::vector<int>& beams, int beam)
 {
     beams.insert(std::lower_bound(beams.begin(), beams.end(), beam), beam);
@@ -52,21 +58,21 @@ bool HasOther(const std::vector<int>& beams, int beam, int end)
 
 }  // namespace
 
-void NextNames::Set(std::size_t beam, const std::string& name, Traits& traits)
+void NextNames::Set(std::size_t at, const Beam& beam, Traits& traits)
 {
-    const int number = static_cast<int>(beam);
-    if (m_forms[beam] != 0) {
-        Remove(m_ofForm[static_cast<std::size_t>(m_forms[beam])].beams, number);
-        Type& type = m_ofType[static_cast<std::size_t>(m_types[beam])];
+    const int number = static_cast<int>(at);
+    if (m_forms[at] != 0) {
+        Remove(m_ofForm[static_cast<std::size_t>(m_forms[at])].beams, number);
+        Type& type = m_onFloor[static_cast<std::size_t>(m_types[at])];
         Remove(type.beams, number);
-        const auto serial = type.bySerial.find(m_serials[beam]);
+        const auto serial = type.bySerial.find(m_serials[at]);
         Remove(serial->second, number);
         if (serial->second.empty()) {
             type.bySerial.erase(serial);
         }
-        m_forms[beam] = 0;
+        m_forms[at] = 0;
     }
-    const std::optional<BeamName> read = ReadName(name);
+    const std::optional<BeamName> read = ReadName(beam.name);
     if (!read) {
         return;
     }
@@ -76,15 +82,16 @@ void NextNames::Set(std::size_t beam, const std::string& name, Traits& traits)
     const std::string text = form.Text();
     const std::string suffix = text.substr(std::min(text.size(), text.find('(')));
     const int typeNumber = NumberIn(m_typeNumbers, read->type);
-    m_ofType.resize(std::max(m_ofType.size(), m_typeNumbers.size() + 1));
-    m_forms[beam] = NumberIn(m_formNumbers, text);
+    const int onFloor = NumberIn(m_onFloorNumbers, OnFloor(read->type, beam));
+    m_onFloor.resize(std::max(m_onFloor.size(), m_onFloorNumbers.size() + 1));
+    m_forms[at] = NumberIn(m_formNumbers, text);
     if (m_ofForm.size() <= m_formNumbers.size()) {
-        m_ofForm.push_back({read->type, suffix, typeNumber, {}});
+        m_ofForm.push_back({read->type, suffix, {}});
     }
-    m_types[beam] = typeNumber;
-    m_serials[beam] = read->serial;
-    Insert(m_ofForm[static_cast<std::size_t>(m_forms[beam])].beams, number);
-    Type& type = m_ofType[static_cast<std::size_t>(typeNumber)];
+    m_types[at] = onFloor;
+    m_serials[at] = read->serial;
+    Insert(m_ofForm[static_cast<std::size_t>(m_forms[at])].beams, number);
+    Type& type = m_onFloor[static_cast<std::size_t>(onFloor)];
     Insert(type.beams, number);
     Insert(type.bySerial[read->serial], number);
     traits.family = NumberIn(m_families, FamilyOf(read->type));
@@ -99,10 +106,10 @@ int NextNames::UsesOf(int form, int beam, int end) const
     return static_cast<int>(to - beams.begin()) - (std::binary_search(beams.begin(), to, beam) ? 1 : 0);
 }
 
-std::vector<NextNames::Serial> NextNames::SerialsFor(int type, int beam, int end,
+std::vector<NextNames::Serial> NextNames::SerialsFor(const std::string& called, int type, int beam, int end,
                                                      const std::vector<int>& near) const
 {
-    const Type& of = m_ofType[static_cast<std::size_t>(type)];
+    const Type& of = m_onFloor[static_cast<std::size_t>(type)];
     std::vector<Serial> serials;
     const auto isFree = [&](int serial) {
         const auto found = of.bySerial.find(serial);
@@ -117,20 +124,14 @@ std::vector<NextNames::Serial> NextNames::SerialsFor(int type, int beam, int end
             serials.push_back({from, worth, reason});
         }
     };
-    const auto called = [&](int serial) {
-        return Message(
-            m_ofForm[static_cast<std::size_t>(
-                         m_forms[static_cast<std::size_t>(of.bySerial.find(serial)->second.front())])]
-                .type +
-            std::to_string(serial));
-    };
+    const auto name = [&called](int serial) { return Message(called + std::to_string(serial)); };
 
     // The last one entered before the beam, else the last of all.
     const auto before = std::lower_bound(of.beams.begin(), of.beams.end(), beam);
     int last = before != of.beams.begin() ? *(before - 1) : of.beams.empty() ? beam : of.beams.back();
     if (last != beam && last < end) {
         const int serial = m_serials[static_cast<std::size_t>(last)];
-        add(serial + 1, MostSerial + 1, 4, {Phrase("Desk", "the number after %1"), called(serial)});
+        add(serial + 1, MostSerial + 1, 4, {Phrase("Desk", "the number after %1"), name(serial)});
     }
     std::vector<int> around;
     for (const int other : near) {
@@ -142,13 +143,13 @@ std::vector<NextNames::Serial> NextNames::SerialsFor(int type, int beam, int end
     if (around.size() == 2) {
         const auto [low, high] = std::minmax(around[0], around[1]);
         add(low + 1, high, 2,
-            {Phrase("Desk", "a free number between %1 and %2, near it"), called(low), called(high)});
+            {Phrase("Desk", "a free number between %1 and %2, near it"), name(low), name(high)});
     }
     add(1, MostSerial + 1, 1, Phrase("Desk", "the first free number"));
     return serials;
 }
 
-std::vector<NextName> NextNames::For(int beam, int end, const Likeness& likeness) const
+std::vector<NextName> NextNames::For(const Beam& asked, int beam, int end, const Likeness& likeness) const
 {
     std::vector<Voter> voters = likeness.Voters(beam, end, 0, m_forms);
     const auto isRecent = [beam](int other) { return other < beam && other >= beam - Recent; };
@@ -173,14 +174,15 @@ std::vector<NextName> NextNames::For(int beam, int end, const Likeness& likeness
         NextName name;
     };
     std::vector<Choice> choices;
-    std::map<int, std::vector<Serial>> serials;
+    std::map<std::string, std::vector<Serial>> serials;
     for (const auto& [form, worth] : votes) {
         const Form& of = m_ofForm[static_cast<std::size_t>(form)];
-        if (!serials.contains(of.typeNumber)) {
-            serials.emplace(of.typeNumber,
-                            SerialsFor(of.typeNumber, beam, end, likeness.Near(beam, end, 0)));
+        if (!serials.contains(of.type)) {
+            const auto type = m_onFloorNumbers.find(OnFloor(of.type, asked));
+            serials.emplace(of.type, SerialsFor(of.type, type == m_onFloorNumbers.end() ? 0 : type->second,
+                                                beam, end, likeness.Near(beam, end, 0)));
         }
-        for (const Serial& serial : serials.at(of.typeNumber)) {
+        for (const Serial& serial : serials.at(of.type)) {
             choices.push_back(
                 {worth * serial.worth,
                  UsesOf(form, beam, end),

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "desk/project/Failure.h"
+#include "desk/project/Project.h"
 #include "desk/ranking/Likeness.h"
 
 namespace Desk {
@@ -24,20 +25,21 @@ class NextNames {
 public:
     explicit NextNames(std::size_t beams) : m_forms(beams), m_serials(beams), m_types(beams) {}
     // A beam's name; fills in what likeness compares of it.
-    void Set(std::size_t beam, const std::string& name, Traits& traits);
+    void Set(std::size_t number, const Beam& beam, Traits& traits);
     // Of the form of a name, KL(3) for KL12(3), among the beams before an end but one.
     [[nodiscard]] int UsesOf(int form, int beam, int end) const;
-    // For a beam, by the beams before an end; best first. Never a number that its type has there.
-    [[nodiscard]] std::vector<NextName> For(int beam, int end, const Likeness& likeness) const;
+    // For a beam, by the beams before an end; best first. Never a number that its type has there on
+    // the beam's floor.
+    [[nodiscard]] std::vector<NextName> For(const Beam& asked, int beam, int end,
+                                            const Likeness& likeness) const;
 
 private:
     struct Form {
         std::string type;
         std::string suffix;
-        int typeNumber = 0;
         std::vector<int> beams;
     };
-    struct Type {
+    struct Type {                                  // on a floor, of a plan
         std::vector<int> beams;                    // in order
         std::map<int, std::vector<int>> bySerial;  // beams of each serial, in order
     };
@@ -47,15 +49,16 @@ private:
         Message reason;
     };
 
-    [[nodiscard]] std::vector<Serial> SerialsFor(int type, int beam, int end,
+    [[nodiscard]] std::vector<Serial> SerialsFor(const std::string& called, int type, int beam, int end,
                                                  const std::vector<int>& near) const;
 
-    std::unordered_map<std::string, int> m_formNumbers, m_typeNumbers, m_families, m_suffixes;
+    std::unordered_map<std::string, int> m_formNumbers, m_typeNumbers, m_onFloorNumbers, m_families,
+        m_suffixes;
     std::vector<Form> m_ofForm = std::vector<Form>(1);
-    std::vector<Type> m_ofType = std::vector<Type>(1);
-    std::vector<int> m_forms;    // of each beam; 0 without a readable name
-    std::vector<int> m_serials;  // of each beam
-    std::vector<int> m_types;
+    std::vector<Type> m_onFloor = std::vector<Type>(1);  // the first is empty
+    std::vector<int> m_forms;                            // of each beam; 0 without a readable name
+    std::vector<int> m_serials;                          // of each beam
+    std::vector<int> m_types;                            // on its floor, of each beam
 };
 
 }  // namespace Desk

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -50,6 +51,9 @@ struct Ranking {
 class Rankings {
 public:
     explicit Rankings(const Project& project);
+    ~Rankings();
+    Rankings(const Rankings&) = delete;
+    Rankings& operator=(const Rankings&) = delete;
 
     // After texts, spans or the required steel of a beam have changed, after texts of a wall have. Beams
     // and walls that were added or removed need new Rankings.
@@ -60,8 +64,8 @@ public:
     [[nodiscard]] const Ranking& For(const FieldRef& ref, bool wantsTable);
 
 private:
-    const Project& m_project;
-    Ranking m_ranking;
+    struct Kept;
+    std::unique_ptr<Kept> m_kept;
 };
 
 }  // namespace Desk

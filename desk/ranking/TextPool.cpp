@@ -13,9 +13,18 @@ int TextPool::Number(const std::string& text)
         return found->second;
     }
     const int number = static_cast<int>(m_texts.size());
-    m_texts.push_back({text, m_isReadable == nullptr || m_isReadable(text), {}});
+    m_texts.push_back({text,
+                       m_isReadable == nullptr || m_isReadable(text),
+                       m_isOfBars ? BarFactsOf(text) : BarFacts(),
+                       {}});
     m_numbers.emplace(m_texts.back().text, number);
     return number;
+}
+
+int TextPool::Find(const std::string& text) const
+{
+    const auto found = m_numbers.find(text);
+    return found == m_numbers.end() ? 0 : found->second;
 }
 
 TextUse TextPool::Before(int text, int end) const

@@ -9,6 +9,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "desk/ranking/NewBars.h"
+
 namespace Desk {
 
 // How often a text is used, and the last beam that has it.
@@ -27,11 +29,16 @@ struct UsesKnown {
 
 class TextPool {
 public:
-    // Texts that are no annotation of the pool's kind come after all others.
-    explicit TextPool(bool (*isReadable)(const std::string&) = nullptr) : m_isReadable(isReadable) {}
+    // Texts that are no annotation of the pool's kind come after all others. Of bars it keeps the facts.
+    explicit TextPool(bool (*isReadable)(const std::string&) = nullptr, bool isOfBars = false)
+        : m_isReadable(isReadable), m_isOfBars(isOfBars)
+    {
+    }
 
     // The number of a text, from 1; 0 is the empty text.
     int Number(const std::string& text);
+    // The same, 0 for a text that the pool does not know.
+    [[nodiscard]] int Find(const std::string& text) const;
     [[nodiscard]] const std::string& Text(int number) const
     {
         return m_texts[static_cast<std::size_t>(number)].text;
@@ -39,6 +46,11 @@ public:
     [[nodiscard]] bool IsReadable(int number) const
     {
         return m_texts[static_cast<std::size_t>(number)].isReadable;
+    }
+
+    [[nodiscard]] const BarFacts& FactsOf(int number) const
+    {
+        return m_texts[static_cast<std::size_t>(number)].facts;
     }
 
     void SetBeams(std::size_t count) { m_ofBeam.resize(count); }
@@ -62,6 +74,7 @@ private:
     struct Entry {
         std::string text;
         bool isReadable = true;
+        BarFacts facts;
         std::vector<int> beams;  // that have it, one entry a use, in order
     };
     // Texts with a use at the beams before an end, in reverse order: a new use moves its text but little.
@@ -78,6 +91,7 @@ private:
     [[nodiscard]] std::vector<int> Apart(const UsesKnown& known) const;
 
     bool (*m_isReadable)(const std::string&);
+    bool m_isOfBars;
     std::deque<Entry> m_texts = std::deque<Entry>(1);
     std::unordered_map<std::string_view, int> m_numbers;
     std::vector<std::vector<int>> m_ofBeam;

@@ -41,6 +41,7 @@ void MainWindow::ConnectCommands()
             m_selection->Choose(where(m_document.Get(), m_selection->Chosen(), by));
         });
     };
+    m_menus->On("nextEmpty", m_selection, &Selection::GoOn);
     step("nextField", &StepField, 1);
     step("previousField", &StepField, -1);
     step("nextOwner", &StepOwner, 1);

@@ -61,6 +61,7 @@ constexpr Row Rows[] = {
     {"inPlace", QT_TRANSLATE_NOOP("Desk", "Text in p&lace..."), QT_TRANSLATE_NOOP("Desk", "One more text of the beam, at one support or along one span"), {}, Qt::CTRL | Qt::Key_I},
     {"clear", QT_TRANSLATE_NOOP("Desk", "&Remove"), QT_TRANSLATE_NOOP("Desk", "Removes the chosen annotation"), QKeySequence::Delete},
     Line,
+    {"nextEmpty", QT_TRANSLATE_NOOP("Desk", "Next &without a text"), QT_TRANSLATE_NOOP("Desk", "The next annotation that a text is wanted for"), {}, Qt::Key_F6},
     {"nextField", QT_TRANSLATE_NOOP("Desk", "Next &annotation"), QT_TRANSLATE_NOOP("Desk", "The next annotation of the beam"), {}, Qt::CTRL | Qt::Key_Down},
     {"previousField", QT_TRANSLATE_NOOP("Desk", "&Previous annotation"), QT_TRANSLATE_NOOP("Desk", "The previous annotation of the beam"), {}, Qt::CTRL | Qt::Key_Up},
     {"nextOwner", QT_TRANSLATE_NOOP("Desk", "Next &beam"), QT_TRANSLATE_NOOP("Desk", "The same annotation of the next beam"), {}, Qt::CTRL | Qt::Key_Right},

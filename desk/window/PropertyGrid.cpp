@@ -57,10 +57,10 @@ PropertyGrid::PropertyGrid(QWidget* parent) : QTreeWidget(parent)
     connect(this, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* row, int column) {
         if (column == ValueColumn && !m_isFilling && !m_refs.empty()) {
             const std::optional<FieldRef> ref = RefOf(row);
-            const auto datum = static_cast<std::size_t>(indexOfTopLevelItem(row)) - m_refs.size();
+            const auto line = static_cast<std::size_t>(indexOfTopLevelItem(row)) - m_refs.size();
             // Later, since the answer fills the grid anew under the editor's feet.
-            m_edited = {ref.value_or(m_refs.front()), ref ? std::nullopt : std::optional(m_data.at(datum)),
-                        row->text(ValueColumn)};
+            m_edited = {ref.value_or(m_refs.front()),
+                        ref ? std::nullopt : std::optional(m_data.at(line).datum), row->text(ValueColumn)};
             QMetaObject::invokeMethod(this, &PropertyGrid::TellEdited, Qt::QueuedConnection);
         }
     });
@@ -70,28 +70,58 @@ void PropertyGrid::Show(const Project& project, const std::optional<FieldRef>& r
 {
     const QScopedValueRollback filling(m_isFilling, true);
     std::vector<FieldRef> refs = ref ? RefsOf(project, *ref) : std::vector<FieldRef>();
-    const bool same = refs == m_refs;
+    m_data = ref ? DataOf(project, *ref) : std::vector<DataLine>();
+    const auto count = static_cast<int>(refs.size() + m_data.size());
+    // Rows are made anew for another kind of owner alone: their buttons cost the most.
+    const bool sameRows = refs.size() == m_refs.size() && count == topLevelItemCount() &&
+                          (refs.empty() || refs.front().isWall == m_refs.front().isWall);
     m_refs = std::move(refs);
-    if (!same) {
+    if (!sameRows) {
         clear();
-        m_data.clear();
-    }
-    if (!ref) {
-        return;
-    }
-    for (const FieldRef& each : m_refs) {
-        if (!same) {
-            AddText(project, each);
-        } else {
-            RowOf(each)->setText(ValueColumn, QString::fromStdString(TextAt(project, each)));
+        for (const FieldRef& each : m_refs) {
+            AddText(each);
+        }
+        for (std::size_t i = 0; i < m_data.size(); ++i) {
+            AddData();
         }
     }
-    if (ref->isWall) {
-        ShowData(project.walls[ref->index]);
-    } else {
-        ShowData(project.beams[ref->index]);
+    int row = 0;
+    for (const FieldRef& each : m_refs) {
+        Fill(row++, FieldName(project, each), QString::fromStdString(TextAt(project, each)));
     }
-    setCurrentItem(RowOf(*ref), ValueColumn);
+    for (const DataLine& line : m_data) {
+        Fill(row++, line.caption, line.value);
+    }
+    if (ref) {
+        setCurrentItem(RowOf(*ref), ValueColumn);
+    }
+}
+
+void PropertyGrid::Fill(int row, const QString& caption, const QString& value)
+{
+    QTreeWidgetItem& item = *topLevelItem(row);
+    for (const auto& [column, text] : {std::pair(CaptionColumn, caption), std::pair(ValueColumn, value)}) {
+        if (item.text(column) != text) {
+            item.setText(column, text);
+        }
+    }
+}
+
+std::vector<PropertyGrid::DataLine> PropertyGrid::DataOf(const Project& project, const FieldRef& ref)
+{
+    std::vector<DataLine> lines;
+    const auto add = [&lines](const auto& owner) {
+        for (const DatumRow& row : Desk::DataOf(owner)) {
+            lines.push_back({row.datum, QString::fromUtf8(IsChinese() ? row.chinese : row.english),
+                             QString::fromStdString(DatumText(owner, row.datum))});
+        }
+    };
+    if (ref.isWall) {
+        add(project.walls[ref.index]);
+    } else {
+        add(project.beams[ref.index]);
+    }
+    return lines;
 }
 
 QRect PropertyGrid::OnScreen(const FieldRef& ref) const
@@ -133,10 +163,9 @@ void PropertyGrid::TellEdited()
     }
 }
 
-void PropertyGrid::AddText(const Project& project, const FieldRef& ref)
+void PropertyGrid::AddText(const FieldRef& ref)
 {
-    auto* const row =
-        new QTreeWidgetItem(this, {FieldName(project, ref), QString::fromStdString(TextAt(project, ref))});
+    auto* const row = new QTreeWidgetItem(this);
     row->setFlags(row->flags() | Qt::ItemIsEditable);
     if (PanelOf(ref) == PanelKind::None) {
         return;
@@ -157,21 +186,11 @@ void PropertyGrid::AddText(const Project& project, const FieldRef& ref)
     setItemWidget(row, ButtonColumn, open);
 }
 
-template <class Owner>
-void PropertyGrid::ShowData(const Owner& owner)
+void PropertyGrid::AddData()
 {
-    const bool isFirst = m_data.empty();
-    int at = static_cast<int>(m_refs.size());
-    for (const DatumRow& datum : DataOf(owner)) {
-        if (isFirst) {
-            m_data.push_back(datum.datum);
-            auto* const row =
-                new QTreeWidgetItem(this, {QString::fromUtf8(IsChinese() ? datum.chinese : datum.english)});
-            row->setFlags(row->flags() | Qt::ItemIsEditable);
-            row->setForeground(CaptionColumn, palette().brush(QPalette::PlaceholderText));
-        }
-        topLevelItem(at++)->setText(ValueColumn, QString::fromStdString(DatumText(owner, datum.datum)));
-    }
+    auto* const row = new QTreeWidgetItem(this);
+    row->setFlags(row->flags() | Qt::ItemIsEditable);
+    row->setForeground(CaptionColumn, palette().brush(QPalette::PlaceholderText));
 }
 
 // The rows of annotations are the first ones.

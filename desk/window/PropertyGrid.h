@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "desk/Toolkit.h"
@@ -32,22 +33,28 @@ signals:
     void DataEdited(const Desk::FieldRef& owner, Desk::Datum datum, const QString& text);
 
 private:
-    void AddText(const Project& project, const FieldRef& ref);
-    template <class Owner>
-    void ShowData(const Owner& owner);
-    [[nodiscard]] std::optional<FieldRef> RefOf(QTreeWidgetItem* row) const;
-    [[nodiscard]] QTreeWidgetItem* RowOf(const FieldRef& ref) const;
-
-    void TellEdited();
-
+    struct DataLine {
+        Datum datum;
+        QString caption;
+        QString value;
+    };
     struct Edit {
         FieldRef ref;
         std::optional<Datum> datum;  // nothing for the annotation itself
         QString text;
     };
 
+    [[nodiscard]] static std::vector<DataLine> DataOf(const Project& project, const FieldRef& ref);
+    void AddText(const FieldRef& ref);
+    void AddData();
+    void Fill(int row, const QString& caption, const QString& value);
+    [[nodiscard]] std::optional<FieldRef> RefOf(QTreeWidgetItem* row) const;
+    [[nodiscard]] QTreeWidgetItem* RowOf(const FieldRef& ref) const;
+
+    void TellEdited();
+
     std::vector<FieldRef> m_refs;  // of the first rows
-    std::vector<Datum> m_data;     // of those after them
+    std::vector<DataLine> m_data;  // of those after them
     std::optional<Edit> m_edited;  // not yet told
     bool m_isFilling = false;
 };

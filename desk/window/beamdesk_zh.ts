@@ -772,6 +772,110 @@
         <translation>清除(&amp;R)</translation>
     </message>
     <message>
+        <source>same section</source>
+        <translation>截面相同</translation>
+    </message>
+    <message>
+        <source>same stirrups</source>
+        <translation>箍筋相同</translation>
+    </message>
+    <message>
+        <source>same top bars</source>
+        <translation>上部通长筋相同</translation>
+    </message>
+    <message>
+        <source>next to it</source>
+        <translation>相邻</translation>
+    </message>
+    <message>
+        <source>same type</source>
+        <translation>类型相同</translation>
+    </message>
+    <message>
+        <source>near it</source>
+        <translation>在附近</translation>
+    </message>
+    <message>
+        <source>same width</source>
+        <translation>梁宽相同</translation>
+    </message>
+    <message>
+        <source>same height</source>
+        <translation>梁高相同</translation>
+    </message>
+    <message>
+        <source>same spans</source>
+        <translation>跨数相同</translation>
+    </message>
+    <message>
+        <source>in the same row</source>
+        <translation>在同一排</translation>
+    </message>
+    <message>
+        <source>neighbouring number</source>
+        <translation>编号相邻</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <translation>%1、%2、%3</translation>
+    </message>
+    <message>
+        <source>the number after %1</source>
+        <translation>%1 的下一编号</translation>
+    </message>
+    <message>
+        <source>a free number between %1 and %2, near it</source>
+        <translation>附近 %1 与 %2 之间的空号</translation>
+    </message>
+    <message>
+        <source>the first free number</source>
+        <translation>第一个空号</translation>
+    </message>
+    <message>
+        <source>a beam without a name</source>
+        <translation>未命名的梁</translation>
+    </message>
+    <message>
+        <source>as %1</source>
+        <translation>同 %1</translation>
+    </message>
+    <message>
+        <source>as %1: %2</source>
+        <translation>同 %1：%2</translation>
+    </message>
+    <message>
+        <source>Next &amp;without a text</source>
+        <translation>下一处空标注(&amp;W)</translation>
+    </message>
+    <message>
+        <source>The next annotation that a text is wanted for</source>
+        <translation>转到下一处需要标注而尚空的位置</translation>
+    </message>
+    <message>
+        <source>as the other end of its span</source>
+        <translation>同本跨另一端</translation>
+    </message>
+    <message>
+        <source>as the span next to it</source>
+        <translation>同相邻跨</translation>
+    </message>
+    <message>
+        <source>as the whole beam</source>
+        <translation>同本梁集中标注</translation>
+    </message>
+    <message>
+        <source>gives %1 of %2 mm²</source>
+        <translation>配 %1，需 %2 mm²</translation>
+    </message>
+    <message>
+        <source>new, gives %1 of %2 mm²</source>
+        <translation>新配，配 %1，需 %2 mm²</translation>
+    </message>
+    <message>
         <source>Removes the chosen annotation</source>
         <translation>清除选中的标注</translation>
     </message>
@@ -791,10 +895,6 @@
         <translation>键入以筛选，回车采用</translation>
     </message>
     <message>
-        <source>Enter takes the marked text, Ctrl+Enter the text as typed</source>
-        <translation>回车采用选中的文字，Ctrl+回车采用键入的文字</translation>
-    </message>
-    <message>
         <source>&amp;Table rows</source>
         <translation>查表(&amp;T)</translation>
     </message>
@@ -810,16 +910,34 @@
         <source>Opens the panel that composes the text by mouse</source>
         <translation>打开鼠标组合面板</translation>
     </message>
-</context>
-<context>
-    <name>Desk::ChoiceRows</name>
     <message>
-        <source>Free names of the project&apos;s kinds</source>
-        <translation>可用编号</translation>
+        <source>Enter to type, 1 to 3 take a proposal</source>
+        <translation>回车后键入，1 至 3 采用建议</translation>
     </message>
     <message>
-        <source>In the project</source>
-        <translation>工程已有</translation>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>候选文字</translation>
+    </message>
+    <message>
+        <source>Enter takes the marked text, Ctrl+Enter the text as typed.
+In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T or a click here first types a text that begins with such a digit.</source>
+        <translation>回车采用选中的文字，Ctrl+回车采用键入的文字。
+在图中按 1 至 3 采用建议，按 0 采用整根梁的建议；要键入以这些数字开头的文字，先按回车、Ctrl+T 或单击此处。</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::ChoiceModel</name>
+    <message>
+        <source>The first free name</source>
+        <translation>第一个可用编号</translation>
+    </message>
+    <message>
+        <source>The last text that the project supports</source>
+        <translation>工程中用过的标注到此为止</translation>
     </message>
     <message>
         <source>Guesses</source>
@@ -830,16 +948,16 @@
         <translation>查表</translation>
     </message>
     <message>
+        <source>Free names of the project&apos;s kinds</source>
+        <translation>可用编号</translation>
+    </message>
+    <message>
+        <source>In the project</source>
+        <translation>工程已有</translation>
+    </message>
+    <message>
         <source>%1 x</source>
         <translation>%1 处</translation>
-    </message>
-    <message>
-        <source>The first free name</source>
-        <translation>第一个可用编号</translation>
-    </message>
-    <message>
-        <source>The last text that the project supports</source>
-        <translation>工程中用过的标注到此为止</translation>
     </message>
 </context>
 <context>
@@ -1234,6 +1352,37 @@
     </message>
 </context>
 <context>
+    <name>Desk::ProposalRows</name>
+    <message>
+        <source>used %1 x</source>
+        <translation>用过 %1 处</translation>
+    </message>
+    <message>
+        <source>Proposals</source>
+        <translation>建议</translation>
+    </message>
+    <message>
+        <source>as it is; %1</source>
+        <translation>现有；%1</translation>
+    </message>
+    <message>
+        <source>%1
+%2
+%3 % of the votes</source>
+        <translation>%1
+%2
+得票 %3 %</translation>
+    </message>
+    <message>
+        <source>The whole beam %1</source>
+        <translation>整根梁 %1</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1：%2，%3</translation>
+    </message>
+</context>
+<context>
     <name>Desk::SearchLine</name>
     <message>
         <source>Find a name or text (Ctrl+F)</source>
@@ -1296,6 +1445,10 @@
     <message>
         <source>The text was not taken</source>
         <translation>文字未被采用</translation>
+    </message>
+    <message>
+        <source>No beam lacks a text</source>
+        <translation>没有缺标注的梁</translation>
     </message>
 </context>
 </TS>

@@ -70,7 +70,7 @@ bool TypesText(WPARAM key)
            (key >= 0x60 && key <= 0x6F) || (key >= 0xBA && key <= 0xE2);
 }
 
-bool KeyDown(HWND hEdit, WPARAM key)
+bool EditKeyDown(HWND hEdit, WPARAM key)
 {
     const Window& box = *FindBox(hEdit);
     const std::string_view text = box.text.View();
@@ -142,7 +142,7 @@ std::optional<LRESULT> WindowLayer::EditBoxDefault(HWND hEdit, UINT message, WPA
     switch (message) {
     case WM_LBUTTONDOWN: return Press(hEdit, GET_X_LPARAM(lParam));
     case WM_CHAR: return ifUsed(bTakesInput && TypeByte(hEdit, wParam));
-    case WM_KEYDOWN: return ifUsed(bTakesInput && KeyDown(hEdit, wParam));
+    case WM_KEYDOWN: return ifUsed(bTakesInput && EditKeyDown(hEdit, wParam));
     default: return std::nullopt;
     }
 }

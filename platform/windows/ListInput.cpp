@@ -32,7 +32,7 @@ int RowForKey(const Window& list, WPARAM key)
     }
 }
 
-std::optional<LRESULT> KeyDown(HWND hList, WPARAM key)
+std::optional<LRESULT> ListKeyDown(HWND hList, WPARAM key)
 {
     const Window& list = *FindList(hList);
     if (list.RowCount() == 0 || !TakesInput(list)) {
@@ -118,7 +118,7 @@ std::optional<LRESULT> WindowLayer::ListBoxDefault(HWND hList, UINT message, WPA
 {
     switch (message) {
     case WM_LBUTTONDOWN: return Press(hList, CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
-    case WM_KEYDOWN: return KeyDown(hList, wParam);
+    case WM_KEYDOWN: return ListKeyDown(hList, wParam);
     case WM_MOUSEWHEEL: return Wheel(hList, wParam);
     default: return RowMessage(hList, message, wParam, lParam);
     }
