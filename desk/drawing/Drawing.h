@@ -71,6 +71,11 @@ public:
     [[nodiscard]] std::optional<Pointed> PointTo(const Project& project, std::size_t text,
                                                  const PlanPoint& at) const;
 
+    // A new label's beam: the outline at a position that no labelled beam of the project lies on, with the
+    // position of the name; to be added after the project's beams. Nothing where there is no such outline,
+    // or no label that goes the same way, which a new one is made like.
+    [[nodiscard]] std::optional<Beam> LabelFor(const Project& project, const PlanPoint& at) const;
+
 private:
     std::unique_ptr<Parts> m_parts;
 };

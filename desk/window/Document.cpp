@@ -23,14 +23,23 @@ bool LeavesPlan(const EditsOf<Owner>& edits)
                        [&](const auto& each) { return leaves(each.second); });
 }
 
-bool MovesBeams(const EditsOf<Beam>& edits, const std::vector<Beam>& beams)
+// What a drawing does not take: other positions than its outlines', fewer beams than it has, and new ones
+// where it has no outline for a label.
+bool IsAgainst(const Drawing& drawing, const EditsOf<Beam>& edits, const Project& project)
 {
-    return !edits.added.empty() || !edits.removed.empty() ||
-           std::any_of(edits.changed.begin(), edits.changed.end(), [&](const auto& each) {
-               const auto& [index, beam] = each;
-               return !IsSame(beam.start, beams.at(index).start) || !IsSame(beam.end, beams[index].end) ||
-                      beam.spans != beams[index].spans;
-           });
+    const auto isMoved = [&](const auto& each) {
+        const Beam& before = project.beams.at(each.first);
+        const Beam& now = each.second;
+        return !IsSame(now.start, before.start) || !IsSame(now.end, before.end) ||
+               now.spans != before.spans;
+    };
+    const auto hasNoOutline = [&](const Beam& beam) {
+        const PlanPoint middle{(beam.start.x + beam.end.x) / 2.0, (beam.start.y + beam.end.y) / 2.0};
+        return beam.places.empty() || !drawing.LabelFor(project, middle);
+    };
+    return std::any_of(edits.changed.begin(), edits.changed.end(), isMoved) ||
+           std::any_of(edits.added.begin(), edits.added.end(), hasNoOutline) ||
+           (!edits.removed.empty() && *edits.removed.begin() < drawing.Get().beams.size());
 }
 
 }  // namespace
@@ -135,10 +144,10 @@ QString Document::Edit(Edits edits)
     if (LeavesPlan(edits.beams) || LeavesPlan(edits.walls)) {
         return tr("The plan ends 1000 km from its origin.");
     }
-    if (m_drawing && MovesBeams(edits.beams, m_project.beams)) {
+    if (m_drawing && IsAgainst(*m_drawing, edits.beams, m_project)) {
         return tr(
-            "The beams of a drawing are where it has their outlines: they are added, moved and removed "
-            "in the drawing program. Saved as a project they can be changed here.");
+            "The beams of a drawing are where it has their outlines, which the drawing program changes. "
+            "Saved as a project they can be changed here.");
     }
     m_changes.push(new OwnersChange(*this, std::move(edits)));
     return {};

@@ -47,20 +47,37 @@ bool Editing::Do(const QString& what, Edits edits)
 
 void Editing::AddBeam(const PlanPoint& start, const PlanPoint& end)
 {
+    Beam beam;
+    beam.start = start;
+    beam.end = end;
+    AddNamed(std::move(beam), tr("New beam %1"));
+}
+
+void Editing::AddLabel(const PlanPoint& at)
+{
+    const Drawing* const from = m_document.From();
+    if (std::optional<Beam> beam = from != nullptr ? from->LabelFor(m_document.Get(), at) : std::nullopt) {
+        AddNamed(std::move(*beam), tr("New label %1"));
+    } else {
+        emit Said(tr("There is no outline of one beam without a label"));
+    }
+}
+
+void Editing::AddNamed(Beam beam, const QString& what)
+{
     Project with = m_document.Get();
-    Beam& beam = with.beams.emplace_back();
-    if (with.beams.size() > 1) {
-        const Beam& last = with.beams[with.beams.size() - 2];
+    if (!with.beams.empty()) {
+        const Beam& last = with.beams.back();
         beam.floor = last.floor;
         beam.concreteGrade = last.concreteGrade;
         beam.seismicClass = last.seismicClass;
     }
-    beam.start = start;
-    beam.end = end;
+    with.beams.push_back(beam);
     beam.name = NewBeamName(with);
+    const QString name = QString::fromStdString(beam.name);
     Edits edits;
-    edits.beams.added.push_back(beam);
-    if (Do(tr("New beam %1").arg(QString::fromStdString(beam.name)), std::move(edits))) {
+    edits.beams.added.push_back(std::move(beam));
+    if (Do(what.arg(name), std::move(edits))) {
         m_selection.Choose(FieldRef{false, m_document.Get().beams.size() - 1, Field::Section});
     }
 }
@@ -157,7 +174,7 @@ void Editing::Remove()
     for (const FieldRef& owner : owners) {
         if (owner.isWall) {
             edits.walls.removed.insert(owner.index);
-        } else if (m_document.From() != nullptr) {
+        } else if (m_document.From() != nullptr && owner.index < m_document.From()->Get().beams.size()) {
             EmptyTexts(edits.beams.changed[owner.index] = m_document.Get().beams[owner.index]);
         } else {
             edits.beams.removed.insert(owner.index);

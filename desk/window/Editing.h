@@ -23,6 +23,8 @@ public:
     // that it needs next is chosen.
     void AddBeam(const PlanPoint& start, const PlanPoint& end);
     void AddWall(const PlanPoint& start, const PlanPoint& end);
+    // On a drawing: a label for the outline there.
+    void AddLabel(const PlanPoint& at);
 
     // These are for the chosen beams and walls.
     [[nodiscard]] std::vector<FieldRef> Owners() const;
@@ -45,6 +47,7 @@ signals:
 private:
     using EditBeam = std::function<void(Beam&)>;
     using EditWall = std::function<void(Wall&)>;
+    void AddNamed(Beam beam, const QString& what);
     // Answers whether it was done.
     bool Do(const QString& what, Edits edits);
     bool ChangeEach(const QString& what, const std::vector<FieldRef>& owners, const EditBeam& beam,

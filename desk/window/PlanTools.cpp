@@ -1,5 +1,6 @@
 #include "desk/window/PlanTools.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "desk/plan/Points.h"
@@ -35,13 +36,19 @@ PlanTools::PlanTools(Document& document, FloorView& floor, Editing& editing)
 void PlanTools::Start(Tool tool)
 {
     End();
-    if (m_document.From() != nullptr && tool != Tool::Wall) {
-        emit Said(tr("The beams of a drawing are where it has their outlines; walls can be added"));
-        return;
+    const bool isOnDrawing = m_document.From() != nullptr;
+    if (tool == Tool::Move || tool == Tool::Copy) {
+        const std::vector<FieldRef> owners = m_editing.Owners();
+        const bool hasBeam =
+            std::any_of(owners.begin(), owners.end(), [](const FieldRef& owner) { return !owner.isWall; });
+        if (owners.empty() || (isOnDrawing && hasBeam)) {
+            emit Said(owners.empty() ? tr("Choose a beam or a wall first")
+                                     : tr("The beams of a drawing are where it has their outlines"));
+            return;
+        }
     }
-    if ((tool == Tool::Move || tool == Tool::Copy) && m_editing.Owners().empty()) {
-        emit Said(tr("Choose a beam or a wall first"));
-        return;
+    if (isOnDrawing && tool == Tool::Beam) {
+        tool = Tool::Label;
     }
     m_tool = tool;
     m_floor.StartPointing([this](const PlanPoint& at) { Press(at); },
@@ -98,11 +105,14 @@ bool PlanTools::TakeKey(const QKeyEvent& key)
 
 void PlanTools::Point(const PlanPoint& at)
 {
-    m_pointer = m_floor.CaughtAt(at, m_first);
+    m_pointer = m_tool == Tool::Label ? at : m_floor.CaughtAt(at, m_first);
     ShowSketch();
 }
 
-void PlanTools::Press(const PlanPoint& at) { Take(m_floor.CaughtAt(at, m_first)); }
+void PlanTools::Press(const PlanPoint& at)
+{
+    Take(m_tool == Tool::Label ? at : m_floor.CaughtAt(at, m_first));
+}
 
 void PlanTools::TakeTyped()
 {
@@ -121,6 +131,10 @@ void PlanTools::Take(const PlanPoint& at)
 {
     m_last = at;
     m_pointer = at;
+    if (m_tool == Tool::Label) {
+        m_editing.AddLabel(at);
+        return;
+    }
     if (!m_first) {
         m_first = at;
     } else if (!IsSame(*m_first, at)) {
@@ -138,6 +152,7 @@ void PlanTools::Take(const PlanPoint& at)
             End();
             m_editing.Move(by);
             return;
+        case Tool::Label:
         case Tool::None: break;
         }
     }
@@ -176,6 +191,7 @@ void PlanTools::Ask()
     const bool isFirst = !m_first;
     switch (m_tool) {
     case Tool::Beam: m_wanted->setText(isFirst ? tr("Start of the beam") : tr("End of the beam")); break;
+    case Tool::Label: m_wanted->setText(tr("Outline without a label")); break;
     case Tool::Wall: m_wanted->setText(isFirst ? tr("Start of the wall") : tr("End of the wall")); break;
     case Tool::Move: m_wanted->setText(isFirst ? tr("Move from") : tr("Move to")); break;
     case Tool::Copy: m_wanted->setText(isFirst ? tr("Copy from") : tr("Copy to")); break;

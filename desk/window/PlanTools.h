@@ -17,8 +17,9 @@ public:
     // Its line for coordinates lies over the plan while a tool is in use.
     PlanTools(Document& document, FloorView& floor, Editing& editing);
 
-    enum class Tool { None, Beam, Wall, Move, Copy };
-    // Asks for two positions again and again, for Move once, until it is left.
+    enum class Tool { None, Beam, Label, Wall, Move, Copy };
+    // Asks for two positions again and again, for Move once, until it is left. On a drawing Beam is Label,
+    // which asks for one.
     void Start(Tool tool);
     [[nodiscard]] bool IsActive() const { return m_tool != Tool::None; }
     // Forgets the first position, or leaves the tool where there is none.

@@ -994,8 +994,8 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <translation>平面图的范围为原点起 1000 km。</translation>
     </message>
     <message>
-        <source>The beams of a drawing are where it has their outlines: they are added, moved and removed in the drawing program. Saved as a project they can be changed here.</source>
-        <translation>图纸中的梁以图上的轮廓线为准，须在绘图程序中增加、移动和删除。另存为工程后可在此修改。</translation>
+        <source>The beams of a drawing are where it has their outlines, which the drawing program changes. Saved as a project they can be changed here.</source>
+        <translation>图纸中的梁以图上的轮廓线为准，轮廓线须在绘图程序中修改。另存为工程后可在此修改。</translation>
     </message>
 </context>
 <context>
@@ -1063,6 +1063,14 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>%1 removed</source>
         <translation>%1 已清除</translation>
+    </message>
+    <message>
+        <source>New label %1</source>
+        <translation>新标注 %1</translation>
+    </message>
+    <message>
+        <source>There is no outline of one beam without a label</source>
+        <translation>此处没有未标注的单根梁轮廓</translation>
     </message>
 </context>
 <context>
@@ -1193,10 +1201,6 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
 <context>
     <name>Desk::PlanTools</name>
     <message>
-        <source>The beams of a drawing are where it has their outlines; walls can be added</source>
-        <translation>图纸中的梁以图上的轮廓线为准；可以添加墙</translation>
-    </message>
-    <message>
         <source>Choose a beam or a wall first</source>
         <translation>请先选择一根梁或一道墙</translation>
     </message>
@@ -1243,6 +1247,14 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>%1: press a position on the plan or type it; Esc goes back</source>
         <translation>%1：请在平面图上点取或输入坐标，按 Esc 返回</translation>
+    </message>
+    <message>
+        <source>The beams of a drawing are where it has their outlines</source>
+        <translation>图纸中的梁以图上的轮廓线为准</translation>
+    </message>
+    <message>
+        <source>Outline without a label</source>
+        <translation>未标注的梁轮廓</translation>
     </message>
 </context>
 <context>

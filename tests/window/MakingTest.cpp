@@ -288,34 +288,77 @@ TEST_F(WindowMakingTest, ProjectsComeFromTextsAndDrawingsAndGoToPlans)
     EXPECT_EQ(ReadProject(project.toStdString()).beams.size(), 3U);
 }
 
-TEST_F(WindowMakingTest, OfADrawingLabelsGoAndBeamsStay)
+TEST_F(WindowMakingTest, OfADrawingLabelsComeAndGoAndOutlinesStay)
 {
     const QTemporaryDir folder;
     const QString file = folder.filePath("floor.dxf");
     document.SaveAs(file);
     ASSERT_NE(document.From(), nullptr);
     const std::size_t beams = Now().beams.size();
+    const std::size_t walls = Now().walls.size();
     const Beam before = Now().beams[0];
-    Trigger("beam");
-    EXPECT_FALSE(window.Drawing().IsPointing());
-    EXPECT_TRUE(window.statusBar()->currentMessage().contains("outlines"));
-    window.Choose(FieldRef{false, 0, Field::Name});
+    const FieldRef name{false, 0, Field::Name};
+    window.Choose(name);
+    for (const char* const tool : {"move", "copy"}) {
+        Trigger(tool);
+        EXPECT_TRUE(window.statusBar()->currentMessage().contains("outlines")) << tool;
+    }
     Trigger("clear");
-    EXPECT_EQ(Text({false, 0, Field::Name}), before.name);
+    EXPECT_EQ(Text(name), before.name) << "a label needs it";
     Trigger("delete");
-    EXPECT_EQ(Text({false, 0, Field::Name}), "");
+    EXPECT_EQ(Text(name), "");
     EXPECT_EQ(Now().beams.size(), beams);
     Trigger("wall");
     Type("0,0");
     Type("@0,3000");
     Leave();
-    const std::size_t walls = Now().walls.size();
     document.SaveAs(file);
     document.Open(file);
-    EXPECT_EQ(Now().beams.size(), beams - 1);
-    EXPECT_EQ(Now().walls.size(), walls);
+    ASSERT_EQ(Now().beams.size(), beams - 1);
+    EXPECT_EQ(Now().walls.size(), walls + 1);
     EXPECT_NE(Now().beams[0].name, before.name);
     EXPECT_TRUE(document.OpenTexts().empty()) << "its texts in place went too";
+
+    // A new label for the outline that is left.
+    const PlanPoint on{before.start.x * 0.6 + before.end.x * 0.4,
+                       before.start.y * 0.6 + before.end.y * 0.4};
+    const auto middle = [](const Beam& beam) {
+        return PlanPoint{(beam.start.x + beam.end.x) / 2, (beam.start.y + beam.end.y) / 2};
+    };
+    Trigger("beam");
+    Press(middle(Now().beams[1]));
+    EXPECT_TRUE(window.statusBar()->currentMessage().contains("no outline")) << "it has a label";
+    Press(on);
+    Leave();
+    ASSERT_EQ(Now().beams.size(), beams);
+    const FieldRef added{false, beams - 1, Field::Section};
+    EXPECT_EQ(window.Chosen(), added);
+    const std::string newName = Now().beams.back().name;
+    const std::pair<Field, const char*> texts[] = {{Field::Section, "350x800"},
+                                                   {Field::Stirrup, "A10@100/200(4)"},
+                                                   {Field::TopBars, "2B25"},
+                                                   {Field::BottomBars, "6B22 2/4"},
+                                                   {Field::LeftEnd, "5B25"}};
+    for (const auto& [field, text] : texts) {
+        document.SetText({false, beams - 1, field}, text);
+    }
+    const auto lost = OntoDrawing(*document.From(), ParseProject(FormatProject(Now()), "copy"));
+    ASSERT_TRUE(lost);
+    EXPECT_EQ(lost->beams.back().stirrup, "A10@100/200(4)");
+    EXPECT_EQ(lost->beams.back().places.size(), Now().beams.back().places.size());
+    document.SaveAs(file);
+    document.Open(file);
+    ASSERT_EQ(Now().beams.size(), beams);
+    EXPECT_TRUE(document.OpenTexts().empty());
+    const auto found = std::find_if(Now().beams.begin(), Now().beams.end(),
+                                    [&](const Beam& beam) { return beam.name == newName; });
+    ASSERT_NE(found, Now().beams.end());
+    EXPECT_EQ(found->section + found->stirrup + found->topBars + found->bottomBars,
+              "350x800A10@100/200(4)2B256B22 2/4");
+    ASSERT_EQ(found->inPlace.size(), 1U);
+    EXPECT_EQ(found->inPlace[0].text + std::to_string(found->inPlace[0].number), "5B251");
+    EXPECT_NEAR(found->start.x, before.start.x, 500);
+    EXPECT_NEAR(found->end.x, before.end.x, 500);
 }
 
 }  // namespace
