@@ -32,8 +32,10 @@ public:
                 while (Now(ref).empty() && !TextAt(m_wanted, ref).empty()) {
                     GoTo(ref);
                     Give(ref);
-                    if (Now(ref) != TextAt(m_wanted, ref)) {
-                        std::cerr << "not taken: " << TextAt(m_wanted, ref) << '\n';
+                    if (!Now(ref).empty() && Now(ref) != TextAt(m_wanted, ref)) {
+                        std::cerr << "not taken: " << TextAt(m_wanted, ref) << " for " << RowOf(field).key
+                                  << " of " << m_wanted.beams[beam].name << ", there is " << Now(ref)
+                                  << '\n';
                         return false;
                     }
                 }

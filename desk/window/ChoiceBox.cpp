@@ -46,7 +46,6 @@ void ChoiceBox::SetChoices(const QString& owner, const QString& field, const QSt
 {
     m_isEmpty = false;
     setEnabled(true);
-    SetTyping(false);
     m_owner->setText(owner + QStringLiteral("   ") + field);
     m_present->setText(present.isEmpty() ? tr("no text yet") : present);
     {
@@ -54,6 +53,7 @@ void ChoiceBox::SetChoices(const QString& owner, const QString& field, const QSt
         m_typed->setText(QString());  // not to be taken back within the line
     }
     m_proposals->Fill(proposed, present);
+    SetTyping(false);
     m_rows->Fill(&ranking, present, areNames);
 }
 
@@ -66,6 +66,7 @@ void ChoiceBox::Clear()
     m_proposals->Fill({}, {});
     m_rows->Fill(nullptr, {}, false);
     m_typed->setText(QString());
+    SetTyping(false);
 }
 
 void ChoiceBox::StartTyping(const QString& first)
@@ -80,8 +81,8 @@ void ChoiceBox::SetTyping(bool typing)
 {
     m_isTyping = typing;
     m_proposals->SetKeysTake(!typing);
-    m_typed->setPlaceholderText(typing ? tr("Type to narrow, Enter takes")
-                                       : tr("Enter to type, 1 to 3 take a proposal"));
+    m_typed->setPlaceholderText(!m_proposals->HasKeys() ? tr("Type to narrow, Enter takes")
+                                                        : tr("Enter to type, 1 to 3 take a proposal"));
 }
 
 void ChoiceBox::Take(const QString& text)

@@ -20,6 +20,12 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override
+    {
+        constexpr int Air = 4;  // pixels
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, Air);
+    }
 };
 
 }  // namespace Desk

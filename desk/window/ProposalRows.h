@@ -30,6 +30,7 @@ public:
     void Fill(const Proposed& proposed, const QString& present);
     // Whether keys take: they do not while a text is typed.
     void SetKeysTake(bool take);
+    [[nodiscard]] bool HasKeys() const { return m_keysTake && m_keys.join(QString()).size() > 0; }
     // Takes what a key, "1" to "3" or "0" for the whole beam, is for; false where it is for nothing.
     bool TakeByKey(const QString& key);
     void Retranslate();

@@ -580,8 +580,112 @@
         <translation>保存工程或图纸</translation>
     </message>
     <message>
+        <source>same section</source>
+        <translation>截面相同</translation>
+    </message>
+    <message>
+        <source>same stirrups</source>
+        <translation>箍筋相同</translation>
+    </message>
+    <message>
+        <source>same top bars</source>
+        <translation>上部筋相同</translation>
+    </message>
+    <message>
+        <source>next to it</source>
+        <translation>相邻</translation>
+    </message>
+    <message>
+        <source>same type</source>
+        <translation>类型相同</translation>
+    </message>
+    <message>
+        <source>near it</source>
+        <translation>相近</translation>
+    </message>
+    <message>
+        <source>same width</source>
+        <translation>梁宽相同</translation>
+    </message>
+    <message>
+        <source>same height</source>
+        <translation>梁高相同</translation>
+    </message>
+    <message>
+        <source>same spans</source>
+        <translation>跨数相同</translation>
+    </message>
+    <message>
+        <source>in the same row</source>
+        <translation>同一开间</translation>
+    </message>
+    <message>
+        <source>neighbouring number</source>
+        <translation>序号相邻</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <translation>%1、%2、%3</translation>
+    </message>
+    <message>
+        <source>the number after %1</source>
+        <translation>接%1编号</translation>
+    </message>
+    <message>
+        <source>a free number between %1 and %2, near it</source>
+        <translation>附近%1与%2之间的空号</translation>
+    </message>
+    <message>
+        <source>the first free number</source>
+        <translation>第一个空号</translation>
+    </message>
+    <message>
+        <source>a beam without a name</source>
+        <translation>未编号的梁</translation>
+    </message>
+    <message>
+        <source>as %1</source>
+        <translation>同%1</translation>
+    </message>
+    <message>
+        <source>as %1: %2</source>
+        <translation>同%1：%2</translation>
+    </message>
+    <message>
+        <source>as the other end of its span</source>
+        <translation>同本跨另一端</translation>
+    </message>
+    <message>
+        <source>as the span next to it</source>
+        <translation>同邻跨</translation>
+    </message>
+    <message>
+        <source>as the whole beam</source>
+        <translation>同集中标注</translation>
+    </message>
+    <message>
+        <source>gives %1 of %2 mm²</source>
+        <translation>实配%1，需%2 mm²</translation>
+    </message>
+    <message>
+        <source>new, gives %1 of %2 mm²</source>
+        <translation>新配，实配%1，需%2 mm²</translation>
+    </message>
+    <message>
         <source>%1 texts</source>
         <translation>%1 处标注</translation>
+    </message>
+    <message>
+        <source>Next &amp;without a text</source>
+        <translation>下一处空标注(&amp;W)</translation>
+    </message>
+    <message>
+        <source>The next annotation that a text is wanted for</source>
+        <translation>转到下一处需要标注而尚空的位置</translation>
     </message>
     <message>
         <source>%1: a plan is written as .pdf or .svg</source>
@@ -772,110 +876,6 @@
         <translation>清除(&amp;R)</translation>
     </message>
     <message>
-        <source>same section</source>
-        <translation>截面相同</translation>
-    </message>
-    <message>
-        <source>same stirrups</source>
-        <translation>箍筋相同</translation>
-    </message>
-    <message>
-        <source>same top bars</source>
-        <translation>上部通长筋相同</translation>
-    </message>
-    <message>
-        <source>next to it</source>
-        <translation>相邻</translation>
-    </message>
-    <message>
-        <source>same type</source>
-        <translation>类型相同</translation>
-    </message>
-    <message>
-        <source>near it</source>
-        <translation>在附近</translation>
-    </message>
-    <message>
-        <source>same width</source>
-        <translation>梁宽相同</translation>
-    </message>
-    <message>
-        <source>same height</source>
-        <translation>梁高相同</translation>
-    </message>
-    <message>
-        <source>same spans</source>
-        <translation>跨数相同</translation>
-    </message>
-    <message>
-        <source>in the same row</source>
-        <translation>在同一排</translation>
-    </message>
-    <message>
-        <source>neighbouring number</source>
-        <translation>编号相邻</translation>
-    </message>
-    <message>
-        <source>%1, %2</source>
-        <translation>%1、%2</translation>
-    </message>
-    <message>
-        <source>%1, %2, %3</source>
-        <translation>%1、%2、%3</translation>
-    </message>
-    <message>
-        <source>the number after %1</source>
-        <translation>%1 的下一编号</translation>
-    </message>
-    <message>
-        <source>a free number between %1 and %2, near it</source>
-        <translation>附近 %1 与 %2 之间的空号</translation>
-    </message>
-    <message>
-        <source>the first free number</source>
-        <translation>第一个空号</translation>
-    </message>
-    <message>
-        <source>a beam without a name</source>
-        <translation>未命名的梁</translation>
-    </message>
-    <message>
-        <source>as %1</source>
-        <translation>同 %1</translation>
-    </message>
-    <message>
-        <source>as %1: %2</source>
-        <translation>同 %1：%2</translation>
-    </message>
-    <message>
-        <source>Next &amp;without a text</source>
-        <translation>下一处空标注(&amp;W)</translation>
-    </message>
-    <message>
-        <source>The next annotation that a text is wanted for</source>
-        <translation>转到下一处需要标注而尚空的位置</translation>
-    </message>
-    <message>
-        <source>as the other end of its span</source>
-        <translation>同本跨另一端</translation>
-    </message>
-    <message>
-        <source>as the span next to it</source>
-        <translation>同相邻跨</translation>
-    </message>
-    <message>
-        <source>as the whole beam</source>
-        <translation>同本梁集中标注</translation>
-    </message>
-    <message>
-        <source>gives %1 of %2 mm²</source>
-        <translation>配 %1，需 %2 mm²</translation>
-    </message>
-    <message>
-        <source>new, gives %1 of %2 mm²</source>
-        <translation>新配，配 %1，需 %2 mm²</translation>
-    </message>
-    <message>
         <source>Removes the chosen annotation</source>
         <translation>清除选中的标注</translation>
     </message>
@@ -1009,6 +1009,14 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <translation>新梁 %1</translation>
     </message>
     <message>
+        <source>New label %1</source>
+        <translation>新标注 %1</translation>
+    </message>
+    <message>
+        <source>There is no outline of one beam without a label</source>
+        <translation>此处没有未标注的单根梁轮廓</translation>
+    </message>
+    <message>
         <source>New wall %1</source>
         <translation>新墙 %1</translation>
     </message>
@@ -1063,14 +1071,6 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>%1 removed</source>
         <translation>%1 已清除</translation>
-    </message>
-    <message>
-        <source>New label %1</source>
-        <translation>新标注 %1</translation>
-    </message>
-    <message>
-        <source>There is no outline of one beam without a label</source>
-        <translation>此处没有未标注的单根梁轮廓</translation>
     </message>
 </context>
 <context>
@@ -1205,6 +1205,10 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <translation>请先选择一根梁或一道墙</translation>
     </message>
     <message>
+        <source>The beams of a drawing are where it has their outlines</source>
+        <translation>图纸中的梁以图上的轮廓线为准</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is no position; &quot;8000,0&quot;, &quot;@6000,0&quot; and &quot;@6000&lt;90&quot; are</source>
         <translation>“%1”不是坐标；可写作“8000,0”“@6000,0”或“@6000&lt;90”</translation>
     </message>
@@ -1215,6 +1219,10 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>End of the beam</source>
         <translation>梁的终点</translation>
+    </message>
+    <message>
+        <source>Outline without a label</source>
+        <translation>未标注的梁轮廓</translation>
     </message>
     <message>
         <source>Start of the wall</source>
@@ -1247,14 +1255,6 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>%1: press a position on the plan or type it; Esc goes back</source>
         <translation>%1：请在平面图上点取或输入坐标，按 Esc 返回</translation>
-    </message>
-    <message>
-        <source>The beams of a drawing are where it has their outlines</source>
-        <translation>图纸中的梁以图上的轮廓线为准</translation>
-    </message>
-    <message>
-        <source>Outline without a label</source>
-        <translation>未标注的梁轮廓</translation>
     </message>
 </context>
 <context>
