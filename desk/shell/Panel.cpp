@@ -86,7 +86,11 @@ bool TakesNoSecond(const CListBox& first, std::initializer_list<const CListBox*>
 bool CanChooseIn(const CBeamSteelDlg& panel, const CListBox& list, int row)
 {
     if (&list == &panel.m_SteeltypeList) {
-        return BarGroups::IsAllowed(panel.m_nSteelKind, panel.m_bToItem, row);
+        if (!BarGroups::IsAllowed(panel.m_nSteelKind, panel.m_bToItem, row)) {
+            return false;
+        }
+        const int first = panel.m_Group[BarGroups::OfType(row)].m_nFirstRow;  // types may share a group
+        return first < 0 || panel.m_nRowType[first] == row;
     }
     if (&list == &panel.m_VdiaList) {  // a group's first piece has no other before it
         const int group = BarGroups::OfType(panel.m_SteeltypeList.GetCurSel());

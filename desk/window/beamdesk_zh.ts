@@ -1094,4 +1094,31 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <translation>没有缺标注的梁</translation>
     </message>
 </context>
+<context>
+    <name>Desk::Surface</name>
+    <message>
+        <source>Left button picks and adds a digit, a double click sets it alone; right button or Enter takes, Esc cancels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left button picks; right button, double click or Enter takes, Esc cancels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left button picks, right button or Enter takes, Esc cancels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take what is composed, or cancel? A press in the panel goes on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">取消</translation>
+    </message>
+</context>
 </TS>

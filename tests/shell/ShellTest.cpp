@@ -251,7 +251,7 @@ constexpr Change Changes[] = {
     {Shown::Name, 1316, -1, ""},  // one letter is no name: it stays in the panel's hands
     {Shown::Section, 1317, 0, "120x600"},  {Shown::Elevation, 1320, -1, "7"},
     {Shown::Stirrup, 1358, 1, ""},         {Shown::Bars, 1338, 1, "2B10"},
-    {Shown::Horizontal, 1112, 2, "A10@0"}, {Shown::Vertical, 1307, 3, "A12"},
+    {Shown::Horizontal, 1112, 2, "A8@50"}, {Shown::Vertical, 1307, 3, "A14"},
 };
 
 class StripTest : public Shell {
