@@ -62,18 +62,13 @@ QString Surface::Hint() const
 {
     switch (m_shape != nullptr ? m_shape->id : 0) {
     case CBeamNameDlg::IDD:
-        return tr("Left button picks and adds a digit, a double click sets it alone; right button or Enter "
-                  "takes, Esc cancels");
-    case CBeamSecDlg::IDD:
-        return tr("Left button picks; right button, double click or Enter takes, Esc cancels");
-    default: return tr("Left button picks, right button or Enter takes, Esc cancels");
+        return tr("Left picks and adds a digit, a double click sets it; right or Enter takes, Esc cancels");
+    case CBeamSecDlg::IDD: return tr("Left picks; right, double click or Enter takes, Esc cancels");
+    default: return tr("Left picks, right or Enter takes, Esc cancels");
     }
 }
 
-QString Surface::Question()
-{
-    return tr("Take what is composed, or cancel? A press in the panel goes on.");
-}
+QString Surface::Question() { return tr("Take what is composed, or cancel? A press in the panel goes on"); }
 
 // Asked anew each time, since the language may have changed.
 void Surface::ShowTexts()
@@ -97,8 +92,11 @@ void Surface::TakePlace(const WindowRecord& popUp, const Scale& scale)
     ShowTexts();
     m_titleLabel->setText(
         m_titleLabel->fontMetrics().elidedText(m_title, Qt::ElideRight, scale.ToWidget(TitleWidth)));
-    auto& grid = *m_strip->layout();
     const int margin = scale.ToWidget(Margin);
+    for (QPushButton* const button : {m_take, m_cancel}) {  // a style's least width is too much here
+        button->setFixedWidth(button->fontMetrics().horizontalAdvance(button->text()) + 6 * margin);
+    }
+    auto& grid = *m_strip->layout();
     grid.setContentsMargins(margin, margin, margin, margin);
     grid.setSpacing(margin);
     const QRect panel = scale.ToWidget(popUp.place);

@@ -1097,28 +1097,28 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
 <context>
     <name>Desk::Surface</name>
     <message>
-        <source>Left button picks and adds a digit, a double click sets it alone; right button or Enter takes, Esc cancels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Left button picks; right button, double click or Enter takes, Esc cancels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Left button picks, right button or Enter takes, Esc cancels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Take what is composed, or cancel? A press in the panel goes on.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Take</source>
-        <translation type="unfinished"></translation>
+        <translation>确认</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">取消</translation>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Left picks and adds a digit, a double click sets it; right or Enter takes, Esc cancels</source>
+        <translation>左键选取并添加数字，双击重设为该数字；右键或回车确认，Esc 取消</translation>
+    </message>
+    <message>
+        <source>Left picks; right, double click or Enter takes, Esc cancels</source>
+        <translation>左键选取；右键、双击或回车确认，Esc 取消</translation>
+    </message>
+    <message>
+        <source>Left picks, right or Enter takes, Esc cancels</source>
+        <translation>左键选取，右键或回车确认，Esc 取消</translation>
+    </message>
+    <message>
+        <source>Take what is composed, or cancel? A press in the panel goes on</source>
+        <translation>确认已组成的文字，还是取消？在面板内点击则继续</translation>
     </message>
 </context>
 </TS>
