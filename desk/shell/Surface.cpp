@@ -68,7 +68,7 @@ QString Surface::Hint() const
     }
 }
 
-QString Surface::Question() { return tr("Take what is composed, or cancel? A press in the panel goes on"); }
+QString Surface::Question() { return tr("Not taken yet: take it or cancel?"); }
 
 // Asked anew each time, since the language may have changed.
 void Surface::ShowTexts()

@@ -1117,8 +1117,8 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <translation>左键选取，右键或回车确认，Esc 取消</translation>
     </message>
     <message>
-        <source>Take what is composed, or cancel? A press in the panel goes on</source>
-        <translation>确认已组成的文字，还是取消？在面板内点击则继续</translation>
+        <source>Not taken yet: take it or cancel?</source>
+        <translation>文字尚未确认：确认还是取消？</translation>
     </message>
 </context>
 </TS>
