@@ -15,8 +15,6 @@
 #include "desk/drawing/Export.h"
 #include "desk/plan/PlanFile.h"
 #include "desk/project/ProjectFile.h"
-#include "desk/project/SafeFile.h"
-#include "desk/reading/DrawingText.h"
 
 namespace Desk {
 
@@ -50,40 +48,18 @@ void WriteDrawing(const Project& project, const ExportOptions& options, std::ost
 {
     const fs::path companion = CompanionFile(options.target);
     RequireFree(companion, options);
-    const std::string beside = Drawing::CompanionOf(project);
-    ReplaceFile(options.target, FormatDrawing(project));
-    if (!beside.empty()) {
-        ReplaceFile(companion, beside);
-    } else if (fs::exists(companion)) {
-        fs::remove(companion);
-    }
+    const bool hasCompanion = ExportDrawing(project, options.target);
     out << "written to " << options.target << ": " << Plural(project.beams.size(), "beam") << ", "
         << Plural(project.walls.size(), "wall") << '\n';
-    if (!beside.empty()) {
+    if (hasCompanion) {
         out << "what a drawing cannot hold is in " << companion.string() << '\n';
     }
-}
-
-// What a drawing shows behind its annotations, with the texts that are no beam's yet.
-std::optional<Backdrop> BehindOf(const std::optional<Drawing>& drawing)
-{
-    if (!drawing) {
-        return std::nullopt;
-    }
-    Backdrop behind = drawing->Behind();
-    for (const AnnotationText& text : drawing->Texts()) {
-        if (text.open && text.inPlace) {
-            behind.texts.push_back({ShowPlain(PlainText(text.text)), text.place});
-        }
-    }
-    return behind;
 }
 
 void RunExport(const ExportOptions& options, std::ostream& out)
 {
     RequireFree(options.target, options);
-    const Opened opened =
-        options.file.empty() ? Opened{SampleProject(), std::nullopt} : OpenFile(options.file);
+    const Opened opened = OpenInput(options.file);
     const std::string kind = LowerCaseExtension(options.target);
     if (kind == ".dxf" && opened.drawing) {
         throw Failure(options.file + ": a drawing already; copy the file");
@@ -91,7 +67,8 @@ void RunExport(const ExportOptions& options, std::ostream& out)
     if (kind == ".dxf") {
         WriteDrawing(opened.project, options, out);
     } else {
-        const std::optional<Backdrop> behind = BehindOf(opened.drawing);
+        const std::optional<Backdrop> behind =
+            opened.drawing ? std::optional(opened.drawing->BehindWithOpenTexts()) : std::nullopt;
         WritePlan(opened.project, behind ? &*behind : nullptr, options.target, options.scale);
         out << "written to " << options.target << '\n';
     }
@@ -112,16 +89,16 @@ void AddExportCommand(CLI::App& program, std::ostream& out)
         program.add_subcommand("export", "Write a project as a drawing, or a plan as PDF or SVG");
     const auto options = std::make_shared<ExportOptions>();
     command
-        ->add_option("file", options->file,
-                     "Project or drawing (.json, .dxf). Default: the embedded sample")
-        ->type_name("FILE");
+        ->add_option("FILE", options->file,
+                     "Project or drawing (.json, .dxf), - for standard input. Default: the embedded sample")
+        ->type_name("");
     command->add_option("-o,--output", options->target, "File to write: .dxf, .pdf or .svg")
         ->required()
         ->type_name("FILE")
         ->check(CheckTarget);
     command->add_option("--scale", options->scale, "Scale 1:N of a PDF or SVG. Default 100")
         ->type_name("N")
-        ->check(CLI::Range(1.0, 10000.0));
+        ->check(Decimal(1, 10'000));
     command->add_flag("--force", options->force, "Replace an existing file");
     command->footer(
         "A drawing is an ASCII DXF that other programs open: labels with their leaders, texts in place,\n"

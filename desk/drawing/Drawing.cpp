@@ -1,12 +1,15 @@
 #include "desk/drawing/Drawing.h"
 
 #include <algorithm>
+#include <iostream>
+#include <iterator>
 #include <system_error>
 #include <utility>
 
 #include "desk/drawing/Parts.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/project/SafeFile.h"
+#include "desk/reading/DrawingText.h"
 
 namespace Desk {
 
@@ -41,6 +44,18 @@ Drawing Drawing::Parse(std::string bytes, const std::string& name, std::string_v
 
 const Project& Drawing::Get() const { return m_parts->project; }
 const Backdrop& Drawing::Behind() const { return m_parts->behind; }
+
+Backdrop Drawing::BehindWithOpenTexts() const
+{
+    Backdrop behind = Behind();
+    for (const AnnotationText& text : Texts()) {
+        if (text.open && text.inPlace) {
+            behind.texts.push_back({ShowPlain(PlainText(text.text)), text.place});
+        }
+    }
+    return behind;
+}
+
 const std::vector<AnnotationText>& Drawing::Texts() const { return m_parts->texts; }
 std::string Drawing::Written(const Project& edited) const
 {
@@ -62,6 +77,7 @@ std::string Drawing::CompanionOf(const Project& edited)
     kept.axesAcross = edited.axesAcross;
     kept.axesUp = edited.axesUp;
     kept.pointed = edited.pointed;
+    kept.checksOff = edited.checksOff;
     kept.inFile = edited.inFile;
     const Beam usual;
     const auto isUsual = [&usual](const Beam& beam) {
@@ -86,7 +102,8 @@ std::string Drawing::CompanionOf(const Project& edited)
         each.floor = beam.floor;
     }
     const bool isEmpty = kept.title.empty() && kept.walls.empty() && kept.axesAcross.empty() &&
-                         kept.axesUp.empty() && kept.pointed.empty() && kept.beams.empty();
+                         kept.axesUp.empty() && kept.pointed.empty() && kept.checksOff.empty() &&
+                         kept.beams.empty();
     return isEmpty ? std::string() : FormatProject(kept);
 }
 
@@ -209,9 +226,24 @@ Opened OpenFile(const std::filesystem::path& file)
     return {std::move(project), std::move(drawing)};
 }
 
-Project OpenProject(const std::string& file)
+Opened OpenInput(const std::string& file)
 {
-    return file.empty() ? SampleProject() : OpenFile(file).project;
+    if (file.empty()) {
+        return {SampleProject(), std::nullopt};
+    }
+    if (file != "-") {
+        return OpenFile(file);
+    }
+    const std::string name = "standard input";
+    std::string bytes(std::istreambuf_iterator<char>(std::cin), {});
+    if (!IsDrawing(bytes)) {
+        return {ParseProject(bytes, name), std::nullopt};
+    }
+    Drawing drawing = Drawing::Parse(std::move(bytes), name);
+    Project project = drawing.Get();
+    return {std::move(project), std::move(drawing)};
 }
+
+Project OpenProject(const std::string& file) { return OpenInput(file).project; }
 
 }  // namespace Desk

@@ -52,6 +52,8 @@ QSizeF PaperFor(const QSizeF& plan)
     return needed;
 }
 
+QString Escaped(const std::string& text) { return QString::fromStdString(text).toHtmlEscaped(); }
+
 void Paint(QPaintDevice& device, QGraphicsScene& scene, const QRectF& shown, const QSizeF& paper,
            double scale)
 {
@@ -98,7 +100,7 @@ void WritePlan(const Project& project, const Backdrop* behind, const std::filesy
     const QString ending = QString::fromStdString(file.extension().string()).toLower();
     const bool pdf = ending == QLatin1String(".pdf");
     if (!pdf && ending != QLatin1String(".svg")) {
-        throw Failure(file.string() + ": a plan is written as .pdf or .svg");
+        throw Failure(Phrase("Desk", "%1: a plan is written as .pdf or .svg"), file.string());
     }
     if (!(scale > 0.0) || !std::isfinite(scale)) {
         throw Failure("a plan's scale is a number above 0");
@@ -111,14 +113,76 @@ void WritePlan(const Project& project, const Backdrop* behind, const std::filesy
     const QRectF shown = AddFloor(scene, project, behind, colors).shown;
     const QSizeF paper = PaperFor(shown.size() / scale);
     if (const double most = std::max(paper.width(), paper.height()); most > MostPaper) {
-        throw Failure("at 1:" + QString::number(scale).toStdString() + " the plan would be " +
-                      QString::number(most / 1000.0, 'f', 1).toStdString() +
-                      " m long, and 5 m are the most; a larger scale number makes it smaller");
+        throw Failure(Phrase("Desk", "at 1:%1 the plan would be %2 m long, and 5 m are the most; a larger "
+                                     "scale number makes it smaller"),
+                      QString::number(scale).toStdString(),
+                      QString::number(most / 1000.0, 'f', 1).toStdString());
     }
     const QString title = QString::fromStdString(project.title);
     const QByteArray bytes =
         pdf ? AsPdf(scene, shown, paper, scale, title) : AsSvg(scene, shown, paper, scale, title);
     ReplaceFile(file, bytes.toStdString());
+}
+
+double PrintPlan(const Project& project, const Backdrop* behind, QPagedPaintDevice& device)
+{
+    constexpr double Usual[] = {100, 150, 200, 250, 300, 400, 500, 750, 1000, 1500, 2000, 3000, 5000};
+    QPainter painter;
+    if (!painter.begin(&device)) {
+        return 0.0;
+    }
+    const double dotsAMm = device.logicalDpiX() / 25.4;
+    const QSizeF page = QSizeF(painter.viewport().size()) / dotsAMm;
+    const auto needed = [&](const QRectF& shown) {
+        return std::max(shown.width() / page.width(), shown.height() / page.height());
+    };
+    PlanColors colors = ColorsFor(false);
+    QGraphicsScene scene;
+    scene.setItemIndexMethod(QGraphicsScene::NoIndex);
+    const QRectF shown = AddFloor(scene, project, behind, colors).shown;
+    const double* const usual = std::lower_bound(std::begin(Usual), std::end(Usual), needed(shown));
+    const double scale = usual != std::end(Usual) ? *usual : std::ceil(needed(shown));
+    colors.lineWidth = LineWidth * scale;
+    const QSizeF size = shown.size() / scale * dotsAMm;
+    const QPointF corner((painter.viewport().width() - size.width()) / 2.0,
+                         (painter.viewport().height() - size.height()) / 2.0);
+    scene.render(&painter, QRectF(corner, size), shown);
+    return scale;
+}
+
+void WriteTables(const std::string& title, const std::vector<std::vector<std::vector<std::string>>>& tables,
+                 const std::vector<std::string>& notes, const std::filesystem::path& file)
+{
+    const WithApplication application;
+    QString html = QStringLiteral("<h3>%1</h3>").arg(Escaped(title));
+    for (const std::vector<std::vector<std::string>>& rows : tables) {
+        html += QLatin1String("<table cellpadding='3'>");
+        for (const std::vector<std::string>& row : rows) {
+            html += QLatin1String("<tr>");
+            const bool isHead = &row == &rows.front() && row.size() > 2;
+            for (const std::string& cell : row) {
+                html += QStringLiteral("<%1 align='%2'>%3</%1>")
+                            .arg(isHead ? QLatin1String("th") : QLatin1String("td"),
+                                 &cell == &row.front() ? QLatin1String("left") : QLatin1String("right"),
+                                 Escaped(cell));
+            }
+            html += QLatin1String("</tr>");
+        }
+        html += QLatin1String("</table><br>");
+    }
+    for (const std::string& note : notes) {
+        html += QStringLiteral("<p>%1</p>").arg(Escaped(note));
+    }
+    QTextDocument document;
+    document.setDefaultFont(QFont(document.defaultFont().family(), 8));
+    document.setHtml(html);
+    QBuffer made;
+    made.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&made);
+    writer.setTitle(QString::fromStdString(title));
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    document.print(&writer);
+    ReplaceFile(file, made.data().toStdString());
 }
 
 }  // namespace Desk

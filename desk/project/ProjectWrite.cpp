@@ -102,6 +102,7 @@ Json Written(const Beam& beam)
         source["area"] = std::move(area);
     }
     WriteData(beam, BeamPoints, source);
+    WriteData(beam, BeamLengths, source);
     if (SpansIn(source) != beam.spans) {
         source["spans"] = Json::array();
         std::transform(beam.spans.begin(), beam.spans.end(), std::back_inserter(source["spans"]),
@@ -149,6 +150,21 @@ void WritePointed(const std::map<std::string, PlanPoint>& pointed, Json& source)
     }
 }
 
+// Axes are made with the project and kept by the file afterwards.
+void WriteAxes(const Project& project, Json& source)
+{
+    if (source.contains("axes")) {
+        return;
+    }
+    const std::pair<const char*, const std::vector<Axis>*> all[] = {{"x", &project.axesAcross},
+                                                                    {"y", &project.axesUp}};
+    for (const auto& [direction, axes] : all) {
+        for (const Axis& axis : *axes) {
+            source["axes"][direction][axis.label] = AsJson(axis.at);
+        }
+    }
+}
+
 }  // namespace
 
 InFile DrawnInFile(const std::string& drawn, std::size_t line)
@@ -166,9 +182,13 @@ std::string FormatProject(const Project& project)
     for (const TextField<Project>& field : ProjectTexts) {
         WriteText(project.*field.member, field.key, source);
     }
+    WriteAxes(project, source);
     WriteList(project.beams, source["beams"]);
     WriteList(project.walls, source["walls"]);
     WritePointed(project.pointed, source);
+    if (!project.checksOff.empty() || source.contains("checksOff")) {
+        source["checksOff"] = project.checksOff;
+    }
     try {
         return WriteJson(source);
     } catch (const nlohmann::json::exception&) {
