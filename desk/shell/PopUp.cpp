@@ -174,8 +174,8 @@ void ListWidget::PaintCountsOutOfView(QPainter& painter) const
     const QString text = counts.join(QLatin1Char(' '));
     QRect chip = viewport()->rect();
     chip.setLeft(chip.right() - painter.fontMetrics().horizontalAdvance(text) - 4);
-    painter.fillRect(chip, palette().brush(QPalette::ToolTipBase));
-    painter.setPen(palette().color(QPalette::ToolTipText));
+    painter.fillRect(chip, palette().brush(QPalette::Button));
+    painter.setPen(palette().color(QPalette::ButtonText));
     painter.drawText(chip, Qt::AlignCenter, text);
 }
 
