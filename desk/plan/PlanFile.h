@@ -2,6 +2,8 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
+#include <vector>
 
 #include "desk/project/Backdrop.h"
 
@@ -14,5 +16,10 @@ namespace Desk {
 // then.
 void WritePlan(const Project& project, const Backdrop* behind, const std::filesystem::path& file,
                double scale = 100.0);
+
+// Tables, whose first row is their headings where they have more than two columns, and sentences under them
+// on upright A4 sheets, as PDF. Throws Failure when the file cannot be written.
+void WriteTables(const std::string& title, const std::vector<std::vector<std::vector<std::string>>>& tables,
+                 const std::vector<std::string>& notes, const std::filesystem::path& file);
 
 }  // namespace Desk

@@ -1,0 +1,108 @@
+// Rules of names, which look at all beams of a floor.
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string_view>
+#include <tuple>
+#include <utility>
+
+#include "desk/checks/Rules.h"
+#include "desk/reading/BeamName.h"
+
+namespace Desk {
+
+namespace {
+
+// What a label writes beside the name; bars at the ends differ from place to place.
+constexpr Field OfLabel[] = {Field::Section,    Field::Elevation, Field::Stirrup, Field::TopBars,
+                             Field::BottomBars, Field::Erection,  Field::Torsion, Field::Side};
+
+// The first text in which two beams of a name differ; a text that only one of them has is written once.
+std::optional<Field> Difference(const Beam& first, const Beam& second)
+{
+    for (const Field field : OfLabel) {
+        const auto text = RowOf(field).ofBeam;
+        if (first.*text != second.*text && !(first.*text).empty() && !(second.*text).empty()) {
+            return field;
+        }
+    }
+    return std::nullopt;
+}
+
+// Beams with a name that is read, in an order.
+template <class Key>
+std::vector<std::pair<Key, std::size_t>> Sorted(const std::vector<NameParts>& names,
+                                                const std::function<Key(std::size_t)>& keyOf)
+{
+    std::vector<std::pair<Key, std::size_t>> sorted;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (names[i].isRead) {
+            sorted.emplace_back(keyOf(i), i);
+        }
+    }
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
+}
+
+Message Serials(const std::string& type, int from, int to)
+{
+    const std::string first = type + std::to_string(from);
+    return from == to ? Message{Phrase("Desk", "there is no %1 before it"), first}
+                      : Message{Phrase("Desk", "there are no %1 to %2 before it"), first,
+                                type + std::to_string(to)};
+}
+
+}  // namespace
+
+NameParts PartsOf(const std::string& name)
+{
+    const std::optional<BeamName> read = ReadNameInAnyCase(name);
+    return read ? NameParts{read->type, read->serial, read->letter, true} : NameParts();
+}
+
+// One name on one floor is one kind of beam: rule of practice. On a drawing with several floors side by
+// side each plan is a floor.
+void CheckNamesTwice(const Project& project, const std::vector<NameParts>& names, const TellAt& tell)
+{
+    using Key = std::tuple<std::string_view, int, std::string_view, int, char>;
+    const auto sorted = Sorted<Key>(names, [&](std::size_t i) {
+        const Beam& beam = project.beams[i];
+        return Key{beam.floor, beam.plan, names[i].type, names[i].serial, names[i].letter};
+    });
+    std::size_t first = 0;
+    for (std::size_t i = 1; i < sorted.size(); ++i) {
+        if (sorted[i].first != sorted[first].first) {
+            first = i;
+            continue;
+        }
+        const Beam& one = project.beams[sorted[first].second];
+        const Beam& other = project.beams[sorted[i].second];
+        if (one.name != other.name) {
+            tell({false, sorted[i].second, Field::Name},
+                 {Phrase("Desk", "the number is that of %1 already"), one.name});
+        } else if (const std::optional<Field> field = Difference(one, other)) {
+            tell({false, sorted[i].second, *field},
+                 {Phrase("Desk", "another %1 has %2"), one.name, one.*RowOf(*field).ofBeam});
+        }
+    }
+}
+
+// The numbers of a type run on; rule of practice. Plans side by side share the numbers of their floor.
+void CheckNameGaps(const Project& project, const std::vector<NameParts>& names, const TellAt& tell)
+{
+    using Key = std::tuple<std::string_view, std::string_view, int>;
+    const auto sorted = Sorted<Key>(names, [&](std::size_t i) {
+        return Key{project.beams[i].floor, names[i].type, names[i].serial};
+    });
+    for (std::size_t i = 1; i < sorted.size(); ++i) {
+        const auto& [floor, type, serial] = sorted[i].first;
+        const auto& [floorBefore, typeBefore, before] = sorted[i - 1].first;
+        if (floor == floorBefore && type == typeBefore && serial > before + 1) {
+            tell({false, sorted[i].second, Field::Name},
+                 Serials(std::string(type), before + 1, serial - 1));
+        }
+    }
+}
+
+}  // namespace Desk
