@@ -168,6 +168,7 @@ struct Checks::Kept {
     const Project& project;
     std::vector<std::vector<Problem>> beams;
     std::vector<std::vector<Problem>> walls;
+    NameReader reader;
     std::vector<NameParts> names;
     std::vector<Problem> all;
 
@@ -178,7 +179,7 @@ struct Checks::Kept {
             return;
         }
         beams.at(owner.index) = CheckBeam(project, owner.index);
-        names.at(owner.index) = PartsOf(project.beams[owner.index].name);
+        names.at(owner.index) = reader.Read(project.beams[owner.index]);
     }
 
     void Gather()
@@ -195,7 +196,7 @@ struct Checks::Kept {
     }
 };
 
-Checks::Checks(const Project& project) : m_kept(std::make_unique<Kept>(Kept{project, {}, {}, {}, {}}))
+Checks::Checks(const Project& project) : m_kept(std::make_unique<Kept>(Kept{project, {}, {}, {}, {}, {}}))
 {
     Renew();
 }

@@ -1,10 +1,7 @@
 // Rules of names, which look at all beams of a floor.
 #include <algorithm>
-#include <functional>
-#include <map>
+#include <array>
 #include <optional>
-#include <string_view>
-#include <tuple>
 #include <utility>
 
 #include "desk/checks/Rules.h"
@@ -31,14 +28,14 @@ std::optional<Field> Difference(const Beam& first, const Beam& second)
 }
 
 // Beams with a name that is read, in an order.
-template <class Key>
-std::vector<std::pair<Key, std::size_t>> Sorted(const std::vector<NameParts>& names,
-                                                const std::function<Key(std::size_t)>& keyOf)
+template <std::size_t Size, class KeyOf>
+std::vector<std::pair<std::array<int, Size>, std::size_t>> Sorted(const std::vector<NameParts>& names,
+                                                                  KeyOf keyOf)
 {
-    std::vector<std::pair<Key, std::size_t>> sorted;
+    std::vector<std::pair<std::array<int, Size>, std::size_t>> sorted;
     for (std::size_t i = 0; i < names.size(); ++i) {
         if (names[i].isRead) {
-            sorted.emplace_back(keyOf(i), i);
+            sorted.emplace_back(keyOf(names[i]), i);
         }
     }
     std::sort(sorted.begin(), sorted.end());
@@ -55,20 +52,24 @@ Message Serials(const std::string& type, int from, int to)
 
 }  // namespace
 
-NameParts PartsOf(const std::string& name)
+NameParts NameReader::Read(const Beam& beam)
 {
-    const std::optional<BeamName> read = ReadNameInAnyCase(name);
-    return read ? NameParts{read->type, read->serial, read->letter, true} : NameParts();
+    const std::optional<BeamName> read = ReadNameInAnyCase(beam.name);
+    if (!read) {
+        return {};
+    }
+    const auto number = [this](const std::string& text) {
+        return m_numbers.emplace(text, static_cast<int>(m_numbers.size())).first->second;
+    };
+    return {number(beam.floor), beam.plan, number(read->type), read->serial, read->letter, true};
 }
 
 // One name on one floor is one kind of beam: rule of practice. On a drawing with several floors side by
 // side each plan is a floor.
 void CheckNamesTwice(const Project& project, const std::vector<NameParts>& names, const TellAt& tell)
 {
-    using Key = std::tuple<std::string_view, int, std::string_view, int, char>;
-    const auto sorted = Sorted<Key>(names, [&](std::size_t i) {
-        const Beam& beam = project.beams[i];
-        return Key{beam.floor, beam.plan, names[i].type, names[i].serial, names[i].letter};
+    const auto sorted = Sorted<5>(names, [](const NameParts& name) {
+        return std::array{name.floor, name.plan, name.type, name.serial, static_cast<int>(name.letter)};
     });
     std::size_t first = 0;
     for (std::size_t i = 1; i < sorted.size(); ++i) {
@@ -91,16 +92,16 @@ void CheckNamesTwice(const Project& project, const std::vector<NameParts>& names
 // The numbers of a type run on; rule of practice. Plans side by side share the numbers of their floor.
 void CheckNameGaps(const Project& project, const std::vector<NameParts>& names, const TellAt& tell)
 {
-    using Key = std::tuple<std::string_view, std::string_view, int>;
-    const auto sorted = Sorted<Key>(names, [&](std::size_t i) {
-        return Key{project.beams[i].floor, names[i].type, names[i].serial};
+    const auto sorted = Sorted<3>(names, [](const NameParts& name) {
+        return std::array{name.floor, name.type, name.serial};
     });
     for (std::size_t i = 1; i < sorted.size(); ++i) {
         const auto& [floor, type, serial] = sorted[i].first;
         const auto& [floorBefore, typeBefore, before] = sorted[i - 1].first;
         if (floor == floorBefore && type == typeBefore && serial > before + 1) {
             tell({false, sorted[i].second, Field::Name},
-                 Serials(std::string(type), before + 1, serial - 1));
+                 Serials(ReadNameInAnyCase(project.beams[sorted[i].second].name)->type, before + 1,
+                         serial - 1));
         }
     }
 }

@@ -3,6 +3,9 @@
 #pragma once
 
 #include <functional>
+#include <map>
+#include <string>
+#include <vector>
 
 #include "desk/checks/Checks.h"
 #include "desk/checks/Station.h"
@@ -28,14 +31,22 @@ void CheckSupportBars(const Beam& beam, const TellAt& tell);
 // Of a wall.
 void CheckWallReadable(const Wall& wall, const Tell& tell);
 
-// Of all beams: what a beam is called, read once.
+// Of all beams: what a beam is called, read once, with numbers for texts, which are compared often.
 struct NameParts {
-    std::string type;
+    int floor = 0;
+    int plan = 0;
+    int type = 0;
     int serial = 0;
     char letter = '\0';
     bool isRead = false;
 };
-[[nodiscard]] NameParts PartsOf(const std::string& name);
+class NameReader {
+public:
+    [[nodiscard]] NameParts Read(const Beam& beam);
+
+private:
+    std::map<std::string, int> m_numbers;  // of floors and types
+};
 void CheckNamesTwice(const Project& project, const std::vector<NameParts>& names, const TellAt& tell);
 void CheckNameGaps(const Project& project, const std::vector<NameParts>& names, const TellAt& tell);
 

@@ -580,114 +580,6 @@
         <translation>保存工程或图纸</translation>
     </message>
     <message>
-        <source>same section</source>
-        <translation>截面相同</translation>
-    </message>
-    <message>
-        <source>same stirrups</source>
-        <translation>箍筋相同</translation>
-    </message>
-    <message>
-        <source>same top bars</source>
-        <translation>上部筋相同</translation>
-    </message>
-    <message>
-        <source>next to it</source>
-        <translation>相邻</translation>
-    </message>
-    <message>
-        <source>same type</source>
-        <translation>类型相同</translation>
-    </message>
-    <message>
-        <source>near it</source>
-        <translation>相近</translation>
-    </message>
-    <message>
-        <source>same width</source>
-        <translation>梁宽相同</translation>
-    </message>
-    <message>
-        <source>same height</source>
-        <translation>梁高相同</translation>
-    </message>
-    <message>
-        <source>same spans</source>
-        <translation>跨数相同</translation>
-    </message>
-    <message>
-        <source>in the same row</source>
-        <translation>同一开间</translation>
-    </message>
-    <message>
-        <source>neighbouring number</source>
-        <translation>序号相邻</translation>
-    </message>
-    <message>
-        <source>%1, %2</source>
-        <translation>%1、%2</translation>
-    </message>
-    <message>
-        <source>%1, %2, %3</source>
-        <translation>%1、%2、%3</translation>
-    </message>
-    <message>
-        <source>the number after %1</source>
-        <translation>接%1编号</translation>
-    </message>
-    <message>
-        <source>a free number between %1 and %2, near it</source>
-        <translation>附近%1与%2之间的空号</translation>
-    </message>
-    <message>
-        <source>the first free number</source>
-        <translation>第一个空号</translation>
-    </message>
-    <message>
-        <source>a beam without a name</source>
-        <translation>未编号的梁</translation>
-    </message>
-    <message>
-        <source>as %1</source>
-        <translation>同%1</translation>
-    </message>
-    <message>
-        <source>as %1: %2</source>
-        <translation>同%1：%2</translation>
-    </message>
-    <message>
-        <source>as the other end of its span</source>
-        <translation>同本跨另一端</translation>
-    </message>
-    <message>
-        <source>as the span next to it</source>
-        <translation>同邻跨</translation>
-    </message>
-    <message>
-        <source>as the whole beam</source>
-        <translation>同集中标注</translation>
-    </message>
-    <message>
-        <source>gives %1 of %2 mm²</source>
-        <translation>实配%1，需%2 mm²</translation>
-    </message>
-    <message>
-        <source>new, gives %1 of %2 mm²</source>
-        <translation>新配，实配%1，需%2 mm²</translation>
-    </message>
-    <message>
-        <source>%1 texts</source>
-        <translation>%1 处标注</translation>
-    </message>
-    <message>
-        <source>Next &amp;without a text</source>
-        <translation>下一处空标注(&amp;W)</translation>
-    </message>
-    <message>
-        <source>The next annotation that a text is wanted for</source>
-        <translation>转到下一处需要标注而尚空的位置</translation>
-    </message>
-    <message>
         <source>%1 bars in a row leave %2 mm clear between them, %3 mm required</source>
         <translation>一排%1根，净距%2 mm，要求不小于%3 mm</translation>
     </message>
@@ -950,6 +842,114 @@
     <message>
         <source>cannot be read; an example: %1</source>
         <translation>无法识别；例如%1</translation>
+    </message>
+    <message>
+        <source>same section</source>
+        <translation>截面相同</translation>
+    </message>
+    <message>
+        <source>same stirrups</source>
+        <translation>箍筋相同</translation>
+    </message>
+    <message>
+        <source>same top bars</source>
+        <translation>上部筋相同</translation>
+    </message>
+    <message>
+        <source>next to it</source>
+        <translation>相邻</translation>
+    </message>
+    <message>
+        <source>same type</source>
+        <translation>类型相同</translation>
+    </message>
+    <message>
+        <source>near it</source>
+        <translation>相近</translation>
+    </message>
+    <message>
+        <source>same width</source>
+        <translation>梁宽相同</translation>
+    </message>
+    <message>
+        <source>same height</source>
+        <translation>梁高相同</translation>
+    </message>
+    <message>
+        <source>same spans</source>
+        <translation>跨数相同</translation>
+    </message>
+    <message>
+        <source>in the same row</source>
+        <translation>同一开间</translation>
+    </message>
+    <message>
+        <source>neighbouring number</source>
+        <translation>序号相邻</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <translation>%1、%2、%3</translation>
+    </message>
+    <message>
+        <source>the number after %1</source>
+        <translation>接%1编号</translation>
+    </message>
+    <message>
+        <source>a free number between %1 and %2, near it</source>
+        <translation>附近%1与%2之间的空号</translation>
+    </message>
+    <message>
+        <source>the first free number</source>
+        <translation>第一个空号</translation>
+    </message>
+    <message>
+        <source>a beam without a name</source>
+        <translation>未编号的梁</translation>
+    </message>
+    <message>
+        <source>as %1</source>
+        <translation>同%1</translation>
+    </message>
+    <message>
+        <source>as %1: %2</source>
+        <translation>同%1：%2</translation>
+    </message>
+    <message>
+        <source>as the other end of its span</source>
+        <translation>同本跨另一端</translation>
+    </message>
+    <message>
+        <source>as the span next to it</source>
+        <translation>同邻跨</translation>
+    </message>
+    <message>
+        <source>as the whole beam</source>
+        <translation>同集中标注</translation>
+    </message>
+    <message>
+        <source>gives %1 of %2 mm²</source>
+        <translation>实配%1，需%2 mm²</translation>
+    </message>
+    <message>
+        <source>new, gives %1 of %2 mm²</source>
+        <translation>新配，实配%1，需%2 mm²</translation>
+    </message>
+    <message>
+        <source>%1 texts</source>
+        <translation>%1 处标注</translation>
+    </message>
+    <message>
+        <source>Next &amp;without a text</source>
+        <translation>下一处空标注(&amp;W)</translation>
+    </message>
+    <message>
+        <source>The next annotation that a text is wanted for</source>
+        <translation>转到下一处需要标注而尚空的位置</translation>
     </message>
 </context>
 <context>
