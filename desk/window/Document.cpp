@@ -172,6 +172,11 @@ QString Document::SetTexts(const std::vector<std::pair<FieldRef, QString>>& text
     return {};
 }
 
+void Document::SetChecksOff(std::vector<std::string> keys, const QString& what)
+{
+    m_changes.push(new RulesChange(*this, std::move(keys), what));
+}
+
 void Document::DropRecoveryCopy()
 {
     m_recoverySoon.stop();
@@ -218,6 +223,7 @@ void Document::Replace(Project project, const QString& file, std::optional<Drawi
     NoteFileTime();
     m_changes.clear();
     emit Replaced();
+    emit ChecksOffChanged();
     emit OpenTextsChanged();
     emit FileChanged();
 }

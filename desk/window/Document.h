@@ -61,6 +61,9 @@ public:
     // last one counts.
     QString SetTexts(const std::vector<std::pair<FieldRef, QString>>& texts);
 
+    // The rules that are not checked, which can be taken back; what tells the change.
+    void SetChecksOff(std::vector<std::string> keys, const QString& what);
+
     // Gives an open text to the beam at a position, which can be taken back. The text's annotation, or
     // nothing where no beam takes it.
     std::optional<FieldRef> PointTo(std::size_t text, const PlanPoint& at);
@@ -73,6 +76,7 @@ public:
 signals:
     void TextChanged(const Desk::FieldRef& ref);                // each text of a step
     void StepDone(const std::vector<Desk::FieldRef>& changed);  // after them; not empty
+    void ChecksOffChanged();
     void OpenTextsChanged();
     void Replaced();     // another project
     void FileChanged();  // its name
@@ -81,6 +85,7 @@ signals:
 private:
     friend class TextsChange;
     friend class PointChange;
+    friend class RulesChange;
     void SwapTexts(std::map<FieldRef, std::string>& others);
     void Changed(const std::vector<FieldRef>& refs);
     void Replace(Project project, const QString& file, std::optional<Drawing> drawing = std::nullopt);

@@ -9,6 +9,7 @@
 #include "desk/window/Languages.h"
 #include "desk/window/Menus.h"
 #include "desk/window/OpenTexts.h"
+#include "desk/window/Problems.h"
 #include "desk/window/ProjectFiles.h"
 #include "desk/window/SearchLine.h"
 #include "desk/window/Selection.h"
@@ -55,6 +56,7 @@ private:
     FloorView* m_floor;
     Docks* m_docks;
     OpenTexts* m_openTexts;
+    Problems* m_problems;
     Menus* m_menus;
     Selection* m_selection;
     ProjectFiles* m_files;

@@ -29,6 +29,8 @@ constexpr Row Rows[] = {
     {"save", QT_TRANSLATE_NOOP("Desk", "&Save"), QT_TRANSLATE_NOOP("Desk", "Saves the project or the drawing"), QKeySequence::Save},
     {"saveAs", QT_TRANSLATE_NOOP("Desk", "Save &as..."), QT_TRANSLATE_NOOP("Desk", "Saves under another name"), {}, Qt::CTRL | Qt::SHIFT | Qt::Key_S},
     Line,
+    {"quantities", QT_TRANSLATE_NOOP("Desk", "Quan&tities..."), QT_TRANSLATE_NOOP("Desk", "Lists the steel, the concrete and the formwork that the floor takes")},
+    Line,
     {"quit", QT_TRANSLATE_NOOP("Desk", "&Quit"), QT_TRANSLATE_NOOP("Desk", "Ends the program"), {}, Qt::CTRL | Qt::Key_Q},
 
     Title(QT_TRANSLATE_NOOP("Desk", "&Edit")),
@@ -45,6 +47,8 @@ constexpr Row Rows[] = {
     {"panel", QT_TRANSLATE_NOOP("Desk", "&Compose in the panel"), QT_TRANSLATE_NOOP("Desk", "Opens the panel on the present text"), {}, Qt::Key_F4},
     Line,
     {"nextEmpty", QT_TRANSLATE_NOOP("Desk", "Next &without a text"), QT_TRANSLATE_NOOP("Desk", "The next annotation that a text is wanted for"), {}, Qt::Key_F6},
+    {"nextProblem", QT_TRANSLATE_NOOP("Desk", "Next pr&oblem"), QT_TRANSLATE_NOOP("Desk", "The next annotation that has a problem"), {}, Qt::Key_F8},
+    {"previousProblem", QT_TRANSLATE_NOOP("Desk", "Previous proble&m"), QT_TRANSLATE_NOOP("Desk", "The previous annotation that has a problem"), {}, Qt::SHIFT | Qt::Key_F8},
     {"nextField", QT_TRANSLATE_NOOP("Desk", "Next &annotation"), QT_TRANSLATE_NOOP("Desk", "The next annotation of the beam"), {}, Qt::CTRL | Qt::Key_Down},
     {"previousField", QT_TRANSLATE_NOOP("Desk", "&Previous annotation"), QT_TRANSLATE_NOOP("Desk", "The previous annotation of the beam"), {}, Qt::CTRL | Qt::Key_Up},
     {"nextOwner", QT_TRANSLATE_NOOP("Desk", "Next &beam"), QT_TRANSLATE_NOOP("Desk", "The same annotation of the next beam"), {}, Qt::CTRL | Qt::Key_Right},
