@@ -1,5 +1,4 @@
 // beamdesk import: a project from a drawing, or from the texts of one.
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -19,7 +18,6 @@
 #include "desk/console/Options.h"
 #include "desk/console/Print.h"
 #include "desk/drawing/Drawing.h"
-#include "desk/project/Encoding.h"
 #include "desk/project/Failure.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/reading/ImportTexts.h"
@@ -54,15 +52,6 @@ void CheckTarget(const ImportOptions& options)
     if (fs::exists(target, error) && !options.force) {
         throw Failure(options.project + ": already exists; --force replaces it");
     }
-}
-
-// The name of the texts' file where it can be a project's title.
-std::string TitleFor(const fs::path& texts)
-{
-    const std::string title = texts.stem().string();
-    const auto isControl = [](char ch) { return static_cast<unsigned char>(ch) < 0x20 || ch == 0x7F; };
-    const bool isShowable = GbkFromUtf8(title) && std::none_of(title.begin(), title.end(), isControl);
-    return isShowable && title != "-" ? title : "import";
 }
 
 // Standard input is read at once, to see what it is.
@@ -155,7 +144,7 @@ void ImportTexts(const Input& input, const ImportOptions& options, std::ostream&
     const TextsFile file =
         input.bytes ? ParseTexts(*input.bytes, input.name, encoding) : ReadTextsFile(input.name, encoding);
     const std::vector<ImportedText> texts = ReadTexts(file, choices);
-    const Project project = ProjectOf(texts, TitleFor(options.texts));
+    const Project project = ProjectOf(texts, TitleFor(input.bytes ? "import" : options.texts));
     Finish(
         project, project.beams.empty() && project.walls.empty(), "no annotation could be read", input.name,
         [&] { PrintReport(out, input.name, file, texts, choices, options.all); }, options, out);

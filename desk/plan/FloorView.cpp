@@ -30,11 +30,14 @@ void FloorView::SetProject(const Project* project, const Backdrop* behind)
 {
     m_project = project;
     m_chosen.reset();
+    m_lit = nullptr;
     m_hovered = nullptr;
     m_marks = nullptr;
+    m_sketch = nullptr;
+    m_drag.reset();
     m_items.clear();
     m_all.clear();
-    SetPointing(false);
+    EndPointing();
     scene()->clear();
     if (project == nullptr) {
         return;
@@ -42,10 +45,17 @@ void FloorView::SetProject(const Project* project, const Backdrop* behind)
     FloorItems floor = AddFloor(*scene(), *project, behind, ColorsFor(m_isDark));
     m_all = std::move(floor.all);
     m_items = std::move(floor.owners);
+    m_walls = std::ssize(project->walls);
     m_covering = floor.covering;
-    const QRectF all = scene()->itemsBoundingRect() | floor.shown;
+    m_shown = floor.shown;
+    m_readingScale = GoodHeight / floor.textHeight;
+    const QRectF all = scene()->itemsBoundingRect() | m_shown;
     scene()->setSceneRect(all.adjusted(-all.width(), -all.height(), all.width(), all.height()));
-    SetContent(floor.shown, GoodHeight / floor.textHeight);
+    SetContent(m_shown, m_readingScale);
+    m_sketch = new SketchItem;
+    m_sketch->SetColors(&ColorsFor(m_isDark));
+    m_all.push_back(m_sketch);
+    scene()->addItem(m_sketch);
     Fit();
 }
 
@@ -58,16 +68,16 @@ void FloorView::Refresh(const FieldRef& ref)
 
 void FloorView::SetChosen(std::optional<FieldRef> ref)
 {
-    if (OwnerItem* const before = m_chosen ? ItemOf(*m_chosen) : nullptr) {
-        before->SetLit(std::nullopt);
+    if (m_lit != nullptr) {
+        m_lit->SetLit(std::nullopt);
     }
-    m_chosen = ref && ItemOf(*ref) != nullptr ? ref : std::nullopt;
-    if (!m_chosen) {
-        return;
+    m_lit = ref ? ItemOf(*ref) : nullptr;
+    m_chosen = m_lit != nullptr ? ref : std::nullopt;
+    ShowHandles();
+    if (m_lit != nullptr) {
+        m_lit->SetLit(m_chosen);
+        BringIntoView(mapFromScene(m_lit->mapToScene(m_lit->BoxOf(*m_chosen))).boundingRect());
     }
-    OwnerItem& item = *ItemOf(*m_chosen);
-    item.SetLit(m_chosen);
-    BringIntoView(mapFromScene(item.mapToScene(item.BoxOf(*m_chosen))).boundingRect());
 }
 
 void FloorView::BringIntoView(const QRect& inView)
@@ -120,12 +130,6 @@ void FloorView::LightMark(std::optional<std::size_t> mark)
     if (mark) {
         BringIntoView(mapFromScene(m_marks->OutlineOf(*mark)).boundingRect());
     }
-}
-
-void FloorView::SetPointing(bool pointing)
-{
-    m_isPointing = pointing;
-    viewport()->setCursor(pointing ? Qt::CrossCursor : Qt::ArrowCursor);
 }
 
 void FloorView::ZoomBy(double factor)
@@ -194,22 +198,34 @@ void FloorView::Hover(const Hit& hit)
         hit.item->SetHovered(hit.text);
     }
     const bool isThing = hit.item != nullptr || hit.mark;
-    viewport()->setCursor(m_isPointing ? Qt::CrossCursor
+    viewport()->setCursor(IsPointing() ? Qt::CrossCursor
                           : isThing    ? Qt::PointingHandCursor
                                        : Qt::ArrowCursor);
 }
 
+void FloorView::Pick(const Hit& hit)
+{
+    if (hit.mark) {
+        emit MarkPicked(*hit.mark);
+    } else if (hit.item != nullptr) {
+        emit Picked(hit.Ref());
+    }
+}
+
 void FloorView::mousePressEvent(QMouseEvent* event)
 {
-    const Hit hit = HitAt(event->position().toPoint());
+    const QPoint inView = event->position().toPoint();
+    const QPointF at = mapToScene(inView);
     const bool left = event->button() == Qt::LeftButton;
-    if (left && m_isPointing) {
-        const QPointF at = mapToScene(event->position().toPoint());
-        emit Pointed({at.x(), -at.y()});
-    } else if (left && hit.mark) {
-        emit MarkPicked(*hit.mark);
-    } else if (left && hit.item != nullptr) {
-        emit Picked(hit.Ref());
+    const Hit hit = HitAt(inView);
+    const auto handle = m_sketch != nullptr ? m_sketch->HandleAt(at, transform().m11()) : std::nullopt;
+    if (left && IsPointing()) {
+        const TakePoint pressed = m_pressed;  // which may end the pointing
+        pressed({at.x(), -at.y()});
+    } else if (left && handle) {
+        m_drag = Drag{*handle, inView, false, {}};
+    } else if (left && (hit.mark || hit.item != nullptr)) {
+        Pick(hit);
     } else {
         PanView::mousePressEvent(event);
     }
@@ -217,16 +233,41 @@ void FloorView::mousePressEvent(QMouseEvent* event)
 
 void FloorView::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!MayPan()) {
-        Hover(HitAt(event->position().toPoint()));
+    const QPoint inView = event->position().toPoint();
+    if (m_drag) {
+        DragHandle(inView);
+    } else if (!MayPan()) {
+        Hover(HitAt(inView));
+        if (const QPointF at = mapToScene(inView); m_moved) {
+            m_moved({at.x(), -at.y()});
+        }
     }
     PanView::mouseMoveEvent(event);
 }
 
+void FloorView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!m_drag || event->button() != Qt::LeftButton) {
+        PanView::mouseReleaseEvent(event);
+        return;
+    }
+    const Drag drag = *std::exchange(m_drag, std::nullopt);
+    SetSketch({}, std::nullopt);
+    if (!drag.hasMoved) {
+        Pick(HitAt(drag.pressed));
+    } else if (m_chosen) {
+        emit EndDragged(*m_chosen, drag.handle == 0, drag.to);
+    }
+}
+
 void FloorView::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    if (IsPointing()) {
+        mousePressEvent(event);
+        return;
+    }
     const Hit hit = HitAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && hit.item != nullptr && !m_isPointing) {
+    if (event->button() == Qt::LeftButton && hit.item != nullptr) {
         emit PanelAsked(hit.Ref());
     }
 }

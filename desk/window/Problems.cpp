@@ -38,6 +38,7 @@ Problems::Problems(Document& document, FloorView& floor, QWidget* parent)
     m_soon.setInterval(0);
     connect(&m_soon, &QTimer::timeout, this, &Problems::Look);
     connect(&document, &Document::StepDone, this, &Problems::LookSoon);
+    connect(&document, &Document::OwnersChanged, this, &Problems::Follow);
     connect(&document, &Document::Replaced, this, &Problems::LookAtAllSoon);
     connect(&document, &Document::ChecksOffChanged, this, [this] {
         FillRules();
@@ -59,6 +60,22 @@ void Problems::LookSoon(const std::vector<FieldRef>& changed)
 {
     m_changed.insert(m_changed.end(), changed.begin(), changed.end());
     m_soon.start();
+}
+
+void Problems::Follow(const Exchanged& exchanged)
+{
+    if (exchanged.Renumbers()) {
+        LookAtAllSoon();
+        return;
+    }
+    std::vector<FieldRef> changed;
+    for (const std::size_t beam : exchanged.beams.in) {
+        changed.push_back({false, beam, Field::Name});
+    }
+    for (const std::size_t wall : exchanged.walls.in) {
+        changed.push_back({true, wall, Field::Name});
+    }
+    LookSoon(changed);
 }
 
 void Problems::LookAtAllSoon()

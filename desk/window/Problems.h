@@ -33,6 +33,7 @@ signals:
 private:
     // A change is looked at a moment later, when what the person did shows already.
     void LookSoon(const std::vector<FieldRef>& changed);
+    void Follow(const Exchanged& exchanged);
     void LookAtAllSoon();
     void Look();
     void ShowCount();

@@ -46,6 +46,7 @@ private:
     void TakeTyped(const FieldRef& ref, const QString& text, bool goesOn);
     bool TakeAll(const Texts& texts, const QString& reason = QString());
     void TakeFromList(const Texts& texts, const QString& reason);
+    void Follow(const Exchanged& exchanged);
     void OpenPanelBeside(const QRect& field);
     void Show();
 
