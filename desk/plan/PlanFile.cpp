@@ -124,6 +124,32 @@ void WritePlan(const Project& project, const Backdrop* behind, const std::filesy
     ReplaceFile(file, bytes.toStdString());
 }
 
+double PrintPlan(const Project& project, const Backdrop* behind, QPagedPaintDevice& device)
+{
+    constexpr double Usual[] = {100, 150, 200, 250, 300, 400, 500, 750, 1000, 1500, 2000, 3000, 5000};
+    QPainter painter;
+    if (!painter.begin(&device)) {
+        return 0.0;
+    }
+    const double dotsAMm = device.logicalDpiX() / 25.4;
+    const QSizeF page = QSizeF(painter.viewport().size()) / dotsAMm;
+    const auto needed = [&](const QRectF& shown) {
+        return std::max(shown.width() / page.width(), shown.height() / page.height());
+    };
+    PlanColors colors = ColorsFor(false);
+    QGraphicsScene scene;
+    scene.setItemIndexMethod(QGraphicsScene::NoIndex);
+    const QRectF shown = AddFloor(scene, project, behind, colors).shown;
+    const double* const usual = std::lower_bound(std::begin(Usual), std::end(Usual), needed(shown));
+    const double scale = usual != std::end(Usual) ? *usual : std::ceil(needed(shown));
+    colors.lineWidth = LineWidth * scale;
+    const QSizeF size = shown.size() / scale * dotsAMm;
+    const QPointF corner((painter.viewport().width() - size.width()) / 2.0,
+                         (painter.viewport().height() - size.height()) / 2.0);
+    scene.render(&painter, QRectF(corner, size), shown);
+    return scale;
+}
+
 void WriteTables(const std::string& title, const std::vector<std::vector<std::vector<std::string>>>& tables,
                  const std::vector<std::string>& notes, const std::filesystem::path& file)
 {
@@ -157,32 +183,6 @@ void WriteTables(const std::string& title, const std::vector<std::vector<std::ve
     writer.setPageSize(QPageSize(QPageSize::A4));
     document.print(&writer);
     ReplaceFile(file, made.data().toStdString());
-}
-
-double PrintPlan(const Project& project, const Backdrop* behind, QPagedPaintDevice& device)
-{
-    constexpr double Usual[] = {100, 150, 200, 250, 300, 400, 500, 750, 1000, 1500, 2000, 3000, 5000};
-    QPainter painter;
-    if (!painter.begin(&device)) {
-        return 0.0;
-    }
-    const double dotsAMm = device.logicalDpiX() / 25.4;
-    const QSizeF page = QSizeF(painter.viewport().size()) / dotsAMm;
-    const auto needed = [&](const QRectF& shown) {
-        return std::max(shown.width() / page.width(), shown.height() / page.height());
-    };
-    PlanColors colors = ColorsFor(false);
-    QGraphicsScene scene;
-    scene.setItemIndexMethod(QGraphicsScene::NoIndex);
-    const QRectF shown = AddFloor(scene, project, behind, colors).shown;
-    const double* const usual = std::lower_bound(std::begin(Usual), std::end(Usual), needed(shown));
-    const double scale = usual != std::end(Usual) ? *usual : std::ceil(needed(shown));
-    colors.lineWidth = LineWidth * scale;
-    const QSizeF size = shown.size() / scale * dotsAMm;
-    const QPointF corner((painter.viewport().width() - size.width()) / 2.0,
-                         (painter.viewport().height() - size.height()) / 2.0);
-    scene.render(&painter, QRectF(corner, size), shown);
-    return scale;
 }
 
 }  // namespace Desk
