@@ -1,6 +1,7 @@
 #include "desk/checks/Checks.h"
 
 #include <algorithm>
+#include <set>
 #include <tuple>
 #include <utility>
 
@@ -202,9 +203,14 @@ Checks::Checks(const Project& project) : m_kept(std::make_unique<Kept>(Kept{proj
 
 Checks::~Checks() = default;
 
-void Checks::Update(const FieldRef& owner)
+void Checks::Update(const std::vector<FieldRef>& owners)
 {
-    m_kept->Look(owner);
+    std::set<std::pair<bool, std::size_t>> looked;
+    for (const FieldRef& owner : owners) {
+        if (looked.emplace(owner.isWall, owner.index).second) {
+            m_kept->Look(owner);
+        }
+    }
     m_kept->Gather();
 }
 

@@ -49,7 +49,8 @@ public:
     Checks& operator=(const Checks&) = delete;
 
     // After a change of a beam or wall, its texts in place and numbers included; the field does not matter.
-    void Update(const FieldRef& owner);
+    void Update(const FieldRef& owner) { Update(std::vector{owner}); }
+    void Update(const std::vector<FieldRef>& owners);
     // After everything else: beams or walls added or removed, rules switched off or on.
     void Renew();
 

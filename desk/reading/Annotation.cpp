@@ -33,8 +33,10 @@ bool IsOfField(std::string_view text, Field field)
     case Ranker::Sections: return ReadSection(text).has_value();
     case Ranker::Elevations: return ReadElevation(text).has_value();
     case Ranker::Stirrups: return ReadStirrup(text).has_value();
-    case Ranker::Bars:
-        return (*row.heads == '\0' || !HeadOf(text, row.heads).empty()) && ReadBars(text).has_value();
+    case Ranker::Bars: {
+        const std::optional<Bars> bars = ReadBars(text);
+        return bars && (*row.heads == '\0' ? bars->head == '\0' : !HeadOf(text, row.heads).empty());
+    }
     case Ranker::OtherWalls:  // a picker composes vertical bars without spacing: B28
         return ReadStirrup(text).has_value() || ReadBars("1" + std::string(text)).has_value();
     case Ranker::None: break;

@@ -1143,6 +1143,88 @@
         <source>Removes the chosen annotation</source>
         <translation>清除选中的标注</translation>
     </message>
+    <message>
+        <source>Quan&amp;tities...</source>
+        <translation>工程量(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Lists the steel, the concrete and the formwork that the floor takes</source>
+        <translation>列出本层钢筋、混凝土和模板用量</translation>
+    </message>
+    <message>
+        <source>Next pr&amp;oblem</source>
+        <translation>下一个问题(&amp;O)</translation>
+    </message>
+    <message>
+        <source>The next annotation that has a problem</source>
+        <translation>转到下一处有问题的标注</translation>
+    </message>
+    <message>
+        <source>Previous proble&amp;m</source>
+        <translation>上一个问题(&amp;M)</translation>
+    </message>
+    <message>
+        <source>The previous annotation that has a problem</source>
+        <translation>转到上一处有问题的标注</translation>
+    </message>
+    <message>
+        <source>Quantities, an estimate</source>
+        <translation>工程量估算</translation>
+    </message>
+    <message>
+        <source>Sums, and how it was counted</source>
+        <translation>合计与计算说明</translation>
+    </message>
+    <message>
+        <source>The list was not written</source>
+        <translation>清单未写出</translation>
+    </message>
+    <message>
+        <source>Write &amp;CSV...</source>
+        <translation>写出CSV(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Write &amp;PDF...</source>
+        <translation>写出PDF(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>%1 (now %2)</source>
+        <translation>%1（现为%2）</translation>
+    </message>
+    <message>
+        <source>It is several annotations:
+%1</source>
+        <translation>其中有多项标注：
+%1</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>拆分</translation>
+    </message>
+    <message>
+        <source>It fits here:</source>
+        <translation>适合以下标注：</translation>
+    </message>
+    <message>
+        <source>It is no annotation that can be read. Kept as it is it counts as a problem, and proposals do not go by it.</source>
+        <translation>无法识别为任何标注。照原样保留时计为问题，建议不以它为依据。</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>照原样保留</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>%1, %2: &quot;%3&quot; does not belong there.</source>
+        <translation>%1，%2：“%3”不属于此处。</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>
@@ -1519,6 +1601,68 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>%1: press a position on the plan or type it; Esc goes back</source>
         <translation>%1：请在平面图上点取或输入坐标，按 Esc 返回</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::ProblemRows</name>
+    <message>
+        <source>Beam</source>
+        <translation>梁</translation>
+    </message>
+    <message>
+        <source>Annotation</source>
+        <translation>标注</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>规则</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::Problems</name>
+    <message>
+        <source>No problems</source>
+        <translation>没有问题</translation>
+    </message>
+    <message>
+        <source>1 problem</source>
+        <translation>1个问题</translation>
+    </message>
+    <message>
+        <source>%1 problems</source>
+        <translation>%1个问题</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第%1个，共%2个</translation>
+    </message>
+    <message>
+        <source>Do not check: %1</source>
+        <translation>不检查：%1</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>规则</translation>
+    </message>
+    <message>
+        <source>Which rules this project is checked by</source>
+        <translation>本工程按哪些规则检查</translation>
+    </message>
+    <message>
+        <source>Shows or hides the list of problems; F8 goes to the next one</source>
+        <translation>显示或隐藏问题列表；F8转到下一个</translation>
     </message>
 </context>
 <context>
