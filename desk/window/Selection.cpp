@@ -102,7 +102,7 @@ void Selection::Follow(const Exchanged& exchanged)
 void Selection::Choose(const std::optional<FieldRef>& ref)
 {
     const Project& project = m_document.Get();
-    const std::optional<FieldRef> before = std::exchange(m_chosen, std::nullopt);
+    const std::optional<FieldRef> before = m_chosen;
     m_chosen = ref && Exists(project, *ref) ? ref : std::nullopt;
     m_others = before && m_chosen ? WentOn(project, m_others, *before, *m_chosen) : std::set<FieldRef>();
     if (!m_chosen) {

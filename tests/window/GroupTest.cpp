@@ -133,7 +133,7 @@ TEST_F(GroupTest, AFrameChoosesBeamsThatAreChangedAsAWhole)
 {
     const QRect view = window.Drawing().viewport()->rect();
     const std::size_t count = document.Get().beams.size();
-    Drag(view.topLeft(), view.bottomRight());
+    Drag(view.topLeft() + QPoint(1, 1), view.bottomRight());  // 0, 0 would be the middle
     EXPECT_EQ(window.AllChosen().size(), count) << "walls take no part with beams";
     Click(Middle(*window.AllChosen().begin() == Of(Field::Name, 0) ? 1 : 0), Qt::ControlModifier);
     EXPECT_EQ(window.AllChosen().size(), count - 1);
