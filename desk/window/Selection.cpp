@@ -143,7 +143,10 @@ void Selection::OpenPanel()
 
 void Selection::OpenPanelBeside(const QRect& field)
 {
-    m_panels.Open(*m_chosen, QString::fromStdString(TextAt(m_document.Get(), *m_chosen)), field, &m_window);
+    const Project& project = m_document.Get();
+    m_panels.Open(*m_chosen, QString::fromStdString(TextAt(project, *m_chosen)),
+                  OwnerName(project, *m_chosen) + QStringLiteral("  ") + FieldName(project, *m_chosen),
+                  field, &m_window);
 }
 
 bool Selection::EndEdit()

@@ -1891,4 +1891,31 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <translation>已替换 %1 处标注</translation>
     </message>
 </context>
+<context>
+    <name>Desk::Surface</name>
+    <message>
+        <source>Take</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Left picks and adds a digit, a double click sets it; right or Enter takes, Esc cancels</source>
+        <translation>左键选取并添加数字，双击重设为该数字；右键或回车确认，Esc 取消</translation>
+    </message>
+    <message>
+        <source>Left picks; right, double click or Enter takes, Esc cancels</source>
+        <translation>左键选取；右键、双击或回车确认，Esc 取消</translation>
+    </message>
+    <message>
+        <source>Left picks, right or Enter takes, Esc cancels</source>
+        <translation>左键选取，右键或回车确认，Esc 取消</translation>
+    </message>
+    <message>
+        <source>Not taken yet: take it or cancel?</source>
+        <translation>文字尚未确认：确认还是取消？</translation>
+    </message>
+</context>
 </TS>
