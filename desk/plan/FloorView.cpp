@@ -1,6 +1,7 @@
 #include "desk/plan/FloorView.h"
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 #include "desk/plan/FloorItems.h"
@@ -15,7 +16,8 @@ constexpr double GoodHeight = 16.0;  // pixels of a text that is read with ease
 
 }  // namespace
 
-FloorView::FloorView(QWidget* parent) : PanView(parent)
+FloorView::FloorView(QWidget* parent)
+    : PanView(parent), m_frame(new QRubberBand(QRubberBand::Rectangle, viewport()))
 {
     setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     setViewportUpdateMode(QGraphicsView::SmartViewportUpdate);
@@ -35,6 +37,8 @@ void FloorView::SetProject(const Project* project, const Backdrop* behind)
     m_marks = nullptr;
     m_sketch = nullptr;
     m_drag.reset();
+    m_frameFrom.reset();
+    m_frame->hide();
     m_items.clear();
     m_all.clear();
     EndPointing();
@@ -77,6 +81,18 @@ void FloorView::SetChosen(std::optional<FieldRef> ref)
     if (m_lit != nullptr) {
         m_lit->SetLit(m_chosen);
         BringIntoView(mapFromScene(m_lit->mapToScene(m_lit->BoxOf(*m_chosen))).boundingRect());
+    }
+}
+
+void FloorView::SetTogether(const std::set<FieldRef>& refs)
+{
+    std::map<OwnerItem*, std::vector<FieldRef>> lit;
+    for (const FieldRef& ref : refs) {
+        lit[ItemOf(ref)].push_back(ref);
+    }
+    for (OwnerItem* const item : m_items) {
+        const auto found = lit.find(item);
+        item->SetTogether(found != lit.end() ? std::move(found->second) : std::vector<FieldRef>());
     }
 }
 
@@ -222,6 +238,10 @@ void FloorView::mousePressEvent(QMouseEvent* event)
     if (left && IsPointing()) {
         const TakePoint pressed = m_pressed;  // which may end the pointing
         pressed({at.x(), -at.y()});
+    } else if (left && event->modifiers().testFlag(Qt::ShiftModifier)) {
+        m_frameFrom = inView;
+    } else if (left && event->modifiers().testFlag(Qt::ControlModifier) && hit.item != nullptr) {
+        emit Joined(hit.Ref());
     } else if (left && handle) {
         m_drag = Drag{*handle, inView, false, {}};
     } else if (left && (hit.mark || hit.item != nullptr)) {
@@ -234,7 +254,10 @@ void FloorView::mousePressEvent(QMouseEvent* event)
 void FloorView::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint inView = event->position().toPoint();
-    if (m_drag) {
+    if (m_frameFrom) {
+        m_frame->setGeometry(QRect(*m_frameFrom, inView).normalized());
+        m_frame->show();
+    } else if (m_drag) {
         DragHandle(inView);
     } else if (!MayPan()) {
         Hover(HitAt(inView));
@@ -247,6 +270,10 @@ void FloorView::mouseMoveEvent(QMouseEvent* event)
 
 void FloorView::mouseReleaseEvent(QMouseEvent* event)
 {
+    if (m_frameFrom && event->button() == Qt::LeftButton) {
+        EndFrame(event->position().toPoint());
+        return;
+    }
     if (!m_drag || event->button() != Qt::LeftButton) {
         PanView::mouseReleaseEvent(event);
         return;
@@ -260,9 +287,31 @@ void FloorView::mouseReleaseEvent(QMouseEvent* event)
     }
 }
 
+void FloorView::EndFrame(const QPoint& inView)
+{
+    const QPoint from = *std::exchange(m_frameFrom, std::nullopt);
+    m_frame->hide();
+    if ((inView - from).manhattanLength() < QApplication::startDragDistance()) {
+        if (const Hit hit = HitAt(from); hit.item != nullptr) {
+            emit Joined(hit.Ref());
+        }
+        return;
+    }
+    const QRectF frame = QRectF(from, inView).normalized();
+    std::vector<FieldRef> owners;
+    for (const OwnerItem* const item : m_items) {
+        const QPolygonF body = mapFromScene(item->mapToScene(item->Body()));
+        if (frame.contains(body.boundingRect()) ||
+            (inView.x() < from.x() && QPolygonF(frame).intersects(body))) {
+            owners.push_back(item->NameRef());
+        }
+    }
+    emit Framed(owners);
+}
+
 void FloorView::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (IsPointing()) {
+    if (IsPointing() || event->modifiers().testAnyFlags(Qt::ControlModifier | Qt::ShiftModifier)) {
         mousePressEvent(event);
         return;
     }

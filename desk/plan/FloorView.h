@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <set>
 #include <vector>
 
 #include "desk/plan/MarksItem.h"
@@ -33,6 +34,9 @@ public:
     // Lights up an annotation and brings it into view; nothing for none. Does not signal.
     void SetChosen(std::optional<FieldRef> ref);
     [[nodiscard]] std::optional<FieldRef> Chosen() const { return m_chosen; }
+
+    // Lights up the annotations that are chosen together with that one.
+    void SetTogether(const std::set<FieldRef>& refs);
 
     // Texts that wait for a person, drawn apart from the others, by numbers from 0.
     void SetMarks(std::vector<PlanMark> marks);
@@ -64,7 +68,11 @@ public:
 signals:
     // A press on an annotation; on a beam or wall itself: its name.
     void Picked(const Desk::FieldRef& ref);
+    void Joined(const Desk::FieldRef& ref);      // the same with Ctrl or Shift
     void PanelAsked(const Desk::FieldRef& ref);  // a double click
+    // A drag with Shift: to the right the beams and walls in the frame, to the left those it touches as
+    // well, by their names.
+    void Framed(const std::vector<Desk::FieldRef>& owners);
     void MarkPicked(std::size_t mark);
     void EndDragged(const Desk::FieldRef& owner, bool isStart, const Desk::PlanPoint& to);
 
@@ -95,6 +103,8 @@ private:
     // Ends of the chosen beam or wall.
     [[nodiscard]] std::vector<PlanPoint> ChosenEnds() const;
 
+    void EndFrame(const QPoint& inView);
+
     // A handle that the left button holds.
     struct Drag {
         std::size_t handle = 0;
@@ -118,6 +128,8 @@ private:
     TakePoint m_pressed;
     TakePoint m_moved;
     std::optional<Drag> m_drag;
+    std::optional<QPoint> m_frameFrom;
+    QRubberBand* m_frame;
     bool m_hasHandles[2] = {false, false};  // of beams, of walls
     bool m_isDark = false;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include "desk/reading/Section.h"
 
@@ -166,6 +167,14 @@ void OwnerItem::SetLit(const std::optional<FieldRef>& ref)
     update();
 }
 
+void OwnerItem::SetTogether(std::vector<FieldRef> refs)
+{
+    if (refs != m_together) {
+        m_together = std::move(refs);
+        update();
+    }
+}
+
 void OwnerItem::SetHovered(const std::optional<FieldRef>& ref)
 {
     m_hovered = ref;
@@ -189,19 +198,19 @@ void OwnerItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*optio
 void OwnerItem::PaintBody(QPainter& painter) const
 {
     const QRectF body = Body();
-    const QColor line = m_lit ? Colors().chosen : m_isWall ? Colors().wall : Colors().beam;
+    const QColor line = IsChosen() ? Colors().chosen : m_isWall ? Colors().wall : Colors().beam;
     painter.setPen(LinePen(Colors(), line, m_lit ? 2.0 : 1.0));
     if (m_isWall) {
         painter.fillRect(body, line);
         return;
     }
     if (m_isDrawn) {
-        if (m_lit) {
+        if (IsChosen()) {
             painter.drawLine(QPointF(body.left(), 0.0), QPointF(body.right(), 0.0));
         }
         return;
     }
-    if (m_lit) {
+    if (IsChosen()) {
         QColor fill = Colors().chosen;
         fill.setAlpha(60);
         painter.fillRect(body, fill);
@@ -219,7 +228,7 @@ void OwnerItem::PaintLeader(QPainter& painter) const
     if (size.isEmpty()) {
         return;
     }
-    painter.setPen(LinePen(Colors(), m_lit ? Colors().chosen : Colors().beam));
+    painter.setPen(LinePen(Colors(), IsChosen() ? Colors().chosen : Colors().beam));
     const double x = m_corner.x() - FieldLeader;
     const double far = m_corner.y() > 0.0 ? m_corner.y() + size.height() : m_corner.y();
     painter.drawLine(QPointF(x, 0.0), QPointF(x, far));
@@ -227,11 +236,12 @@ void OwnerItem::PaintLeader(QPainter& painter) const
 
 void OwnerItem::PaintText(QPainter& painter, const Label& label) const
 {
-    if (m_lit == RefOf(label)) {
+    const FieldRef ref = RefOf(label);
+    if (m_lit == ref || std::count(m_together.begin(), m_together.end(), ref) != 0) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(Colors().chosenText);
         painter.drawPolygon(label.Outline());
-    } else if (m_hovered == RefOf(label)) {
+    } else if (m_hovered == ref) {
         painter.setPen(LinePen(Colors(), Colors().chosen));
         painter.setBrush(Qt::NoBrush);
         painter.drawPolygon(label.Outline());

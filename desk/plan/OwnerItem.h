@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "desk/plan/OwnerTexts.h"
 
@@ -41,6 +42,8 @@ public:
     [[nodiscard]] FieldRef NameRef() const { return {m_isWall, m_index, Field::Name}; }
     // Each an annotation of this beam or wall, or nothing.
     void SetLit(const std::optional<FieldRef>& ref);
+    // Chosen together with the lit one.
+    void SetTogether(std::vector<FieldRef> refs);
     void SetHovered(const std::optional<FieldRef>& ref);
 
 private:
@@ -49,6 +52,7 @@ private:
         return {m_isWall, m_index, label.field, label.inPlace};
     }
     void Lie(const PlanPoint& start, const PlanPoint& end);
+    [[nodiscard]] bool IsChosen() const { return m_lit || !m_together.empty(); }
     [[nodiscard]] std::vector<Label> AllLabels() const;
     void PaintBody(QPainter& painter) const;
     void PaintLeader(QPainter& painter) const;
@@ -62,6 +66,7 @@ private:
     std::vector<Label> m_block;
     std::vector<Label> m_fixed;  // in local coordinates
     std::optional<FieldRef> m_lit;
+    std::vector<FieldRef> m_together;
     std::optional<FieldRef> m_hovered;
 };
 

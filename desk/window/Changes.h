@@ -18,10 +18,12 @@ public:
         : m_document(document), m_others(std::move(texts))
     {
         const FieldRef& first = m_others.begin()->first;
+        const FieldRef& last = m_others.rbegin()->first;
         const QString what = m_others.size() == 1
                                  ? FieldName(document.Get(), first)
                                  : QCoreApplication::translate("Desk", "%1 texts").arg(m_others.size());
-        setText(QStringLiteral("%1: %2").arg(OwnerName(document.Get(), first), what));
+        const bool isOneOwner = first.isWall == last.isWall && first.index == last.index;
+        setText(isOneOwner ? QStringLiteral("%1: %2").arg(OwnerName(document.Get(), first), what) : what);
     }
 
     void undo() override { m_document.SwapTexts(m_others); }

@@ -30,6 +30,14 @@ void MainWindow::ConnectCommands()
     m_menus->On("inPlace", m_editing, &Editing::AddInPlace);
     m_menus->On("clear", m_editing, &Editing::Clear);
     m_menus->On("find", m_search, &SearchLine::Start);
+    m_menus->On("copyText", m_selection, &Selection::Copy);
+    m_menus->On("copyTexts", m_selection, &Selection::CopyOwner);
+    m_menus->On("paste", m_selection, &Selection::Paste);
+    m_menus->On("repeat", m_selection, &Selection::Repeat);
+    m_menus->On("match", m_selection, &Selection::StartMatching);
+    m_menus->On("allSame", m_selection, &Selection::JoinSameText);
+    m_menus->On("allLike", m_selection, &Selection::JoinLikeOwners);
+    m_menus->On("replace", m_selection, &Selection::Replace);
     m_menus->On("type", m_docks, [this] { m_docks->StartTyping(); });
     m_menus->On("edit", m_docks, &Docks::StartEditing);
     m_menus->On("panel", m_selection, &Selection::OpenPanel);

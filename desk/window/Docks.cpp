@@ -79,9 +79,10 @@ QList<QAction*> Docks::Toggles() const
             m_sketchDock->toggleViewAction()};
 }
 
-void Docks::Show(const std::optional<FieldRef>& chosen)
+void Docks::Show(const std::optional<FieldRef>& chosen, std::size_t together)
 {
     m_chosen = chosen;
+    m_together = together;
     ShowProperties();
     ShowSection();
     ShowChoices();
@@ -131,8 +132,9 @@ void Docks::ShowChoices()
     } catch (const Failure& failure) {
         emit Failed(Told(failure));
     }
-    m_choices->SetChoices(OwnerName(project, *m_chosen), FieldName(project, *m_chosen),
-                          QString::fromStdString(TextAt(project, *m_chosen)),
+    const QString owner = OwnerName(project, *m_chosen);
+    m_choices->SetChoices(m_together > 1 ? tr("%1 and %2 more").arg(owner).arg(m_together - 1) : owner,
+                          FieldName(project, *m_chosen), QString::fromStdString(TextAt(project, *m_chosen)),
                           m_offers.ProposedFor(*m_chosen), *ranking, m_chosen->field == Field::Name);
     m_choices->SetPanelEnabled(PanelOf(*m_chosen) != PanelKind::None);
 }
@@ -156,7 +158,7 @@ void Docks::Redraw()
     m_sketchDock->setWindowTitle(tr("Section"));
     m_choices->Retranslate();
     m_properties->Show(m_document.Get(), std::nullopt);  // its rows are made anew
-    Show(m_chosen);
+    Show(m_chosen, m_together);
 }
 
 void Docks::StartTyping(const QString& first)

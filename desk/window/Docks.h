@@ -21,8 +21,9 @@ class Docks : public QObject {
 public:
     Docks(QMainWindow& window, const Document& document);
 
-    // Shows what belongs to an annotation of the document, which must exist; nothing for none.
-    void Show(const std::optional<FieldRef>& chosen);
+    // Shows what belongs to an annotation of the document, which must exist, and how many are chosen
+    // together with it, itself included; nothing for none.
+    void Show(const std::optional<FieldRef>& chosen, std::size_t together = 1);
     // Draws all anew, for another language or other colours.
     void Redraw();
 
@@ -60,6 +61,7 @@ private:
 
     const Document& m_document;
     std::optional<FieldRef> m_chosen;
+    std::size_t m_together = 1;
     Offers m_offers;
     ChoiceBox* m_choices;
     PropertyGrid* m_properties;

@@ -1,6 +1,7 @@
 #include "desk/window/Editing.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "desk/project/Making.h"
@@ -101,9 +102,11 @@ void Editing::AddWall(const PlanPoint& start, const PlanPoint& end)
 
 std::vector<FieldRef> Editing::Owners() const
 {
-    const std::optional<FieldRef>& chosen = m_selection.Chosen();
-    return chosen ? std::vector<FieldRef>{{chosen->isWall, chosen->index, Field::Name}}
-                  : std::vector<FieldRef>();
+    std::set<FieldRef> owners;
+    for (const FieldRef& ref : m_selection.All()) {
+        owners.insert({ref.isWall, ref.index, Field::Name});
+    }
+    return {owners.begin(), owners.end()};
 }
 
 QString Editing::Name(const std::vector<FieldRef>& owners) const

@@ -1,6 +1,9 @@
 // Editing: data and texts in place.
+#include <algorithm>
 #include <optional>
+#include <set>
 #include <utility>
+#include <vector>
 
 #include "desk/window/Ask.h"
 #include "desk/window/Editing.h"
@@ -58,18 +61,33 @@ void Editing::Clear()
     if (!chosen || !m_selection.EndEdit()) {
         return;
     }
-    const QString what = QStringLiteral("%1, %2").arg(OwnerName(m_document.Get(), *chosen),
-                                                      FieldName(m_document.Get(), *chosen));
+    const std::set<FieldRef> all = m_selection.All();
+    const QString one = QStringLiteral("%1, %2").arg(OwnerName(m_document.Get(), *chosen),
+                                                     FieldName(m_document.Get(), *chosen));
+    const QString told = tr("%1 removed").arg(all.size() == 1 ? one : tr("%1 annotations").arg(all.size()));
+    const bool hasInPlace =
+        std::any_of(all.begin(), all.end(), [](const FieldRef& ref) { return ref.inPlace >= 0; });
     if (chosen->field == Field::Name && m_document.From() != nullptr) {
         emit Said(tr("A label needs its name; deleting the beam removes the whole label"));
-    } else if (chosen->inPlace >= 0 && m_document.From() == nullptr) {
+    } else if (hasInPlace && m_document.From() == nullptr) {
         Edits edits;
-        Beam& beam = edits.beams.changed[chosen->index] = m_document.Get().beams[chosen->index];
-        beam.inPlace.erase(beam.inPlace.begin() + chosen->inPlace);
-        Do(tr("%1 removed").arg(what), std::move(edits));
+        for (auto ref = all.rbegin(); ref != all.rend(); ++ref) {  // the last text in place first
+            Beam& beam = edits.beams.changed.try_emplace(ref->index, m_document.Get().beams[ref->index])
+                             .first->second;
+            if (ref->inPlace >= 0) {
+                beam.inPlace.erase(beam.inPlace.begin() + ref->inPlace);
+            } else {
+                (beam.*RowOf(ref->field).ofBeam).clear();
+            }
+        }
+        Do(told, std::move(edits));
     } else {
-        m_document.SetText(*chosen, QString());
-        emit Said(tr("%1 removed").arg(what));
+        std::vector<std::pair<FieldRef, QString>> texts;
+        for (const FieldRef& ref : all) {
+            texts.emplace_back(ref, QString());
+        }
+        m_document.SetTexts(texts);
+        emit Said(told);
     }
 }
 

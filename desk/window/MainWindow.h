@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 
 #include "desk/Toolkit.h"
 #include "desk/shell/QtDisplay.h"
@@ -28,6 +29,7 @@ public:
 
     void Choose(const std::optional<FieldRef>& ref) { m_selection->Choose(ref); }
     [[nodiscard]] const std::optional<FieldRef>& Chosen() const { return m_selection->Chosen(); }
+    [[nodiscard]] std::set<FieldRef> AllChosen() const { return m_selection->All(); }
     void OpenPanel() { m_selection->OpenPanel(); }
 
     void SetAppearance(Appearance appearance);

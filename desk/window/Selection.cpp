@@ -1,6 +1,7 @@
 #include "desk/window/Selection.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "desk/window/Ask.h"
 #include "desk/window/FieldNames.h"
@@ -29,7 +30,9 @@ Selection::Selection(Document& document, FloorView& floor, Docks& docks, PanelHo
     : QObject(&window), m_document(document), m_floor(floor), m_docks(docks), m_panels(panels),
       m_window(window)
 {
-    connect(&floor, &FloorView::Picked, this, &Selection::Choose);
+    connect(&floor, &FloorView::Picked, this, &Selection::Pick);
+    connect(&floor, &FloorView::Joined, this, &Selection::Join);
+    connect(&floor, &FloorView::Framed, this, &Selection::JoinAll);
     connect(&floor, &FloorView::NothingPicked, this, [this] { Choose(std::nullopt); });
     connect(&floor, &FloorView::PanelAsked, this, [this](const FieldRef& ref) {
         Choose(ref);
@@ -55,13 +58,22 @@ Selection::Selection(Document& document, FloorView& floor, Docks& docks, PanelHo
     connect(&document, &Document::TextChanged, this, [this](const FieldRef& ref) { m_floor.Refresh(ref); });
     connect(&document, &Document::StepDone, this, [this](const std::vector<FieldRef>& changed) {
         // Undo and redo go where they change something.
-        const bool isHere = m_chosen && std::count(changed.begin(), changed.end(), *m_chosen) != 0;
-        Choose(isHere ? m_chosen : changed.front());
+        const auto isHere = [this](const FieldRef& ref) {
+            return m_chosen && ref.isWall == m_chosen->isWall && ref.index == m_chosen->index;
+        };
+        const auto here = std::find_if(changed.begin(), changed.end(), isHere);
+        if (m_chosen && std::count(changed.begin(), changed.end(), *m_chosen) != 0) {
+            Choose(m_chosen);
+        } else {
+            Choose(here != changed.end() ? *here : changed.front());
+        }
     });
     connect(&document, &Document::OwnersChanged, this, &Selection::Follow);
     connect(&document, &Document::Replaced, this, [this] {
         m_panels.Close();  // it serves an annotation of the project before
         m_chosen.reset();
+        m_others.clear();
+        m_matched.reset();
         const Drawing* const from = m_document.From();
         m_floor.SetProject(&m_document.Get(), from != nullptr ? &from->Behind() : nullptr);
         Show();
@@ -73,6 +85,7 @@ void Selection::Follow(const Exchanged& exchanged)
 {
     if (exchanged.Renumbers()) {
         m_panels.Close();  // it may serve what is no more
+        m_others.clear();
     }
     m_floor.Exchange(exchanged);
     const bool isWall = exchanged.beams.in.empty();
@@ -89,15 +102,22 @@ void Selection::Follow(const Exchanged& exchanged)
 
 void Selection::Choose(const std::optional<FieldRef>& ref)
 {
-    m_chosen = ref && Exists(m_document.Get(), *ref) ? ref : std::nullopt;
+    const Project& project = m_document.Get();
+    const std::optional<FieldRef> before = m_chosen;
+    m_chosen = ref && Exists(project, *ref) ? ref : std::nullopt;
+    m_others = before && m_chosen ? WentOn(project, m_others, *before, *m_chosen) : std::set<FieldRef>();
+    if (!m_chosen) {
+        m_matched.reset();
+    }
     emit Said({});  // it told of something else
     Show();
 }
 
 void Selection::Show()
 {
+    m_floor.SetTogether(m_others);
     m_floor.SetChosen(m_chosen);
-    m_docks.Show(m_chosen);
+    m_docks.Show(m_chosen, m_others.size() + 1);
 }
 
 void Selection::Find(const QString& wanted, int by)
@@ -157,7 +177,7 @@ bool Selection::TakeAll(const Texts& asked, const QString& reason)
 {
     const Project& project = m_document.Get();
     Texts texts;
-    for (const auto& [ref, text] : asked) {
+    for (const auto& [ref, text] : ForAll(asked)) {
         if (!Exists(project, ref)) {
             return false;  // of a project that is gone
         }
@@ -173,6 +193,11 @@ bool Selection::TakeAll(const Texts& asked, const QString& reason)
         Show();
         return false;
     }
+    Copied last{ref.isWall, {}};
+    for (const auto& [each, text] : asked) {
+        last.texts.emplace_back(each.field, text);
+    }
+    m_last = std::move(last);
     if (m_document.Changes().index() == steps) {
         Show();  // a change has shown itself
     }
@@ -180,7 +205,10 @@ bool Selection::TakeAll(const Texts& asked, const QString& reason)
     for (const auto& [each, text] : texts) {
         now << QString::fromStdString(TextAt(project, each));
     }
-    const QString what = texts.size() == 1 ? owner + QStringLiteral(", ") + FieldName(project, ref) : owner;
+    now.removeDuplicates();
+    const QString what = texts.size() > asked.size() ? tr("%1 annotations").arg(texts.size())
+                         : texts.size() == 1 ? owner + QStringLiteral(", ") + FieldName(project, ref)
+                                             : owner;
     m_told = QStringLiteral("%1: %2").arg(what, now.join(QStringLiteral(", "))) +
              (reason.isEmpty() ? QString() : QStringLiteral(" - ") + reason);
     emit Said(m_told);
@@ -199,7 +227,7 @@ void Selection::TakeFromList(const Texts& asked, const QString& reason)
         return;
     }
     std::optional<FieldRef> next = StepToFill(project, from, m_document.From() != nullptr);
-    if (!wasEmpty && (!next || next->index != from.index)) {
+    if ((!wasEmpty || !m_others.empty()) && (!next || next->index != from.index)) {
         next = NextText(project, from);
     }
     if (next) {

@@ -37,7 +37,8 @@ std::size_t PlaceOf(const std::vector<FieldRef>& refs, const FieldRef& ref)
     return static_cast<std::size_t>(std::find(refs.begin(), refs.end(), ref) - refs.begin());
 }
 
-// The annotation of an owner that is to it what the given one is to its own.
+}  // namespace
+
 FieldRef Alike(const Project& project, FieldRef owner, const FieldRef& from)
 {
     owner.field = from.field;
@@ -52,8 +53,6 @@ FieldRef Alike(const Project& project, FieldRef owner, const FieldRef& from)
     owner.inPlace = found == there.end() ? -1 : static_cast<int>(found - there.begin());
     return owner;
 }
-
-}  // namespace
 
 std::optional<FieldRef> StepField(const Project& project, const std::optional<FieldRef>& from, int by)
 {

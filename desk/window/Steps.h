@@ -10,6 +10,10 @@
 
 namespace Desk {
 
+// The annotation of a beam or wall that is to it what the given one is to its own: of a text in place that
+// at the same support or span, else the field that serves it.
+[[nodiscard]] FieldRef Alike(const Project& project, FieldRef owner, const FieldRef& from);
+
 // by is 1 for the next one, -1 for the previous one; from nothing: the first one, or the last. Nothing for
 // a project without beams and walls.
 

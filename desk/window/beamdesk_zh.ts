@@ -1225,6 +1225,122 @@
         <source>%1, %2: &quot;%3&quot; does not belong there.</source>
         <translation>%1，%2：“%3”不属于此处。</translation>
     </message>
+    <message>
+        <source>Copies the chosen annotation</source>
+        <translation>复制选中的标注</translation>
+    </message>
+    <message>
+        <source>Copy all texts of the &amp;beam</source>
+        <translation>复制整根梁的标注(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Copies all annotations of the chosen beam or wall but its name</source>
+        <translation>复制选中梁或墙除名称外的全部标注</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Gives what was copied to all chosen annotations</source>
+        <translation>将复制的内容填入所有选中的标注</translation>
+    </message>
+    <message>
+        <source>Repeat the &amp;last</source>
+        <translation>重复上一次(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Gives the text that was taken last to all chosen annotations</source>
+        <translation>将上一次选用的内容填入所有选中的标注</translation>
+    </message>
+    <message>
+        <source>&amp;Match</source>
+        <translation>匹配(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Gives the chosen text to what is clicked; of a name all texts of its beam</source>
+        <translation>将选中的标注填入点击处；选中名称时填入整根梁的标注</translation>
+    </message>
+    <message>
+        <source>Choose all with this &amp;text</source>
+        <translation>选择内容相同的标注(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Chooses all annotations of the field that have the same text</source>
+        <translation>选择同类标注中内容相同的全部标注</translation>
+    </message>
+    <message>
+        <source>Choose all l&amp;ike this beam</source>
+        <translation>选择同类梁(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Chooses the annotation in all beams of the same type and section</source>
+        <translation>在类型和截面相同的所有梁中选择该标注</translation>
+    </message>
+    <message>
+        <source>Find and r&amp;eplace...</source>
+        <translation>查找和替换(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Replaces a text in the annotations of one kind or all</source>
+        <translation>在某类或全部标注中替换内容</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>查找和替换</translation>
+    </message>
+    <message>
+        <source>Beam or wall</source>
+        <translation>梁或墙</translation>
+    </message>
+    <message>
+        <source>Annotation</source>
+        <translation>标注</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>原内容</translation>
+    </message>
+    <message>
+        <source>Becomes</source>
+        <translation>改为</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>Replace by</source>
+        <translation>替换为</translation>
+    </message>
+    <message>
+        <source>In annotations</source>
+        <translation>标注种类</translation>
+    </message>
+    <message>
+        <source>Of</source>
+        <translation>范围</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>替换(&amp;R)</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>all beams and walls</source>
+        <translation>全部梁和墙</translation>
+    </message>
+    <message>
+        <source>beams %1</source>
+        <translation>%1 梁</translation>
+    </message>
+    <message>
+        <source>%1 hits, %2 ticked</source>
+        <translation>找到 %1 处，已勾选 %2 处</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>
@@ -1319,6 +1435,10 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>Section</source>
         <translation>截面</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 等，另有 %2 处</translation>
     </message>
 </context>
 <context>
@@ -1417,6 +1537,10 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>%1 removed</source>
         <translation>%1 已清除</translation>
+    </message>
+    <message>
+        <source>%1 annotations</source>
+        <translation>%1 处标注</translation>
     </message>
 </context>
 <context>
@@ -1869,6 +1993,46 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>No beam lacks a text</source>
         <translation>没有缺标注的梁</translation>
+    </message>
+    <message>
+        <source>%1 annotations</source>
+        <translation>%1 处标注</translation>
+    </message>
+    <message>
+        <source>Beams and walls do not take the same texts</source>
+        <translation>梁与墙的标注不能互用</translation>
+    </message>
+    <message>
+        <source>%1 annotations chosen</source>
+        <translation>已选择 %1 处标注</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>已复制：%1</translation>
+    </message>
+    <message>
+        <source>Copied: all texts of %1 but its name</source>
+        <translation>已复制 %1 除名称外的全部标注</translation>
+    </message>
+    <message>
+        <source>The clipboard has no single line of text</source>
+        <translation>剪贴板中没有单行文字</translation>
+    </message>
+    <message>
+        <source>Nothing was taken yet</source>
+        <translation>尚未选用过内容</translation>
+    </message>
+    <message>
+        <source>Click what gets all texts of %1 but its name; Esc ends</source>
+        <translation>点击要填入 %1 全部标注（名称除外）的梁或墙，Esc 结束</translation>
+    </message>
+    <message>
+        <source>Click what gets %1; Esc ends</source>
+        <translation>点击要填入 %1 的标注，Esc 结束</translation>
+    </message>
+    <message>
+        <source>%1 texts replaced</source>
+        <translation>已替换 %1 处标注</translation>
     </message>
 </context>
 <context>
