@@ -37,7 +37,7 @@ std::map<BarKind, int> CountsOf(const Bars& bars)
 class Count {
 public:
     Count(const Beam& beam, std::size_t index)
-        : m_beam(beam), m_index(index), m_kind(KindOf(beam.name)), m_spans(SpansOf(beam)),
+        : m_beam(beam), m_index(index), m_kind(KindOf(beam.name)), m_spans(SpanLengths(beam)),
           m_isCantilever(ReadNameInAnyCase(beam.name).value_or(BeamName()).type == "XL")
     {
     }

@@ -28,7 +28,7 @@ double TensileStrength(int concreteGrade)
 
 }  // namespace
 
-std::vector<double> SpansOf(const Beam& beam)
+std::vector<double> SpanLengths(const Beam& beam)
 {
     if (!beam.spans.empty()) {
         return beam.spans;
