@@ -112,9 +112,9 @@ TEST_F(ProblemsTest, HaveASignOnThePlan)
     EXPECT_EQ(signs(), 0);
     Set(section, "wide");
     EXPECT_GT(signs(), 10);
-    Set(section, "");
-    EXPECT_GT(signs(), 10) << "where there is no text either";
     Trigger("undo");
+    Set(Bars, "");
+    EXPECT_GT(signs(), 10) << "where there is no text either";
     Trigger("undo");
     EXPECT_EQ(signs(), 0);
 }
