@@ -42,6 +42,8 @@ public:
     void SetMarks(std::vector<PlanMark> marks);
     // Lights up a mark and brings it into view; nothing for none. Does not signal.
     void LightMark(std::optional<std::size_t> mark);
+    // Annotations that have problems get a sign; one that is not there has none.
+    void SetProblems(std::vector<FieldRef> refs);
     // From now on presses of the left button tell their position, whatever is there, and moves where the
     // pointer is.
     using TakePoint = std::function<void(const PlanPoint&)>;
@@ -81,6 +83,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void drawForeground(QPainter* painter, const QRectF& exposed) override;
 
 private:
     struct Hit {
@@ -120,6 +123,7 @@ private:
     std::vector<OwnerItem*> m_items;  // beams, then walls
     std::ptrdiff_t m_walls = 0;       // among them
     MarksItem* m_marks = nullptr;
+    std::vector<FieldRef> m_problems;
     SketchItem* m_sketch = nullptr;
     int m_covering = 0;
     std::optional<FieldRef> m_chosen;

@@ -99,6 +99,13 @@ void Problems::Look()
     });
     m_isAllChanged = false;
     m_changed.clear();
+    std::vector<FieldRef> refs;
+    for (const Problem& each : m_checks.All()) {
+        if (refs.empty() || refs.back() != each.at) {
+            refs.push_back(each.at);
+        }
+    }
+    m_floor.SetProblems(std::move(refs));
     ShowCount();
 }
 

@@ -95,6 +95,30 @@ TEST_F(ProblemsTest, AreCountedListedGoneThroughAndMended)
     EXPECT_EQ(Count(), "No problems");
 }
 
+TEST_F(ProblemsTest, HaveASignOnThePlan)
+{
+    const auto signs = [this] {
+        QCoreApplication::processEvents();
+        const QImage plan = window.Drawing().viewport()->grab().toImage();
+        int pixels = 0;
+        for (int y = 0; y < plan.height(); ++y) {
+            for (int x = 0; x < plan.width(); ++x) {
+                pixels += plan.pixelColor(x, y) == ColorsFor(false).mark ? 1 : 0;
+            }
+        }
+        return pixels;
+    };
+    window.SetAppearance(Appearance::Light);
+    EXPECT_EQ(signs(), 0);
+    Set(section, "wide");
+    EXPECT_GT(signs(), 10);
+    Trigger("undo");
+    Set(Bars, "");
+    EXPECT_GT(signs(), 10) << "where there is no text either";
+    Trigger("undo");
+    EXPECT_EQ(signs(), 0);
+}
+
 TEST_F(ProblemsTest, CountByTheRulesOfTheProjectWhichUndoSwitchesBack)
 {
     Set(section, "wide");

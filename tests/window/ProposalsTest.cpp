@@ -89,9 +89,9 @@ TEST_F(ProposalsTest, GoesOnToWhatIsEmptyAndStaysInABeamThatIsFull)
     EXPECT_EQ(window.Chosen(), Of(Field::TopBars)) << "passes over";
     Trigger("type");
     auto& typed = Find<QLineEdit>("typed");
-    QTest::keyClicks(&typed, "3B99");
+    QTest::keyClicks(&typed, "7B28");
     QTest::keyClick(&typed, Qt::Key_Return);
-    EXPECT_EQ(Text(Of(Field::TopBars)), "3B99");
+    EXPECT_EQ(Text(Of(Field::TopBars)), "7B28");
     EXPECT_EQ(window.Chosen(), Of(Field::BottomBars)) << "so does a typed text";
     EXPECT_EQ(window.focusWidget(), &window.Drawing());
     Key('1');
