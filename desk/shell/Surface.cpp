@@ -83,9 +83,9 @@ void Surface::ShowTexts()
 
 void Surface::TakePlace(const WindowRecord& popUp, const Scale& scale)
 {
-    constexpr int Margin = 3, FontHeight = 11, TitleWidth = 200;  // pixels of the window layer
+    constexpr int Margin = 3, TitleHeight = 11, TitleWidth = 200;  // pixels of the window layer
     QFont plain = font();
-    plain.setPixelSize(scale.ToWidget(FontHeight));
+    plain.setPixelSize(scale.ToWidget(TitleHeight));
     m_strip->setFont(plain);
     plain.setBold(true);
     m_titleLabel->setFont(plain);
