@@ -86,6 +86,10 @@ void FloorView::SetChosen(std::optional<FieldRef> ref)
 
 void FloorView::SetTogether(const std::set<FieldRef>& refs)
 {
+    if (refs.empty() && !std::exchange(m_areTogether, false)) {
+        return;
+    }
+    m_areTogether = !refs.empty();
     std::map<OwnerItem*, std::vector<FieldRef>> lit;
     for (const FieldRef& ref : refs) {
         lit[ItemOf(ref)].push_back(ref);

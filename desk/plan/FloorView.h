@@ -135,6 +135,7 @@ private:
     std::optional<QPoint> m_frameFrom;
     QRubberBand* m_frame;
     bool m_hasHandles[2] = {false, false};  // of beams, of walls
+    bool m_areTogether = false;             // some items are lit as chosen together
     bool m_isDark = false;
 };
 

@@ -7,7 +7,10 @@ namespace Desk {
 
 Offers::Offers(const Document& document, QObject* parent) : QObject(parent), m_document(document)
 {
-    connect(&document, &Document::Replaced, this, &Offers::Renew);
+    connect(&document, &Document::Replaced, this, [this] {
+        Renew();
+        CatchUp();  // opening takes long enough that nobody notices, the first click would not
+    });
     connect(&document, &Document::TextChanged, this,
             [this](const FieldRef& ref) { m_changed.insert(ref); });
     connect(&document, &Document::OwnersChanged, this, &Offers::Follow);
