@@ -32,6 +32,7 @@ void FloorView::SetProject(const Project* project, const Backdrop* behind)
     m_chosen.reset();
     m_hovered = nullptr;
     m_marks = nullptr;
+    m_small = nullptr;
     m_items.clear();
     m_all.clear();
     SetPointing(false);
@@ -43,6 +44,10 @@ void FloorView::SetProject(const Project* project, const Backdrop* behind)
     m_all = std::move(floor.all);
     m_items = std::move(floor.owners);
     m_covering = floor.covering;
+    m_small = new SmallTexts(m_items);
+    m_small->SetColors(&ColorsFor(m_isDark));
+    m_all.push_back(m_small);
+    scene()->addItem(m_small);
     const QRectF all = scene()->itemsBoundingRect() | floor.shown;
     scene()->setSceneRect(all.adjusted(-all.width(), -all.height(), all.width(), all.height()));
     SetContent(floor.shown, GoodHeight / floor.textHeight);
@@ -53,6 +58,7 @@ void FloorView::Refresh(const FieldRef& ref)
 {
     if (OwnerItem* const item = ItemOf(ref)) {
         item->Take(*m_project);
+        Scaled();  // the text may have another length
     }
 }
 
@@ -60,6 +66,7 @@ void FloorView::SetChosen(std::optional<FieldRef> ref)
 {
     if (OwnerItem* const before = m_chosen ? ItemOf(*m_chosen) : nullptr) {
         before->SetLit(std::nullopt);
+        m_small->SetLit(nullptr, std::nullopt);
     }
     m_chosen = ref && ItemOf(*ref) != nullptr ? ref : std::nullopt;
     if (!m_chosen) {
@@ -67,6 +74,7 @@ void FloorView::SetChosen(std::optional<FieldRef> ref)
     }
     OwnerItem& item = *ItemOf(*m_chosen);
     item.SetLit(m_chosen);
+    m_small->SetLit(&item, m_chosen);
     BringIntoView(mapFromScene(item.mapToScene(item.BoxOf(*m_chosen))).boundingRect());
 }
 
@@ -75,6 +83,34 @@ void FloorView::BringIntoView(const QRect& inView)
     const QRect room = viewport()->rect().adjusted(ViewMargin, ViewMargin, -ViewMargin, -ViewMargin);
     if (!room.intersects(inView)) {
         PanBy(room.center() - inView.center());
+    }
+}
+
+void FloorView::BringClose(const FieldRef& ref)
+{
+    const OwnerItem* const item = ItemOf(ref);
+    if (item == nullptr) {
+        return;
+    }
+    const auto inView = [&] { return mapFromScene(item->mapToScene(item->BoxOf(ref))).boundingRect(); };
+    if (const double height = item->OwnHeight(ref) * transform().m11(); height < m_leastTextSize) {
+        ZoomAbout(inView().center(), std::max(GoodHeight, m_leastTextSize) / height);
+    }
+    if (!viewport()->rect().contains(inView())) {
+        PanBy(viewport()->rect().center() - inView().center());
+    }
+}
+
+void FloorView::SetLeastTextSize(double pixels)
+{
+    m_leastTextSize = pixels;
+    Scaled();
+}
+
+void FloorView::Scaled()
+{
+    if (m_small != nullptr) {
+        m_small->Choose(m_leastTextSize / transform().m11());
     }
 }
 
@@ -162,6 +198,9 @@ FloorView::Hit FloorView::HitAt(const QPoint& inView) const
     const QPointF at = mapToScene(inView);
     const double scale = transform().m11();
     const double reach = BodyReach / scale;
+    if (const auto small = m_small != nullptr ? m_small->At(at) : std::nullopt) {
+        return {small->first, small->second};
+    }
     Hit body;
     for (QGraphicsItem* const each :
          scene()->items(QRectF(at.x() - reach, at.y() - reach, 2 * reach, 2 * reach),
@@ -171,7 +210,7 @@ FloorView::Hit FloorView::HitAt(const QPoint& inView) const
             continue;
         }
         const QPointF local = item->mapFromScene(at);
-        if (const std::optional<FieldRef> text = item->RefAt(local, scale)) {
+        if (const std::optional<FieldRef> text = item->RefAt(local)) {
             return {item, text};
         }
         if (body.item == nullptr && item->IsOnBody(local, reach)) {
@@ -189,14 +228,44 @@ void FloorView::Hover(const Hit& hit)
     if (m_hovered != nullptr && m_hovered != hit.item) {
         m_hovered->SetHovered(std::nullopt);
     }
+    if (m_hovered != nullptr && m_hoveredText && m_hoveredText != hit.text) {
+        m_small->Touch(*m_hoveredText, *m_hovered);
+    }
     m_hovered = hit.item;
+    m_hoveredText = hit.text;
     if (hit.item != nullptr) {
         hit.item->SetHovered(hit.text);
+        if (hit.text) {
+            m_small->Touch(*hit.text, *hit.item);
+        }
     }
     const bool isThing = hit.item != nullptr || hit.mark;
     viewport()->setCursor(m_isPointing ? Qt::CrossCursor
                           : isThing    ? Qt::PointingHandCursor
                                        : Qt::ArrowCursor);
+}
+
+bool FloorView::viewportEvent(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip) {
+        return PanView::viewportEvent(event);
+    }
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    if (const Hit hit = HitAt(help.pos()); hit.item != nullptr) {
+        emit TipAsked(hit.Ref(), help.globalPos());
+    } else {
+        QToolTip::hideText();
+    }
+    return true;
+}
+
+void FloorView::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    if (const Hit hit = byKey ? Hit() : HitAt(event->pos()); hit.item != nullptr) {
+        emit Picked(hit.Ref());
+    }
+    emit MenuAsked(byKey && m_chosen ? OnScreen(*m_chosen).center() : event->globalPos());
 }
 
 void FloorView::mousePressEvent(QMouseEvent* event)

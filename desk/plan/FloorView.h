@@ -8,6 +8,7 @@
 #include "desk/plan/MarksItem.h"
 #include "desk/plan/OwnerItem.h"
 #include "desk/plan/PanView.h"
+#include "desk/plan/SmallTexts.h"
 
 namespace Desk {
 
@@ -30,6 +31,10 @@ public:
 
     // Texts that wait for a person, drawn apart from the others, by numbers from 0.
     void SetMarks(std::vector<PlanMark> marks);
+    // Makes an annotation as large as is read with ease, where it is not, and the middle of the view where
+    // it is out of it.
+    void BringClose(const FieldRef& ref);
+
     // Lights up a mark and brings it into view; nothing for none. Does not signal.
     void LightMark(std::optional<std::size_t> mark);
     // The next press tells a position, whatever is there.
@@ -44,15 +49,24 @@ public:
 
     void ZoomBy(double factor);  // about the chosen annotation where it is in view, or else the middle
     void SetDark(bool dark);
+    // Pixels of the lowest texts of annotations.
+    void SetLeastTextSize(double pixels);
+    // What is drawn at the least size at this scale, and where, on the sheet.
+    [[nodiscard]] const SmallTexts* Small() const { return m_small; }
 
 signals:
     // A press on an annotation; on a beam or wall itself: its name.
     void Picked(const Desk::FieldRef& ref);
-    void PanelAsked(const Desk::FieldRef& ref);  // a double click
+    void PanelAsked(const Desk::FieldRef& ref);                        // a double click
+    void TipAsked(const Desk::FieldRef& ref, const QPoint& onScreen);  // the pointer rests there
+    void MenuAsked(const QPoint& onScreen);  // after a pick where an annotation is there
     void MarkPicked(std::size_t mark);
     void Pointed(const Desk::PlanPoint& at);
 
 protected:
+    void Scaled() override;
+    bool viewportEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -74,10 +88,13 @@ private:
     const Project* m_project = nullptr;
     std::vector<PlanItem*> m_all;     // the scene owns them
     std::vector<OwnerItem*> m_items;  // beams, then walls
+    SmallTexts* m_small = nullptr;
     MarksItem* m_marks = nullptr;
     int m_covering = 0;
     std::optional<FieldRef> m_chosen;
     OwnerItem* m_hovered = nullptr;
+    std::optional<FieldRef> m_hoveredText;
+    double m_leastTextSize = 9.0;
     bool m_isPointing = false;
     bool m_isDark = false;
 };

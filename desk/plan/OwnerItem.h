@@ -27,7 +27,24 @@ public:
     [[nodiscard]] QSizeF BlockSize() const { return SizeOf(m_block); }
     void SetBlock(const QPointF& corner);
 
-    [[nodiscard]] std::optional<FieldRef> RefAt(const QPointF& local, double scale) const;
+    // Texts lower than this, in mm, are drawn so high where there is room, and not by this item.
+    void SetLeastHeight(double height) { m_leastHeight = height; }
+    [[nodiscard]] bool HasSmallTexts() const;
+    // All its labels, with a text and without, as high as they are drawn; those of a line one by one.
+    [[nodiscard]] std::vector<Label> Labels() const;
+    // Also of a label that has grown.
+    [[nodiscard]] bool IsSmall(const Label& label) const
+    {
+        return label.box.height() <= 1.000001 * m_leastHeight;
+    }
+    void PaintText(QPainter& painter, const Label& label) const;
+    // From the beam along a line of the block; nothing for other texts.
+    void PaintLeader(QPainter& painter, const Label& label) const;
+    // As the project has the text.
+    [[nodiscard]] double OwnHeight(const FieldRef& ref) const;
+
+    // Of the texts that it draws itself.
+    [[nodiscard]] std::optional<FieldRef> RefAt(const QPointF& local) const;
     [[nodiscard]] bool IsOnBody(const QPointF& local, double reach) const;
     // Around an annotation's text, drawn or not.
     [[nodiscard]] QPolygonF BoxOf(const FieldRef& ref) const;
@@ -35,21 +52,19 @@ public:
     // Rectangles of the texts that are not in the block.
     [[nodiscard]] std::vector<QRectF> FixedBoxes() const;
 
+    [[nodiscard]] FieldRef RefOf(const Label& label) const
+    {
+        return {m_isWall, m_index, label.field, label.inPlace};
+    }
     [[nodiscard]] FieldRef NameRef() const { return {m_isWall, m_index, Field::Name}; }
     // Each an annotation of this beam or wall, or nothing.
     void SetLit(const std::optional<FieldRef>& ref);
     void SetHovered(const std::optional<FieldRef>& ref);
 
 private:
-    [[nodiscard]] FieldRef RefOf(const Label& label) const
-    {
-        return {m_isWall, m_index, label.field, label.inPlace};
-    }
     void Lie(const PlanPoint& start, const PlanPoint& end);
-    [[nodiscard]] std::vector<Label> AllLabels() const;
+    [[nodiscard]] std::vector<Label> LabelsAsTheyAre() const;
     void PaintBody(QPainter& painter) const;
-    void PaintLeader(QPainter& painter) const;
-    void PaintText(QPainter& painter, const Label& label) const;
 
     bool m_isWall;
     bool m_isDrawn = false;  // its outline and its leader are among the drawing's own lines
@@ -58,6 +73,7 @@ private:
     QPointF m_corner;  // of the block
     std::vector<Label> m_block;
     std::vector<Label> m_fixed;  // in local coordinates
+    double m_leastHeight = 0.0;
     std::optional<FieldRef> m_lit;
     std::optional<FieldRef> m_hovered;
 };
