@@ -10,19 +10,21 @@ _beamdesk() {
       ;;
   esac
   if [ "$COMP_CWORD" -eq 1 ]; then
-    words="tour rank table import set labels export hitrate panel events generate window shot --help --help-all --version"
+    words="tour rank propose table import set labels export hitrate panel events generate window shot --help --help-all --version"
   else
     case $command in
       tour) words="--project --beam" ;;
       rank) words="name section elevation bars stirrups --project --beam --json --limit --kind --top --width
                    --area --table --grade --seismic --project-kind" ;;
+      propose) words="--project --beam --limit --json name section elevation stirrup topBars bottomBars leftEnd
+                      rightEnd erection torsion side" ;;
       table) words="bars stirrups --width --area --grade --seismic --json" ;;
       import) words="--output --encoding --grade --legs --force --all" ;;
       set) words="--project --beam --output --at --handle name section elevation stirrup topBars bottomBars
                   leftEnd rightEnd erection torsion side" ;;
       labels) words="--json" ;;
       export) words="--output --scale --force" ;;
-      hitrate) words="--project --json" ;;
+      hitrate) words="--project --order --json" ;;
       panel | events) words="name section elevation stirrup bars hbars vbars --do --script --to --text --kind --quiet --ids
                              --json" ;;
       generate) words="--seed --output --force" ;;

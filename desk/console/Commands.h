@@ -13,6 +13,7 @@ namespace Desk {
 
 void AddTourCommand(CLI::App& program, std::ostream& out);
 void AddRankCommand(CLI::App& program, std::ostream& out);
+void AddProposeCommand(CLI::App& program, std::ostream& out);
 void AddTableCommand(CLI::App& program, std::ostream& out);
 void AddImportCommand(CLI::App& program, std::ostream& out);
 void AddSetCommand(CLI::App& program, std::ostream& out);

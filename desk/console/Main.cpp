@@ -97,6 +97,7 @@ int RunDesk(int argc, char** argv)
 
     Desk::AddTourCommand(program, std::cout);
     Desk::AddRankCommand(program, std::cout);
+    Desk::AddProposeCommand(program, std::cout);
     Desk::AddTableCommand(program, std::cout);
     Desk::AddImportCommand(program, std::cout);
     Desk::AddSetCommand(program, std::cout);

@@ -11,6 +11,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "desk/console/BeamWords.h"
 #include "desk/console/Commands.h"
 #include "desk/console/Options.h"
 #include "desk/console/Print.h"
@@ -40,31 +41,6 @@ struct SetOptions {
     std::string handle;
 };
 
-std::string KeysOfBeams()
-{
-    return Joined(BeamFields(), [](Field field) { return RowOf(field).key; });
-}
-
-// Null for a word that is no key of a beam's annotation.
-const FieldRow* RowOfKey(const std::string& key)
-{
-    for (const Field field : BeamFields()) {
-        if (const FieldRow& row = RowOf(field); key == row.key) {
-            return &row;
-        }
-    }
-    return nullptr;
-}
-
-const FieldRow& RequireRow(const std::string& key)
-{
-    const FieldRow* const row = RowOfKey(key);
-    if (row == nullptr) {
-        throw Failure(Quoted(key) + " is no annotation of a beam; those are " + KeysOfBeams());
-    }
-    return *row;
-}
-
 void RequireText(const std::string& text)
 {
     const auto isControl = [](char ch) { return static_cast<unsigned char>(ch) < 0x20 || ch == 0x7F; };
@@ -88,69 +64,6 @@ bool IsOfField(const std::string& text, const FieldRow& row)
     case Ranker::Bars: return hasHead && ReadBars(text).has_value();
     default: return true;
     }
-}
-
-std::size_t TextsOf(const Project& project, std::size_t beam)
-{
-    const std::vector<FieldRef> refs = RefsOf(project, {false, beam});
-    return static_cast<std::size_t>(std::count_if(refs.begin(), refs.end(), [&](const FieldRef& ref) {
-        return ref.inPlace < 0 && !TextAt(project, ref).empty();
-    }));
-}
-
-double Distance(const Beam& beam, const PlanPoint& at)
-{
-    const PlanPoint way{beam.end.x - beam.start.x, beam.end.y - beam.start.y};
-    const PlanPoint to{at.x - beam.start.x, at.y - beam.start.y};
-    const double square = way.x * way.x + way.y * way.y;
-    const double part = square > 0.0 ? std::clamp((way.x * to.x + way.y * to.y) / square, 0.0, 1.0) : 0.0;
-    return std::hypot(to.x - part * way.x, to.y - part * way.y);
-}
-
-// Of the beams of that name the nearest to the position, without one the one with the most texts.
-std::size_t BeamNamed(const Project& project, const SetOptions& options)
-{
-    const std::string& name = FindBeam(project, options.beam).name;
-    std::optional<std::size_t> best;
-    for (std::size_t i = 0; i < project.beams.size(); ++i) {
-        if (project.beams[i].name != name) {
-            continue;
-        }
-        const bool isBetter = !best || (options.at ? Distance(project.beams[i], *options.at) <
-                                                         Distance(project.beams[*best], *options.at)
-                                                   : TextsOf(project, i) > TextsOf(project, *best));
-        best = isBetter ? i : best;
-    }
-    return *best;
-}
-
-// On a drawing the bars at a beam's ends are texts in place at its first and last support.
-FieldRef AtEnd(const Project& project, std::size_t beam, Field end)
-{
-    const std::vector<InPlace>& texts = project.beams[beam].inPlace;
-    int last = static_cast<int>(project.beams[beam].spans.size()) + 1;
-    for (const InPlace& text : texts) {
-        last = text.role == Role::TopSupport ? std::max(last, text.number) : last;
-    }
-    const int number = end == Field::LeftEnd ? 1 : last;
-    FieldRef ref{false, beam, end};
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        const bool isThere = texts[i].role == Role::TopSupport && texts[i].number == number;
-        if (isThere && last > 1 && (ref.inPlace < 0 || TextAt(project, ref).empty())) {
-            ref = {false, beam, RowOf(Role::TopSupport).field, static_cast<int>(i)};
-        }
-    }
-    return ref;
-}
-
-FieldRef FieldOfBeam(const Opened& opened, std::size_t beam, Field field)
-{
-    if (!opened.drawing || field == Field::Name) {
-        return {false, beam, field};
-    }
-    const bool isEnd = field == Field::LeftEnd || field == Field::RightEnd;
-    return isEnd ? AtEnd(opened.project, beam, field)
-                 : FieldRef{false, WrittenOut(opened.project, beam), field};
 }
 
 // The annotation of a text in place that a word means: its role, or the field that serves it.
@@ -228,9 +141,10 @@ void RunSet(const SetOptions& options, std::ostream& out)
     RequireText(options.text);
     const Opened opened = OpenFile(options.project);
     RequireSameKind(options, opened.drawing.has_value());
-    const FieldRef ref = options.handle.empty() ? FieldOfBeam(opened, BeamNamed(opened.project, options),
-                                                              RequireRow(options.field).field)
-                                                : RefByHandle(opened, options);
+    const FieldRef ref = options.handle.empty()
+                             ? FieldOfBeam(opened, BeamNamed(opened.project, options.beam, options.at),
+                                           RequireRow(options.field).field)
+                             : RefByHandle(opened, options);
     Project project = opened.project;
     const std::string before = TextAt(project, ref);
     TextAt(project, ref) = options.text;

@@ -1,107 +1,53 @@
-// The callbacks read the project anew at each question, so that an edit shows in the next run.
 #include "desk/ranking/ProjectHost.h"
 
 #include <stdexcept>
-#include <string>
-
-#include "RankerModule.h"
-#include "desk/project/Encoding.h"
-#include "desk/ranking/Question.h"
+#include <utility>
 
 namespace Desk {
 
 namespace {
 
-const Project* g_project = nullptr;  // the project of the one living host
-
-// Empty texts are annotations that a beam does not have.
-void Deliver(CStringArray& to, const std::string& text)
-{
-    if (text.empty()) {
-        return;
-    }
-    if (std::optional<CString> gbk = GbkFromUtf8(text)) {
-        to.Add(*std::move(gbk));
-    }
-}
-
-void DeliverAll(CStringArray& to, Field field)
-{
-    for (const Beam& beam : g_project->beams) {
-        ForEachText(beam, field, [&to](const std::string& text) { Deliver(to, text); });
-    }
-}
-
-struct NameParts {
-    CString type;
-    int serial = 0;
-    CString suffix;
-};
-
-// Nothing for a name that has no type or no serial of its own.
-std::optional<NameParts> PartsOf(const std::string& name)
-{
-    const std::optional<CString> gbk = GbkFromUtf8(name);
-    if (!gbk) {
-        return std::nullopt;
-    }
-    NameParts parts;
-    BEAMNAME_HITNESS_RANKER::GetBeamType(*gbk, parts.type);
-    BEAMNAME_HITNESS_RANKER::GetBeamXu(*gbk, parts.serial);
-    BEAMNAME_HITNESS_RANKER::GetBeamKuaAndXuantiao(*gbk, parts.suffix);
-    if (parts.type.IsEmpty() || parts.serial < 1) {
-        return std::nullopt;
-    }
-    return parts;
-}
+const Delivery* g_delivery = nullptr;  // of the one living host
 
 void BeamTypes(CStringArray& arType)
 {
-    for (const Beam& beam : g_project->beams) {
-        if (const std::optional<NameParts> parts = PartsOf(beam.name)) {
-            arType.Add(parts->type);
-        }
+    for (const Delivery::Names& names : g_delivery->names) {
+        arType.Add(names.type);
     }
 }
 
 void BeamNumbers(CUIntArray& arXu, CStringArray& arSuffix, CString strType)
 {
-    for (const Beam& beam : g_project->beams) {
-        const std::optional<NameParts> parts = PartsOf(beam.name);
-        if (parts && parts->type == strType) {
-            arXu.Add(static_cast<unsigned int>(parts->serial));
-            arSuffix.Add(parts->suffix);
+    for (const Delivery::Names& names : g_delivery->names) {
+        if (names.type == strType) {
+            arXu = names.serials;
+            arSuffix = names.suffixes;
         }
     }
 }
 
-void Sections(CStringArray& arResult) { DeliverAll(arResult, Field::Section); }
-void Elevations(CStringArray& arResult) { DeliverAll(arResult, Field::Elevation); }
-void Stirrups(CStringArray& arResult) { DeliverAll(arResult, Field::Stirrup); }
-
-void BarsOfKind(CStringArray& arResult, CString strKind)
+void DeliveredTexts(CStringArray& arResult)
 {
-    const std::string kind = Utf8FromGbk(strKind);
-    for (const Beam& beam : g_project->beams) {
-        for (const std::string* text : BarTexts(beam, kind)) {
-            Deliver(arResult, *text);
-        }
+    for (const CString& text : g_delivery->texts) {
+        arResult.Add(text);
     }
 }
+
+void BarsOfKind(CStringArray& arResult, CString /*strKind*/) { DeliveredTexts(arResult); }
 
 }  // namespace
 
-ProjectHost::ProjectHost(const Project& project)
+ProjectHost::ProjectHost(Delivery delivery) : m_delivery(std::move(delivery))
 {
-    if (g_project != nullptr) {
+    if (g_delivery != nullptr) {
         throw std::logic_error("a second host while the first one lives");
     }
-    g_project = &project;
+    g_delivery = &m_delivery;
     SetBeamTypeFunc(&BeamTypes);
     SetBeamNumberFunc(&BeamNumbers);
-    SetBeamSectionFunc(&Sections);
-    SetBeamEleFunc(&Elevations);
-    SetBeamGujinFunc(&Stirrups);
+    SetBeamSectionFunc(&DeliveredTexts);
+    SetBeamEleFunc(&DeliveredTexts);
+    SetBeamGujinFunc(&DeliveredTexts);
     SetBeamSteelFunc(&BarsOfKind);
 }
 
@@ -113,7 +59,7 @@ ProjectHost::~ProjectHost()
     SetBeamEleFunc(nullptr);
     SetBeamGujinFunc(nullptr);
     SetBeamSteelFunc(nullptr);
-    g_project = nullptr;
+    g_delivery = nullptr;
 }
 
 }  // namespace Desk

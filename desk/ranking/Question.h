@@ -22,6 +22,8 @@ struct Question {
     std::optional<int> seismicClass = {};  // 1 to 4
     bool wantsTable = false;               // rows of the reference table after the candidates
     int projectKind = 2;  // the host's selector: others change what an empty project is offered
+
+    bool operator==(const Question&) const = default;
 };
 
 // What the field of the beam asks: end bars go by the through bars that they lie on, where there are some,

@@ -3,10 +3,12 @@
 
 #include <algorithm>
 #include <map>
-#include <unordered_set>
+#include <optional>
+#include <set>
+#include <utility>
 
 #include "desk/project/Encoding.h"
-#include "desk/ranking/ProjectHost.h"
+#include "desk/ranking/RankerTexts.h"
 
 namespace Desk {
 
@@ -15,53 +17,16 @@ namespace {
 // Uses of the project by candidate text: the writings that stand behind it.
 using Uses = std::map<std::string, std::vector<Writing>, std::less<>>;
 
-void Count(Uses& uses, const std::string& candidate, const std::string& written)
-{
-    std::vector<Writing>& writings = uses[candidate];
-    const auto known = std::find_if(writings.begin(), writings.end(),
-                                    [&written](const Writing& writing) { return writing.text == written; });
-    if (known != writings.end()) {
-        ++known->uses;
-    } else {
-        writings.push_back({written, 1});
-    }
-}
-
-Uses UsesOf(const Project& project, Field field)
+Uses UsesOf(const RankerTexts& texts, const TextCounts& counts)
 {
     Uses uses;
-    for (const Beam& beam : project.beams) {
-        ForEachText(beam, field, [&uses](const std::string& text) {
-            if (!text.empty()) {
-                Count(uses, text, text);
-            }
-        });
+    for (const int text : counts.InOrder()) {
+        // The bar ranker offers texts without the head that tells side bars from torsion bars.
+        const std::string& written = texts.Text(text);
+        uses[texts.AreBars() ? written.substr(HeadOf(written).size()) : written].push_back(
+            {written, counts.UsesOf(text)});
     }
     return uses;
-}
-
-// The bar ranker offers texts without the head character that tells side bars from torsion bars.
-Uses BarUses(const Project& project, const std::string& kind)
-{
-    Uses uses;
-    for (const Beam& beam : project.beams) {
-        for (const std::string* text : BarTexts(beam, kind)) {
-            if (!text->empty()) {
-                Count(uses, text->substr(HeadOf(*text).size()), *text);
-            }
-        }
-    }
-    return uses;
-}
-
-Uses UsesFor(const Project& project, const Question& question)
-{
-    switch (question.ranker) {
-    case Ranker::Sections: return UsesOf(project, Field::Section);
-    case Ranker::Elevations: return UsesOf(project, Field::Elevation);
-    case Ranker::Stirrups: return UsesOf(project, Field::Stirrup);
-    default: return BarUses(project, question.barKind);
-    }
 }
 
 void SetUses(Candidate& candidate, const Uses& uses)
@@ -97,16 +62,6 @@ std::vector<Candidate> Candidates(const List& list, const Uses& uses)
     return candidates;
 }
 
-// Type and suffix of a name, "KL(3)" of KL12(3).
-std::string FormOf(const CString& name)
-{
-    CString type;
-    BEAMNAME_HITNESS_RANKER::GetBeamType(name, type);
-    CString suffix;
-    BEAMNAME_HITNESS_RANKER::GetBeamKuaAndXuantiao(name, suffix);
-    return Utf8FromGbk(type + suffix);
-}
-
 // The ranker's texts carry no head character; the field has its own, and its uses are those written so.
 void DressWithHead(Ranking& ranking, const std::string& heads)
 {
@@ -131,29 +86,81 @@ void DressWithHead(Ranking& ranking, const std::string& heads)
 }
 
 // A name is free by nature; it comes from the project when its neighbours do.
-void TellNames(const Project& project, std::vector<Candidate>& names)
+void TellNames(const List& list, const RankerTexts& texts, const TextCounts& counts,
+               std::vector<Candidate>& names)
 {
-    BEAMNAME_HITNESS_RANKER ranker;
-    CStringArray fromProject;
-    ranker.SelectFromProject(fromProject);
-    std::unordered_set<std::string> known;
-    for (const CString& name : fromProject) {
-        known.insert(Utf8FromGbk(name));
-    }
     std::map<std::string, int> forms;
-    for (const Beam& beam : project.beams) {
-        if (const std::optional<CString> name = GbkFromUtf8(beam.name)) {
-            ++forms[FormOf(*name)];
+    std::set<std::string> delivered;
+    for (const int name : counts.InOrder()) {
+        forms[texts.FormOf(name)] += counts.UsesOf(name);
+        if (texts.IsDelivered(name)) {
+            delivered.insert(texts.FormOf(name));
         }
     }
-    for (Candidate& candidate : names) {
-        if (known.contains(candidate.text)) {
-            candidate.source = Source::Project;
-            const std::string form = FormOf(GbkFromUtf8(candidate.text).value_or(CString()));
-            candidate.uses = forms[form];
-            candidate.writings = {{form, candidate.uses}};
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const std::string form = FormOfName(list.texts[static_cast<int>(i)]);
+        if (delivered.contains(form)) {
+            names[i].source = Source::Project;
+            names[i].uses = forms[form];
+            names[i].writings = {{form, forms[form]}};
         }
     }
+}
+
+// Delivered by their rank, bars are stamped by it: the stamps that all uses would give are five a use.
+void RestoreStamps(List& list, const std::vector<int>& usesByRank)
+{
+    constexpr unsigned int StampPerUse = 5;
+    for (unsigned int& stamp : list.stamps) {
+        if (const unsigned int rank = stamp / StampPerUse; rank > 0) {
+            stamp = StampPerUse * static_cast<unsigned int>(usesByRank[rank - 1]);
+        }
+    }
+}
+
+Ranking RankTexts(const Question& question, const RankerTexts& texts, const TextCounts& counts)
+{
+    const ProjectHost host(texts.Delivered(counts.ForList()));
+    List list = RunRanker(question);
+    Ranking ranking;
+    ranking.focus = list.focus;
+    ranking.isStamped = list.isStamped;
+    if (question.ranker == Ranker::Names) {
+        ranking.candidates = Candidates(list, {});
+        TellNames(list, texts, counts, ranking.candidates);
+        return ranking;
+    }
+    if (question.ranker == Ranker::Bars) {
+        RestoreStamps(list, counts.UsesByRank());
+    }
+    ranking.candidates = Candidates(list, UsesOf(texts, counts));
+    // The look-up for given through bars begins with these bars themselves.
+    if (const auto table = static_cast<std::size_t>(list.table);
+        table < ranking.candidates.size() && ranking.candidates[table].text == question.barKind) {
+        ranking.candidates[table].source = Source::Given;
+    }
+    if (!question.heads.empty()) {
+        DressWithHead(ranking, question.heads);
+    }
+    return ranking;
+}
+
+TextCounts Counted(const RankerTexts& texts)
+{
+    TextCounts counts(texts);
+    for (const RankerTexts::Use& use : texts.Uses()) {
+        counts.Add(use.text);
+    }
+    return counts;
+}
+
+RankerTexts TextsFor(const Project& project, const Question& question)
+{
+    RankerTexts texts(question.ranker, question.barKind);
+    for (std::size_t i = 0; i < project.beams.size(); ++i) {
+        texts.Set(i, project.beams[i]);
+    }
+    return texts;
 }
 
 Ranking OtherWalls(const Project& project, std::string Wall::*member)
@@ -177,35 +184,82 @@ Ranking OtherWalls(const Project& project, std::string Wall::*member)
 
 Ranking Rank(const Project& project, const Question& question)
 {
-    const ProjectHost host(project);
-    const List list = RunRanker(question);
-    Ranking ranking;
-    ranking.focus = list.focus;
-    ranking.isStamped = list.isStamped;
-    if (question.ranker == Ranker::Names) {
-        ranking.candidates = Candidates(list, {});
-        TellNames(project, ranking.candidates);
-        return ranking;
-    }
-    ranking.candidates = Candidates(list, UsesFor(project, question));
-    // The look-up for given through bars begins with these bars themselves.
-    if (const auto table = static_cast<std::size_t>(list.table);
-        table < ranking.candidates.size() && ranking.candidates[table].text == question.barKind) {
-        ranking.candidates[table].source = Source::Given;
-    }
-    if (!question.heads.empty()) {
-        DressWithHead(ranking, question.heads);
-    }
-    return ranking;
+    const RankerTexts texts = TextsFor(project, question);
+    return RankTexts(question, texts, Counted(texts));
 }
 
 Ranking ChoicesFor(const Project& project, const FieldRef& ref, bool wantsTable)
 {
-    const FieldRow& row = RowOf(ref.field);
-    if (!ref.isWall) {
-        return Rank(project, QuestionFor(project, ref, wantsTable));
+    return Rankings(project).For(ref, wantsTable);
+}
+
+struct Rankings::Kept {
+    struct Last {
+        Question question;
+        Ranking ranking;
+    };
+    // What one ranker gets, by its kind of bars, and its last list for each field.
+    struct Pool {
+        RankerTexts texts;
+        std::optional<TextCounts> counts;
+        std::map<Field, Last> last;
+    };
+
+    Pool& PoolFor(const Question& question)
+    {
+        const auto [pool, isNew] = pools.try_emplace({question.ranker, question.barKind});
+        if (isNew) {
+            pool->second = std::make_unique<Pool>(Pool{TextsFor(project, question), {}, {}});
+        }
+        return *pool->second;
     }
-    return row.ranker == Ranker::OtherWalls ? OtherWalls(project, row.ofWall) : Ranking();
+
+    const Project& project;
+    std::map<std::pair<Ranker, std::string>, std::unique_ptr<Pool>> pools = {};
+    std::map<Field, Ranking> ofWalls = {};
+};
+
+Rankings::Rankings(const Project& project) : m_kept(std::make_unique<Kept>(Kept{project})) {}
+Rankings::~Rankings() = default;
+
+void Rankings::Update(std::size_t beam)
+{
+    for (const auto& [kind, pool] : m_kept->pools) {
+        if (pool->texts.Set(beam, m_kept->project.beams.at(beam))) {
+            pool->counts.reset();
+            pool->last.clear();
+        }
+    }
+}
+
+void Rankings::UpdateWall(std::size_t /*wall*/) { m_kept->ofWalls.clear(); }
+
+const Ranking& Rankings::For(const FieldRef& ref, bool wantsTable)
+{
+    if (ref.isWall) {
+        const auto [kept, isNew] = m_kept->ofWalls.try_emplace(ref.field);
+        if (const FieldRow& row = RowOf(ref.field); isNew && row.ranker == Ranker::OtherWalls) {
+            kept->second = OtherWalls(m_kept->project, row.ofWall);
+        }
+        return kept->second;
+    }
+    Question question = QuestionFor(m_kept->project, ref, wantsTable);
+    if (!question.wantsTable) {  // the table alone goes by these
+        question.width.reset();
+        question.area.reset();
+        question.grade.reset();
+        question.seismicClass.reset();
+    }
+    Kept::Pool& pool = m_kept->PoolFor(question);
+    if (!pool.counts) {
+        pool.counts.emplace(Counted(pool.texts));
+    }
+    auto last = pool.last.find(ref.field);
+    if (last == pool.last.end() || last->second.question != question) {
+        Ranking ranking = RankTexts(question, pool.texts, *pool.counts);
+        last = pool.last.insert_or_assign(ref.field, Kept::Last{question, std::move(ranking)}).first;
+    }
+    return last->second.ranking;
 }
 
 }  // namespace Desk

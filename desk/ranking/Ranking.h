@@ -1,6 +1,8 @@
 // Runs of the module's rankers on a project, with what a person wants to know of each candidate.
 #pragma once
 
+#include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -43,5 +45,27 @@ struct Ranking {
 // The texts that an annotation is likely to be, best first. A wall's bars, which the module does not rank,
 // are those of the other walls, the most used first. A wall's name has no candidates.
 [[nodiscard]] Ranking ChoicesFor(const Project& project, const FieldRef& ref, bool wantsTable);
+
+// ChoicesFor for a project that is asked again and again: keeps what repeated requests need of it. Borrows
+// the project.
+class Rankings {
+public:
+    explicit Rankings(const Project& project);
+    ~Rankings();
+    Rankings(const Rankings&) = delete;
+    Rankings& operator=(const Rankings&) = delete;
+
+    // After texts, spans or the required steel of a beam have changed, after texts of a wall have. Beams
+    // and walls that were added or removed need new Rankings.
+    void Update(std::size_t beam);
+    void UpdateWall(std::size_t wall);
+
+    // What ChoicesFor gives. Lives until the next call of any of these.
+    [[nodiscard]] const Ranking& For(const FieldRef& ref, bool wantsTable);
+
+private:
+    struct Kept;
+    std::unique_ptr<Kept> m_kept;
+};
 
 }  // namespace Desk

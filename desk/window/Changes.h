@@ -1,6 +1,7 @@
 // What a person does to a document, each one command on its undo stack.
 #pragma once
 
+#include <map>
 #include <string>
 #include <utility>
 
@@ -9,24 +10,25 @@
 
 namespace Desk {
 
-// Another text of an annotation.
-class TextChange : public QUndoCommand {
+// Other texts of annotations, in one step.
+class TextsChange : public QUndoCommand {
 public:
-    TextChange(Document& document, const FieldRef& ref, std::string text)
-        : m_document(document), m_ref(ref), m_before(TextAt(document.Get(), ref)), m_after(std::move(text))
+    TextsChange(Document& document, std::map<FieldRef, std::string> texts)
+        : m_document(document), m_others(std::move(texts))
     {
-        setText(
-            QStringLiteral("%1: %2").arg(OwnerName(document.Get(), ref), FieldName(document.Get(), ref)));
+        const FieldRef& first = m_others.begin()->first;
+        const QString what = m_others.size() == 1
+                                 ? FieldName(document.Get(), first)
+                                 : QCoreApplication::translate("Desk", "%1 texts").arg(m_others.size());
+        setText(QStringLiteral("%1: %2").arg(OwnerName(document.Get(), first), what));
     }
 
-    void undo() override { m_document.PutText(m_ref, m_before); }
-    void redo() override { m_document.PutText(m_ref, m_after); }
+    void undo() override { m_document.SwapTexts(m_others); }
+    void redo() override { m_document.SwapTexts(m_others); }
 
 private:
     Document& m_document;
-    FieldRef m_ref;
-    std::string m_before;
-    std::string m_after;
+    std::map<FieldRef, std::string> m_others;  // those that are not in the document now
 };
 
 // A beam with an open text that a person has pointed to it, or without it again.
@@ -54,7 +56,7 @@ private:
     {
         std::swap(m_document.m_project.beams[m_pointed.beam], m_pointed.as);
         emit m_document.OpenTextsChanged();
-        m_document.Changed(shown);
+        m_document.Changed({shown});
     }
 
     Document& m_document;

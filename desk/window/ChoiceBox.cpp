@@ -4,7 +4,8 @@ namespace Desk {
 
 ChoiceBox::ChoiceBox(QWidget* parent)
     : QWidget(parent), m_owner(new QLabel), m_present(new QLabel), m_typed(new QLineEdit),
-      m_rows(new ChoiceRows), m_table(new QCheckBox), m_panel(new QPushButton)
+      m_proposals(new ProposalRows), m_rows(new ChoiceRows), m_table(new QCheckBox),
+      m_panel(new QPushButton)
 {
     m_typed->setObjectName("typed");
     m_table->setObjectName("table");
@@ -24,11 +25,15 @@ ChoiceBox::ChoiceBox(QWidget* parent)
     column->addWidget(m_owner);
     column->addWidget(m_present);
     column->addWidget(m_typed);
+    column->addWidget(m_proposals);
     column->addWidget(m_rows, 1);
     column->addLayout(buttons);
 
     m_typed->installEventFilter(this);
     connect(m_typed, &QLineEdit::textChanged, this, [this] { m_rows->Narrow(Typed()); });
+    connect(m_typed, &QLineEdit::textEdited, this, [this] { SetTyping(true); });
+    connect(m_proposals, &ProposalRows::Taken, this, &ChoiceBox::ProposalTaken);
+    connect(m_proposals, &ProposalRows::BeamTaken, this, &ChoiceBox::BeamTaken);
     connect(m_rows, &ChoiceRows::Taken, this, &ChoiceBox::Taken);
     connect(m_table, &QCheckBox::toggled, this, &ChoiceBox::TableToggled);
     connect(m_panel, &QPushButton::clicked, this, &ChoiceBox::PanelAsked);
@@ -37,14 +42,19 @@ ChoiceBox::ChoiceBox(QWidget* parent)
 }
 
 void ChoiceBox::SetChoices(const QString& owner, const QString& field, const QString& present,
-                           const Ranking& ranking, bool areNames)
+                           const Proposed& proposed, const Ranking& ranking, bool areNames)
 {
     m_isEmpty = false;
     setEnabled(true);
     m_owner->setText(owner + QStringLiteral("   ") + field);
     m_present->setText(present.isEmpty() ? tr("no text yet") : present);
-    m_typed->setText(QString());  // not to be taken back within the line
-    m_rows->Fill(ranking, present, areNames);
+    {
+        const QSignalBlocker quiet(m_typed);
+        m_typed->setText(QString());  // not to be taken back within the line
+    }
+    m_proposals->Fill(proposed, present);
+    SetTyping(false);
+    m_rows->Fill(&ranking, present, areNames);
 }
 
 void ChoiceBox::Clear()
@@ -53,20 +63,33 @@ void ChoiceBox::Clear()
     setEnabled(false);
     m_owner->setText(tr("Click an annotation in the drawing"));
     m_present->clear();
+    m_proposals->Fill({}, {});
+    m_rows->Fill(nullptr, {}, false);
     m_typed->setText(QString());
-    m_rows->Empty();
+    SetTyping(false);
 }
 
 void ChoiceBox::StartTyping(const QString& first)
 {
     m_typed->setFocus(Qt::ShortcutFocusReason);
     m_typed->setText(m_typed->text() + first);
+    SetTyping(true);
+}
+
+// While a text is typed digits are its characters, and the proposals show no keys.
+void ChoiceBox::SetTyping(bool typing)
+{
+    m_isTyping = typing;
+    m_proposals->SetKeysTake(!typing);
+    m_typed->setPlaceholderText(!m_proposals->HasKeys() ? tr("Type to narrow, Enter takes")
+                                                        : tr("Enter to type, 1 to 3 take a proposal"));
 }
 
 void ChoiceBox::Take(const QString& text)
 {
     if (!text.isEmpty()) {
         emit Taken(text);
+        emit Left();
     }
 }
 
@@ -85,18 +108,26 @@ bool ChoiceBox::eventFilter(QObject* watched, QEvent* event)
         event->ignore();
         return true;
     }
-    if (event->type() != QEvent::KeyPress) {
-        return QWidget::eventFilter(watched, event);
+    if (event->type() == QEvent::MouseButtonPress) {
+        SetTyping(true);
     }
-    const auto& key = *static_cast<QKeyEvent*>(event);
+    return (event->type() == QEvent::KeyPress && HandleKey(*static_cast<QKeyEvent*>(event))) ||
+           QWidget::eventFilter(watched, event);
+}
+
+bool ChoiceBox::HandleKey(const QKeyEvent& key)
+{
+    const bool isEmpty = m_typed->text().isEmpty();
     switch (key.key()) {
     case Qt::Key_Up:
     case Qt::Key_Down:
     case Qt::Key_PageUp:
-    case Qt::Key_PageDown: return m_rows->MoveMark(key.key());
+    case Qt::Key_PageDown: SetTyping(true); return m_rows->MoveMark(key.key());
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (key.modifiers().testFlag(Qt::ControlModifier)) {  // as typed, whatever the rows hold
+        if (!m_isTyping) {
+            SetTyping(true);
+        } else if (key.modifiers().testFlag(Qt::ControlModifier)) {  // as typed, whatever the rows hold
             Take(Typed());
         } else {
             const QString marked = m_rows->Marked();
@@ -104,20 +135,31 @@ bool ChoiceBox::eventFilter(QObject* watched, QEvent* event)
         }
         return true;
     case Qt::Key_Escape:
-        if (m_typed->text().isEmpty()) {
+        if (isEmpty) {
             emit Left();
         } else {
             m_typed->clear();
         }
+        SetTyping(false);
         return true;
-    default: return QWidget::eventFilter(watched, event);
+    case Qt::Key_Space:
+        if (isEmpty) {
+            emit GoOn();
+        }
+        return isEmpty;
+    default: return isEmpty && TakeByKey(key.text());
     }
 }
 
 void ChoiceBox::Retranslate()
 {
-    m_typed->setPlaceholderText(tr("Type to narrow, Enter takes"));
-    m_typed->setToolTip(tr("Enter takes the marked text, Ctrl+Enter the text as typed"));
+    SetTyping(false);
+    m_proposals->Retranslate();
+    m_typed->setAccessibleName(tr("Text"));
+    m_rows->setAccessibleName(tr("Texts"));
+    m_typed->setToolTip(tr("Enter takes the marked text, Ctrl+Enter the text as typed.\n"
+                           "In the drawing 1 to 3 take a proposal and 0 the whole beam's; Enter, Ctrl+T or "
+                           "a click here first types a text that begins with such a digit."));
     m_table->setText(tr("&Table rows"));
     m_table->setToolTip(tr("Rows of the reference table for the beam's width and required steel"));
     m_panel->setText(tr("Compose... (F4)"));

@@ -1,6 +1,7 @@
 #include "desk/window/Docks.h"
 
-#include "desk/ranking/Ranking.h"
+#include <utility>
+
 #include "desk/window/FieldNames.h"
 #include "desk/window/Languages.h"
 
@@ -18,7 +19,7 @@ void Raise(QDockWidget& dock)
 }  // namespace
 
 Docks::Docks(QMainWindow& window, const Document& document)
-    : QObject(&window), m_document(document), m_choices(new ChoiceBox(&window)),
+    : QObject(&window), m_document(document), m_offers(document), m_choices(new ChoiceBox(&window)),
       m_properties(new PropertyGrid(&window)), m_sketch(new SectionSketch(&window)),
       m_choiceDock(AddDock(window, m_choices, "choiceDock")),
       m_propertyDock(AddDock(window, m_properties, "propertyDock")),
@@ -33,6 +34,13 @@ Docks::Docks(QMainWindow& window, const Document& document)
             emit Taken(*m_chosen, text);
         }
     });
+    connect(m_choices, &ChoiceBox::ProposalTaken, this, [this](const QString& text, const QString& reason) {
+        if (m_chosen) {
+            emit ProposalTaken({{*m_chosen, text}}, reason);
+        }
+    });
+    connect(m_choices, &ChoiceBox::BeamTaken, this, &Docks::TakeForBeam);
+    connect(m_choices, &ChoiceBox::GoOn, this, &Docks::GoOn);
     connect(m_choices, &ChoiceBox::PanelAsked, this, [this] {
         if (m_chosen) {
             emit PanelAsked(*m_chosen);
@@ -41,8 +49,16 @@ Docks::Docks(QMainWindow& window, const Document& document)
     connect(m_choices, &ChoiceBox::TableToggled, this, &Docks::ShowChoices);
     connect(m_choices, &ChoiceBox::Left, this, &Docks::Left);
     connect(m_properties, &PropertyGrid::Picked, this, &Docks::Picked);
-    connect(m_properties, &PropertyGrid::Edited, this, &Docks::Taken);
+    connect(m_properties, &PropertyGrid::Edited, this, &Docks::Edited);
     connect(m_properties, &PropertyGrid::PanelAsked, this, &Docks::PanelAskedInGrid);
+    connect(&m_offers, &Offers::Renewed, this, [this] {
+        m_chosen.reset();
+        m_choices->Clear();
+    });
+    // A dock that comes into view catches up.
+    connect(m_choiceDock, &QDockWidget::visibilityChanged, this, &Docks::ShowChoices);
+    connect(m_propertyDock, &QDockWidget::visibilityChanged, this, &Docks::ShowProperties);
+    connect(m_sketchDock, &QDockWidget::visibilityChanged, this, &Docks::ShowSection);
 }
 
 QDockWidget* Docks::AddDock(QMainWindow& window, QWidget* inside, const char* name)
@@ -65,13 +81,24 @@ QList<QAction*> Docks::Toggles() const
 void Docks::Show(const std::optional<FieldRef>& chosen)
 {
     m_chosen = chosen;
-    m_properties->Show(m_document.Get(), chosen);
+    ShowProperties();
     ShowSection();
     ShowChoices();
 }
 
+// What is not in view is made when it comes into view.
+void Docks::ShowProperties()
+{
+    if (m_properties->isVisible()) {
+        m_properties->Show(m_document.Get(), m_chosen);
+    }
+}
+
 void Docks::ShowSection()
 {
+    if (!m_sketch->isVisible()) {
+        return;
+    }
     if (!m_chosen || m_chosen->isWall) {
         m_sketch->SetBeam(nullptr);
         return;
@@ -92,17 +119,33 @@ void Docks::ShowChoices()
         m_choices->Clear();
         return;
     }
+    if (!m_choices->isVisible()) {
+        return;
+    }
+    static const Ranking none;
     const Project& project = m_document.Get();
-    Ranking ranking;
+    const Ranking* ranking = &none;
     try {
-        ranking = ChoicesFor(project, *m_chosen, m_choices->WantsTable());
+        ranking = &m_offers.RankingFor(*m_chosen, m_choices->WantsTable());
     } catch (const Failure& failure) {
         emit Failed(Told(failure));
     }
     m_choices->SetChoices(OwnerName(project, *m_chosen), FieldName(project, *m_chosen),
-                          QString::fromStdString(TextAt(project, *m_chosen)), ranking,
-                          m_chosen->field == Field::Name);
+                          QString::fromStdString(TextAt(project, *m_chosen)),
+                          m_offers.ProposedFor(*m_chosen), *ranking, m_chosen->field == Field::Name);
     m_choices->SetPanelEnabled(PanelOf(*m_chosen) != PanelKind::None);
+}
+
+void Docks::TakeForBeam()
+{
+    const std::optional<BeamProposal> beam = m_chosen ? m_offers.ProposedFor(*m_chosen).beam : std::nullopt;
+    if (beam) {
+        std::vector<std::pair<FieldRef, QString>> texts;
+        for (const auto& [ref, text] : beam->texts) {
+            texts.emplace_back(ref, QString::fromStdString(text));
+        }
+        emit ProposalTaken(texts, Told(beam->reason));
+    }
 }
 
 void Docks::Redraw()
@@ -117,6 +160,9 @@ void Docks::Redraw()
 
 void Docks::StartTyping(const QString& first)
 {
+    if (m_choices->isVisible() && m_choices->TakeByKey(first)) {
+        return;
+    }
     Raise(*m_choiceDock);
     m_choices->StartTyping(first);
 }
@@ -124,6 +170,7 @@ void Docks::StartTyping(const QString& first)
 void Docks::StartEditing()
 {
     Raise(*m_propertyDock);
+    ShowProperties();
     m_properties->EditMarked();
 }
 

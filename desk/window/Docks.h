@@ -3,11 +3,14 @@
 #pragma once
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "desk/Toolkit.h"
 #include "desk/plan/SectionSketch.h"
 #include "desk/window/ChoiceBox.h"
 #include "desk/window/Document.h"
+#include "desk/window/Offers.h"
 #include "desk/window/PropertyGrid.h"
 
 namespace Desk {
@@ -24,7 +27,7 @@ public:
     void Redraw();
 
     // Show a dock, wherever it is, and give it the keyboard: the texts, which a first character may
-    // narrow already, or the marked property.
+    // narrow already, or the marked property. The key of a proposal in view takes it instead.
     void StartTyping(const QString& first = QString());
     void StartEditing();
     // Ends editing in place and signals at once what it made.
@@ -38,6 +41,10 @@ public:
 signals:
     void Picked(const Desk::FieldRef& ref);
     void Taken(const Desk::FieldRef& ref, const QString& text);
+    // A proposal for an annotation, or for several of its beam.
+    void ProposalTaken(const std::vector<std::pair<Desk::FieldRef, QString>>& texts, const QString& reason);
+    void Edited(const Desk::FieldRef& ref, const QString& text);
+    void GoOn();                                       // to the next annotation without a text
     void PanelAsked(const Desk::FieldRef& ref);        // for the drawing's text
     void PanelAskedInGrid(const Desk::FieldRef& ref);  // for the value in the properties
     void Left();                                       // the keyboard goes back to the drawing
@@ -45,11 +52,14 @@ signals:
 
 private:
     QDockWidget* AddDock(QMainWindow& window, QWidget* inside, const char* name);
+    void ShowProperties();
     void ShowChoices();
     void ShowSection();
+    void TakeForBeam();
 
     const Document& m_document;
     std::optional<FieldRef> m_chosen;
+    Offers m_offers;
     ChoiceBox* m_choices;
     PropertyGrid* m_properties;
     SectionSketch* m_sketch;

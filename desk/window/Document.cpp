@@ -147,21 +147,28 @@ bool Document::IsFileNewer() const
     return !m_file.isEmpty() && QFileInfo::exists(m_file) && QFileInfo(m_file).lastModified() != m_fileTime;
 }
 
-QString Document::SetText(const FieldRef& asked, const QString& text)
+QString Document::SetTexts(const std::vector<std::pair<FieldRef, QString>>& texts)
 {
-    const FieldRef ref = Target(asked);
-    const std::string wanted = text.trimmed().toStdString();
-    if (wanted == TextAt(m_project, ref)) {
-        return {};
-    }
     const auto isControl = [](char ch) { return static_cast<unsigned char>(ch) < ' ' || ch == '\x7F'; };
-    if (std::any_of(wanted.begin(), wanted.end(), isControl)) {
-        return tr("An annotation is a single line without control characters.");
+    std::map<FieldRef, std::string> wanted;
+    for (const auto& [asked, text] : texts) {
+        const FieldRef ref = Target(asked);
+        std::string trimmed = text.trimmed().toStdString();
+        if (trimmed != TextAt(m_project, ref)) {
+            if (std::any_of(trimmed.begin(), trimmed.end(), isControl)) {
+                return tr("An annotation is a single line without control characters.");
+            }
+            if (!GbkFromUtf8(trimmed)) {
+                return tr("\"%1\" contains a character that drawings cannot store.").arg(text.trimmed());
+            }
+        }
+        wanted[ref] = std::move(trimmed);
     }
-    if (!GbkFromUtf8(wanted)) {
-        return tr("\"%1\" contains a character that drawings cannot store.").arg(text.trimmed());
+    std::erase_if(wanted,
+                  [this](const auto& each) { return each.second == TextAt(m_project, each.first); });
+    if (!wanted.empty()) {
+        m_changes.push(new TextsChange(*this, std::move(wanted)));
     }
-    m_changes.push(new TextChange(*this, ref, wanted));
     return {};
 }
 
@@ -181,18 +188,25 @@ void Document::WriteRecoveryCopy()
     }
 }
 
-void Document::PutText(const FieldRef& ref, const std::string& text)
+void Document::SwapTexts(std::map<FieldRef, std::string>& others)
 {
-    TextAt(m_project, ref) = text;
-    Changed(ref);
+    std::vector<FieldRef> refs;
+    for (auto& [ref, text] : others) {
+        std::swap(TextAt(m_project, ref), text);
+        refs.push_back(ref);
+    }
+    Changed(refs);
 }
 
-void Document::Changed(const FieldRef& ref)
+void Document::Changed(const std::vector<FieldRef>& refs)
 {
     if (!m_recoverySoon.isActive()) {
         m_recoverySoon.start();
     }
-    emit TextChanged(ref);
+    for (const FieldRef& ref : refs) {
+        emit TextChanged(ref);
+    }
+    emit StepDone(refs);
 }
 
 void Document::Replace(Project project, const QString& file, std::optional<Drawing> drawing)

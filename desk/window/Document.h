@@ -2,7 +2,10 @@
 // and its recovery copy.
 #pragma once
 
+#include <map>
 #include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include <QtCore>
@@ -53,7 +56,10 @@ public:
     [[nodiscard]] FieldRef Target(FieldRef ref) const;
     // Sets an annotation, which can be taken back. Answers why the text is refused, empty when it is
     // taken. Blanks around it are removed, and setting the present text is no change.
-    QString SetText(const FieldRef& ref, const QString& text);
+    QString SetText(const FieldRef& ref, const QString& text) { return SetTexts({{ref, text}}); }
+    // The same for several at once: all in one step, or none of them. Of two texts for an annotation the
+    // last one counts.
+    QString SetTexts(const std::vector<std::pair<FieldRef, QString>>& texts);
 
     // Gives an open text to the beam at a position, which can be taken back. The text's annotation, or
     // nothing where no beam takes it.
@@ -65,17 +71,18 @@ public:
     void WriteRecoveryCopy();
 
 signals:
-    void TextChanged(const Desk::FieldRef& ref);
+    void TextChanged(const Desk::FieldRef& ref);                // each text of a step
+    void StepDone(const std::vector<Desk::FieldRef>& changed);  // after them; not empty
     void OpenTextsChanged();
     void Replaced();     // another project
     void FileChanged();  // its name
     void RecoveryFailed(const QString& why);
 
 private:
-    friend class TextChange;
+    friend class TextsChange;
     friend class PointChange;
-    void PutText(const FieldRef& ref, const std::string& text);
-    void Changed(const FieldRef& ref);
+    void SwapTexts(std::map<FieldRef, std::string>& others);
+    void Changed(const std::vector<FieldRef>& refs);
     void Replace(Project project, const QString& file, std::optional<Drawing> drawing = std::nullopt);
     void Write(const std::string& file, bool asDrawing) const;
     void NoteFileTime();

@@ -111,6 +111,7 @@ void MainWindow::ConnectCommands()
             m_selection->Choose(where(m_document.Get(), m_selection->Chosen(), by));
         });
     };
+    m_menus->On("nextEmpty", m_selection, &Selection::GoOn);
     step("nextField", &StepField, 1);
     step("previousField", &StepField, -1);
     step("nextOwner", &StepOwner, 1);
@@ -147,7 +148,7 @@ void MainWindow::SetLanguage(Language language)
     ShowTitle();
 }
 
-// A character typed in the drawing begins to narrow the texts.
+// A character typed in the drawing takes a proposal or begins to narrow the texts.
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
     if (m_search->hasFocus()) {  // what it has no use for is for nobody else
@@ -158,7 +159,9 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
     }
     const QString text = event->text();
     const bool plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
-    if (Chosen() && plain && !text.isEmpty() && text.front().isPrint() && text != QLatin1String(" ")) {
+    if (plain && text == QLatin1String(" ")) {
+        m_selection->GoOn();
+    } else if (Chosen() && plain && !text.isEmpty() && text.front().isPrint()) {
         m_docks->StartTyping(text);
     } else if (Chosen() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
         m_docks->StartTyping();

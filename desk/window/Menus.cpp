@@ -44,6 +44,7 @@ constexpr Row Rows[] = {
     {"edit", QT_TRANSLATE_NOOP("Desk", "&Edit in place"), QT_TRANSLATE_NOOP("Desk", "Edits the property"), {}, Qt::Key_F2},
     {"panel", QT_TRANSLATE_NOOP("Desk", "&Compose in the panel"), QT_TRANSLATE_NOOP("Desk", "Opens the panel on the present text"), {}, Qt::Key_F4},
     Line,
+    {"nextEmpty", QT_TRANSLATE_NOOP("Desk", "Next &without a text"), QT_TRANSLATE_NOOP("Desk", "The next annotation that a text is wanted for"), {}, Qt::Key_F6},
     {"nextField", QT_TRANSLATE_NOOP("Desk", "Next &annotation"), QT_TRANSLATE_NOOP("Desk", "The next annotation of the beam"), {}, Qt::CTRL | Qt::Key_Down},
     {"previousField", QT_TRANSLATE_NOOP("Desk", "&Previous annotation"), QT_TRANSLATE_NOOP("Desk", "The previous annotation of the beam"), {}, Qt::CTRL | Qt::Key_Up},
     {"nextOwner", QT_TRANSLATE_NOOP("Desk", "Next &beam"), QT_TRANSLATE_NOOP("Desk", "The same annotation of the next beam"), {}, Qt::CTRL | Qt::Key_Right},

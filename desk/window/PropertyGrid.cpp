@@ -68,43 +68,65 @@ void PropertyGrid::Show(const Project& project, const std::optional<FieldRef>& r
 {
     const QScopedValueRollback filling(m_isFilling, true);
     std::vector<FieldRef> refs = ref ? RefsOf(project, *ref) : std::vector<FieldRef>();
-    const bool same = refs == m_refs;
+    const std::vector<Fixed> fixed = ref ? FixedOf(project, *ref) : std::vector<Fixed>();
+    const auto count = static_cast<int>(refs.size() + fixed.size());
+    // Rows are made anew for another kind of owner alone: their buttons cost the most.
+    const bool sameRows = refs.size() == m_refs.size() && count == topLevelItemCount() &&
+                          (refs.empty() || refs.front().isWall == m_refs.front().isWall);
     m_refs = std::move(refs);
-    if (!same) {
+    if (!sameRows) {
         clear();
-    }
-    if (!ref) {
-        return;
-    }
-    if (!same) {
         for (const FieldRef& each : m_refs) {
-            AddText(project, each);
+            AddText(each);
         }
-        if (ref->isWall) {
-            AddFixed(tr("Thickness"), QStringLiteral("%1 mm").arg(project.walls[ref->index].thickness));
-        } else {
-            const Beam& beam = project.beams[ref->index];
-            if (!beam.spans.empty()) {
-                QStringList lengths;
-                for (const double length : beam.spans) {
-                    lengths << QString::number(std::round(length), 'f', 0);
-                }
-                AddFixed(tr("Spans"), QStringLiteral("%1 mm").arg(lengths.join(QStringLiteral(" + "))));
-            }
-            AddFixed(tr("Floor"), QString::fromStdString(beam.floor));
-            AddFixed(tr("Concrete"), QStringLiteral("C%1").arg(beam.concreteGrade));
-            AddFixed(tr("Seismic class"), QString::number(beam.seismicClass));
-            AddFixed(tr("Required top"), QStringLiteral("%1 mm²").arg(beam.area.top));
-            AddFixed(tr("Required ends"),
-                     QStringLiteral("%1 / %2 mm²").arg(beam.area.leftEnd).arg(beam.area.rightEnd));
-            AddFixed(tr("Required bottom"), QStringLiteral("%1 mm²").arg(beam.area.bottom));
-        }
-    } else {
-        for (const FieldRef& each : m_refs) {
-            RowOf(each)->setText(ValueColumn, QString::fromStdString(TextAt(project, each)));
+        for (std::size_t i = 0; i < fixed.size(); ++i) {
+            AddFixed();
         }
     }
-    setCurrentItem(RowOf(*ref), ValueColumn);
+    int row = 0;
+    for (const FieldRef& each : m_refs) {
+        Fill(row++, FieldName(project, each), QString::fromStdString(TextAt(project, each)));
+    }
+    for (const auto& [caption, value] : fixed) {
+        Fill(row++, caption, value);
+    }
+    if (ref) {
+        setCurrentItem(RowOf(*ref), ValueColumn);
+    }
+}
+
+void PropertyGrid::Fill(int row, const QString& caption, const QString& value)
+{
+    QTreeWidgetItem& item = *topLevelItem(row);
+    for (const auto& [column, text] : {std::pair(CaptionColumn, caption), std::pair(ValueColumn, value)}) {
+        if (item.text(column) != text) {
+            item.setText(column, text);
+        }
+    }
+}
+
+std::vector<PropertyGrid::Fixed> PropertyGrid::FixedOf(const Project& project, const FieldRef& ref)
+{
+    if (ref.isWall) {
+        return {{tr("Thickness"), QStringLiteral("%1 mm").arg(project.walls[ref.index].thickness)}};
+    }
+    const Beam& beam = project.beams[ref.index];
+    std::vector<Fixed> rows = {
+        {tr("Floor"), QString::fromStdString(beam.floor)},
+        {tr("Concrete"), QStringLiteral("C%1").arg(beam.concreteGrade)},
+        {tr("Seismic class"), QString::number(beam.seismicClass)},
+        {tr("Required top"), QStringLiteral("%1 mm²").arg(beam.area.top)},
+        {tr("Required ends"), QStringLiteral("%1 / %2 mm²").arg(beam.area.leftEnd).arg(beam.area.rightEnd)},
+        {tr("Required bottom"), QStringLiteral("%1 mm²").arg(beam.area.bottom)}};
+    QStringList lengths;
+    for (const double length : beam.spans) {
+        lengths << QString::number(std::round(length), 'f', 0);
+    }
+    if (!lengths.isEmpty()) {
+        rows.insert(rows.begin(),
+                    {tr("Spans"), QStringLiteral("%1 mm").arg(lengths.join(QStringLiteral(" + ")))});
+    }
+    return rows;
 }
 
 QRect PropertyGrid::OnScreen(const FieldRef& ref) const
@@ -142,10 +164,9 @@ void PropertyGrid::TellEdited()
     }
 }
 
-void PropertyGrid::AddText(const Project& project, const FieldRef& ref)
+void PropertyGrid::AddText(const FieldRef& ref)
 {
-    auto* const row =
-        new QTreeWidgetItem(this, {FieldName(project, ref), QString::fromStdString(TextAt(project, ref))});
+    auto* const row = new QTreeWidgetItem(this);
     row->setFlags(row->flags() | Qt::ItemIsEditable);
     if (PanelOf(ref) == PanelKind::None) {
         return;
@@ -166,9 +187,9 @@ void PropertyGrid::AddText(const Project& project, const FieldRef& ref)
     setItemWidget(row, ButtonColumn, open);
 }
 
-void PropertyGrid::AddFixed(const QString& caption, const QString& value)
+void PropertyGrid::AddFixed()
 {
-    auto* const row = new QTreeWidgetItem(this, {caption, value});
+    auto* const row = new QTreeWidgetItem(this);
     row->setFlags(Qt::ItemIsEnabled);
     for (const int column : {CaptionColumn, ValueColumn}) {
         row->setForeground(column, palette().brush(QPalette::PlaceholderText));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "desk/Toolkit.h"
@@ -30,8 +31,12 @@ signals:
     void Edited(const Desk::FieldRef& ref, const QString& text);
 
 private:
-    void AddText(const Project& project, const FieldRef& ref);
-    void AddFixed(const QString& caption, const QString& value);
+    using Fixed = std::pair<QString, QString>;  // caption and value
+
+    [[nodiscard]] static std::vector<Fixed> FixedOf(const Project& project, const FieldRef& ref);
+    void AddText(const FieldRef& ref);
+    void AddFixed();
+    void Fill(int row, const QString& caption, const QString& value);
     [[nodiscard]] std::optional<FieldRef> RefOf(QTreeWidgetItem* row) const;
     [[nodiscard]] QTreeWidgetItem* RowOf(const FieldRef& ref) const;
 

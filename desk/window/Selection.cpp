@@ -1,10 +1,28 @@
 #include "desk/window/Selection.h"
 
+#include <algorithm>
+
 #include "desk/window/Ask.h"
 #include "desk/window/FieldNames.h"
+#include "desk/window/Filling.h"
 #include "desk/window/Steps.h"
 
 namespace Desk {
+
+namespace {
+
+// The next annotation of the same beam that has a text; nothing after the last one.
+std::optional<FieldRef> NextText(const Project& project, const FieldRef& from)
+{
+    const std::vector<FieldRef> refs = RefsOf(project, from);
+    auto next = std::find(refs.begin(), refs.end(), from);
+    while (next != refs.end() && (*next == from || TextAt(project, *next).empty())) {
+        ++next;
+    }
+    return next != refs.end() ? std::optional(*next) : std::nullopt;
+}
+
+}  // namespace
 
 Selection::Selection(Document& document, FloorView& floor, Docks& docks, PanelHost& panels, QWidget& window)
     : QObject(&window), m_document(document), m_floor(floor), m_docks(docks), m_panels(panels),
@@ -17,7 +35,12 @@ Selection::Selection(Document& document, FloorView& floor, Docks& docks, PanelHo
         OpenPanel();
     });
     connect(&docks, &Docks::Picked, this, &Selection::Choose);
-    connect(&docks, &Docks::Taken, this, &Selection::Take);
+    connect(&docks, &Docks::Edited, this, &Selection::Take);
+    connect(&docks, &Docks::Taken, this, [this](const FieldRef& ref, const QString& text) {
+        TakeFromList({{ref, text}}, QString());
+    });
+    connect(&docks, &Docks::ProposalTaken, this, &Selection::TakeFromList);
+    connect(&docks, &Docks::GoOn, this, &Selection::GoOn);
     connect(&docks, &Docks::PanelAsked, this, &Selection::OpenPanel);
     connect(&docks, &Docks::PanelAskedInGrid, this, [this](const FieldRef& ref) {
         if (EndEdit()) {
@@ -28,9 +51,11 @@ Selection::Selection(Document& document, FloorView& floor, Docks& docks, PanelHo
     connect(&docks, &Docks::Left, &floor, [this] { m_floor.setFocus(); });
     connect(&docks, &Docks::Failed, this, &Selection::Said);
     connect(&panels, &PanelHost::Composed, this, &Selection::Take);
-    connect(&document, &Document::TextChanged, this, [this](const FieldRef& ref) {
-        m_floor.Refresh(ref);
-        Choose(ref);  // undo and redo go where they change something
+    connect(&document, &Document::TextChanged, this, [this](const FieldRef& ref) { m_floor.Refresh(ref); });
+    connect(&document, &Document::StepDone, this, [this](const std::vector<FieldRef>& changed) {
+        // Undo and redo go where they change something.
+        const bool isHere = m_chosen && std::count(changed.begin(), changed.end(), *m_chosen) != 0;
+        Choose(isHere ? m_chosen : changed.front());
     });
     connect(&document, &Document::Replaced, this, [this] {
         m_panels.Close();  // it serves an annotation of the project before
@@ -88,27 +113,70 @@ bool Selection::EndEdit()
     return !m_isRefused;
 }
 
-void Selection::Take(const FieldRef& asked, const QString& text)
+bool Selection::TakeAll(const Texts& asked, const QString& reason)
 {
-    if (!Exists(m_document.Get(), asked)) {
-        return;  // of a project that is gone
+    const Project& project = m_document.Get();
+    Texts texts;
+    for (const auto& [ref, text] : asked) {
+        if (!Exists(project, ref)) {
+            return false;  // of a project that is gone
+        }
+        texts.emplace_back(m_document.Target(ref), text);
     }
-    const FieldRef ref = m_document.Target(asked);
-    const QString owner = OwnerName(m_document.Get(), ref);  // a new name changes it
-    const std::string before = TextAt(m_document.Get(), ref);
-    const QString refusal = m_document.SetText(ref, text);
+    const FieldRef ref = texts.front().first;
+    const QString owner = OwnerName(project, ref);  // a new name changes it
+    const int steps = m_document.Changes().index();
+    const QString refusal = m_document.SetTexts(texts);
     m_isRefused = !refusal.isEmpty();
     if (m_isRefused) {
         Tell(&m_window, tr("The text was not taken"), refusal);
         Show();
-        return;
+        return false;
     }
-    const std::string& now = TextAt(m_document.Get(), ref);
-    if (now == before) {
+    if (m_document.Changes().index() == steps) {
         Show();  // a change has shown itself
     }
-    emit Said(QStringLiteral("%1, %2: %3")
-                  .arg(owner, FieldName(m_document.Get(), ref), QString::fromStdString(now)));
+    QStringList now;
+    for (const auto& [each, text] : texts) {
+        now << QString::fromStdString(TextAt(project, each));
+    }
+    const QString what = texts.size() == 1 ? owner + QStringLiteral(", ") + FieldName(project, ref) : owner;
+    m_told = QStringLiteral("%1: %2").arg(what, now.join(QStringLiteral(", "))) +
+             (reason.isEmpty() ? QString() : QStringLiteral(" - ") + reason);
+    emit Said(m_told);
+    return true;
+}
+
+// A text for an annotation that had none goes on to the next one that lacks its own, which may be another
+// beam's. A proposal in place of a text goes on within the beam, any other text stays where it is.
+void Selection::TakeFromList(const Texts& asked, const QString& reason)
+{
+    const Project& project = m_document.Get();
+    const FieldRef ref = asked.front().first;
+    const FieldRef from = Exists(project, ref) ? m_document.Target(ref) : ref;
+    const bool wasEmpty = Exists(project, ref) && TextAt(project, from).empty();
+    if (!TakeAll(asked, reason) || from.isWall || !(wasEmpty || !reason.isEmpty())) {
+        return;
+    }
+    std::optional<FieldRef> next = StepToFill(project, from, m_document.From() != nullptr);
+    if (!wasEmpty && (!next || next->index != from.index)) {
+        next = NextText(project, from);
+    }
+    if (next) {
+        const QString told = m_told;
+        Choose(next);
+        emit Said(told);
+    }
+}
+
+void Selection::GoOn()
+{
+    if (const std::optional<FieldRef> next =
+            StepToFill(m_document.Get(), m_chosen, m_document.From() != nullptr)) {
+        Choose(next);
+    } else {
+        emit Said(tr("No beam lacks a text"));
+    }
 }
 
 }  // namespace Desk

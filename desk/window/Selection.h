@@ -3,6 +3,8 @@
 #pragma once
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "desk/Toolkit.h"
 #include "desk/plan/FloorView.h"
@@ -25,6 +27,9 @@ public:
     // Chooses the next text that contains the wanted one, or the previous one.
     void Find(const QString& wanted, int by);
 
+    // Goes to the next annotation that a text is wanted for.
+    void GoOn();
+
     // Opens the panel for the chosen annotation, beside its text in the drawing where that is in view.
     void OpenPanel();
     // Takes what an open editor of the properties holds; false when it was refused.
@@ -34,7 +39,11 @@ signals:
     void Said(const QString& text);  // for the status bar; empty when the text before is out of date
 
 private:
-    void Take(const FieldRef& asked, const QString& text);
+    using Texts = std::vector<std::pair<FieldRef, QString>>;
+
+    void Take(const FieldRef& ref, const QString& text) { TakeAll({{ref, text}}); }
+    bool TakeAll(const Texts& texts, const QString& reason = QString());
+    void TakeFromList(const Texts& texts, const QString& reason);
     void OpenPanelBeside(const QRect& field);
     void Show();
 
@@ -44,6 +53,7 @@ private:
     PanelHost& m_panels;
     QWidget& m_window;
     std::optional<FieldRef> m_chosen;
+    QString m_told;            // of the last text that was taken
     bool m_isRefused = false;  // the last text to be taken
 };
 

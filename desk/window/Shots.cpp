@@ -56,6 +56,23 @@ FieldRef RefFor(const Project& project, const PanelShot& shot)
     return {shot.wall, 0, shot.field};
 }
 
+// The texts for a beam in the middle that has none yet.
+void ShootProposals(MainWindow& window, const QDir& folder)
+{
+    Document& document = window.TheDocument();
+    const std::size_t beam = document.Get().beams.size() / 2;
+    std::vector<std::pair<FieldRef, QString>> none;
+    for (const Field field : {Field::Stirrup, Field::TopBars, Field::BottomBars, Field::Side}) {
+        none.emplace_back(FieldRef{false, beam, field}, QString());
+    }
+    document.SetTexts(none);
+    window.Choose(none.front().first);
+    QCoreApplication::processEvents();
+    SaveTo(folder, "proposals", window.findChild<QDockWidget*>("choiceDock")->grab());
+    document.Changes().undo();
+    document.DropRecoveryCopy();
+}
+
 void ShootPanels(MainWindow& window, const QDir& folder)
 {
     const Project& project = window.TheDocument().Get();
@@ -117,6 +134,8 @@ void TakeShots(const std::string& folder, const ShotOptions& options)
     window.Choose(RefFor(window.TheDocument().Get(), {"", Field::TopBars, false}));
     QCoreApplication::processEvents();
     SaveTo(out, "window", window.grab());
+    ShootProposals(window, out);
+    window.Choose(RefFor(window.TheDocument().Get(), {"", Field::TopBars, false}));
     constexpr double Closer = 2.2;  // so that the texts beside an open panel can be read
     window.Drawing().ZoomBy(Closer);
     ShootPanels(window, out);

@@ -675,6 +675,18 @@
         <source>new, gives %1 of %2 mm²</source>
         <translation>新配，实配%1，需%2 mm²</translation>
     </message>
+    <message>
+        <source>%1 texts</source>
+        <translation>%1 处标注</translation>
+    </message>
+    <message>
+        <source>Next &amp;without a text</source>
+        <translation>下一处空标注(&amp;W)</translation>
+    </message>
+    <message>
+        <source>The next annotation that a text is wanted for</source>
+        <translation>转到下一处需要标注而尚空的位置</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>
@@ -689,10 +701,6 @@
     <message>
         <source>Type to narrow, Enter takes</source>
         <translation>键入以筛选，回车采用</translation>
-    </message>
-    <message>
-        <source>Enter takes the marked text, Ctrl+Enter the text as typed</source>
-        <translation>回车采用选中的文字，Ctrl+回车采用键入的文字</translation>
     </message>
     <message>
         <source>&amp;Table rows</source>
@@ -710,16 +718,34 @@
         <source>Opens the panel that composes the text by mouse</source>
         <translation>打开鼠标组合面板</translation>
     </message>
-</context>
-<context>
-    <name>Desk::ChoiceRows</name>
     <message>
-        <source>Free names of the project&apos;s kinds</source>
-        <translation>可用编号</translation>
+        <source>Enter to type, 1 to 3 take a proposal</source>
+        <translation>回车后键入，1 至 3 采用建议</translation>
     </message>
     <message>
-        <source>In the project</source>
-        <translation>工程已有</translation>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>候选文字</translation>
+    </message>
+    <message>
+        <source>Enter takes the marked text, Ctrl+Enter the text as typed.
+In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T or a click here first types a text that begins with such a digit.</source>
+        <translation>回车采用选中的文字，Ctrl+回车采用键入的文字。
+在图中按 1 至 3 采用建议，按 0 采用整根梁的建议；要键入以这些数字开头的文字，先按回车、Ctrl+T 或单击此处。</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::ChoiceModel</name>
+    <message>
+        <source>The first free name</source>
+        <translation>第一个可用编号</translation>
+    </message>
+    <message>
+        <source>The last text that the project supports</source>
+        <translation>工程中用过的标注到此为止</translation>
     </message>
     <message>
         <source>Guesses</source>
@@ -730,16 +756,16 @@
         <translation>查表</translation>
     </message>
     <message>
+        <source>Free names of the project&apos;s kinds</source>
+        <translation>可用编号</translation>
+    </message>
+    <message>
+        <source>In the project</source>
+        <translation>工程已有</translation>
+    </message>
+    <message>
         <source>%1 x</source>
         <translation>%1 处</translation>
-    </message>
-    <message>
-        <source>The first free name</source>
-        <translation>第一个可用编号</translation>
-    </message>
-    <message>
-        <source>The last text that the project supports</source>
-        <translation>工程中用过的标注到此为止</translation>
     </message>
 </context>
 <context>
@@ -969,6 +995,37 @@
     </message>
 </context>
 <context>
+    <name>Desk::ProposalRows</name>
+    <message>
+        <source>used %1 x</source>
+        <translation>用过 %1 处</translation>
+    </message>
+    <message>
+        <source>Proposals</source>
+        <translation>建议</translation>
+    </message>
+    <message>
+        <source>as it is; %1</source>
+        <translation>现有；%1</translation>
+    </message>
+    <message>
+        <source>%1
+%2
+%3 % of the votes</source>
+        <translation>%1
+%2
+得票 %3 %</translation>
+    </message>
+    <message>
+        <source>The whole beam %1</source>
+        <translation>整根梁 %1</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1：%2，%3</translation>
+    </message>
+</context>
+<context>
     <name>Desk::SearchLine</name>
     <message>
         <source>Find a name or text (Ctrl+F)</source>
@@ -1031,6 +1088,10 @@
     <message>
         <source>The text was not taken</source>
         <translation>文字未被采用</translation>
+    </message>
+    <message>
+        <source>No beam lacks a text</source>
+        <translation>没有缺标注的梁</translation>
     </message>
 </context>
 </TS>

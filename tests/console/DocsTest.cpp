@@ -72,6 +72,6 @@ TEST_P(Docs, ShowWhatTheProgramsPrint)
     EXPECT_EQ(document, renewed);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Docs, testing::Values("panels.md", "host.md", "drawings.md"));
+INSTANTIATE_TEST_SUITE_P(All, Docs, testing::Values("panels.md", "host.md", "drawings.md", "hitrate.md"));
 
 }  // namespace

@@ -87,7 +87,7 @@ TEST(Program, AnswersWithStatusZero)
 TEST(Program, SaysWhatIsWrongWithStatusTwo)
 {
     const std::vector<std::pair<const char*, const char*>> cases = {
-        {"bogus", "beamdesk: unknown argument \"bogus\"\n  subcommands: tour, rank, table"},
+        {"bogus", "beamdesk: unknown argument \"bogus\"\n  subcommands: tour, rank, propose, table"},
         {"--bogus", "unknown option --bogus"},
         {"rank", "beamdesk rank: a subcommand is required\n  subcommands: name, section, elevation"},
         {"rank bans", "unknown argument \"bans\""},

@@ -281,7 +281,7 @@ TEST_F(Session, AKillInTheMiddleLosesNothing)
 {
     Start();
     Choose(Top);
-    Keys("2 B 2 8 Return");
+    Keys("Return 2 B 2 8 Return");
     WaitFor("the change", [](const json& report) { return report["changed"] == true; });
     std::this_thread::sleep_for(std::chrono::milliseconds(3500));  // the copy comes a moment after a change
     Kill();

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "desk/project/Encoding.h"
-#include "desk/ranking/ProjectHost.h"
+#include "desk/ranking/RankerTexts.h"
 #include "tests/support/Texts.h"
 
 namespace Desk {
@@ -38,10 +38,23 @@ Project TwoBeams()
     return project;
 }
 
+// All texts that the ranker gets, once for each use.
+Delivery DeliveryOf(const Project& project, Ranker ranker, const std::string& barKind = {})
+{
+    RankerTexts texts(ranker, barKind);
+    for (std::size_t i = 0; i < project.beams.size(); ++i) {
+        texts.Set(i, project.beams[i]);
+    }
+    std::vector<int> numbers;
+    for (const RankerTexts::Use& use : texts.Uses()) {
+        numbers.push_back(use.text);
+    }
+    return texts.Delivered(numbers);
+}
+
 TEST(Host, AnswersEachKindOfBars)
 {
     const Project project = TwoBeams();
-    const ProjectHost host(project);
     const std::vector<std::pair<const char*, Texts>> cases = {
         {"1", {"2B22", "2B25"}},
         {"2", {"2B22+1B20", "2B25+2B22"}},
@@ -54,6 +67,7 @@ TEST(Host, AnswersEachKindOfBars)
         {"2B20", {}},
     };
     for (const auto& [kind, texts] : cases) {
+        const ProjectHost host(DeliveryOf(project, Ranker::Bars, kind));
         CHABIAO_HITNESS_RANKER ranker;
         ranker.SetPara(300, 1000, nullptr, kind);
         CStringArray list;
@@ -67,15 +81,24 @@ TEST(Host, AnswersNamesSectionsElevationsAndStirrups)
     const Project project = TwoBeams();
     CStringArray list;
     {
-        const ProjectHost host(project);
-        EXPECT_THROW(ProjectHost{project}, std::logic_error);
+        const ProjectHost host(DeliveryOf(project, Ranker::Names));
+        EXPECT_THROW(ProjectHost({}), std::logic_error);
         BEAMNAME_HITNESS_RANKER().SelectFromProject(list);
         const std::string other = "\xC2\xA5KL";  // a type of its own, with its plain suffix
         EXPECT_EQ(TextsOf(list), (Texts{"KL1(3)", "KL3(3)", "KL6(3)", "KL1(1)", "KL3(1)", "KL6(1)",
                                         other + "6", other + "8"}));
         list.RemoveAll();
+    }
+    {
+        const ProjectHost host(DeliveryOf(project, Ranker::Sections));
         BEAMSIZE_HITNESS_RANKER().SelectFromProject(list);
+    }
+    {
+        const ProjectHost host(DeliveryOf(project, Ranker::Elevations));
         BEAMLEVEL_HITNESS_RANKER().SelectFromProject(list);
+    }
+    {
+        const ProjectHost host(DeliveryOf(project, Ranker::Stirrups));
         GUJIN_HITNESS_RANKER().SelectFromProject(list);
         EXPECT_EQ(TextsOf(list), (Texts{"300x600", "250x600", "-0.050", "A8@100/200(2)", "A8@100(2)"}));
     }

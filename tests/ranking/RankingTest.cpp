@@ -5,6 +5,8 @@
 
 #include "desk/ranking/Ranking.h"
 #include "desk/ranking/Tables.h"
+#include "tests/ranking/Plain.h"
+#include "tests/support/Seed.h"
 
 namespace Desk {
 namespace {
@@ -71,6 +73,57 @@ TEST(Ranking, TellsWhereEachCandidateComesFrom)
     EXPECT_TRUE(stirrups.starts_with(">A8@200(2) project 3 1\n")) << stirrups;
     EXPECT_TRUE(stirrups.ends_with("A10@250(3) table\nA10@100/250(3) table\n")) << stirrups;
     EXPECT_EQ(Told(Rank({}, {.barKind = "1", .projectKind = 0})).substr(0, 22), "4B20 guess\n2B12 guess\n");
+}
+
+// What a ranker run on all texts lists, with its stamps.
+std::string ToldPlainly(const Project& project, const Question& question)
+{
+    const PlainHost host(project);
+    const List list = RunRanker(question);
+    std::ostringstream told;
+    for (int i = 0; i < list.texts.GetSize(); ++i) {
+        told << (i == list.focus ? ">" : "") << Utf8FromGbk(list.texts[i]) << ' '
+             << (i < list.stamps.GetSize() ? list.stamps[i] : 0) << '\n';
+    }
+    return told.str();
+}
+
+TEST(Rankings, AreThoseOfAllTextsAfterEachChange)
+{
+    std::mt19937 random(FirstSeed(11));
+    for (int round = 0; round < 20; ++round) {
+        SCOPED_TRACE(round);
+        Project project = RandomProject(random, 14);
+        project.walls.resize(3);
+        Rankings kept(project);
+        for (int step = 0; step < 60; ++step) {
+            const std::size_t at = random() % project.beams.size();
+            const std::vector<FieldRef> refs = RefsOf(project, {false, at});
+            const FieldRef ref = refs[random() % refs.size()];
+            if (random() % 2 == 0) {
+                TextAt(project, ref) = RandomText(random, ref.field);
+                kept.Update(at);
+            }
+            const bool wantsTable = random() % 2 == 0;
+            Question question = QuestionFor(project, ref, wantsTable);
+            const Ranking& ranking = kept.For(ref, wantsTable);
+            EXPECT_EQ(Told(ranking), Told(ChoicesFor(project, ref, wantsTable)));
+            question.heads.clear();
+            const Ranking bare = Rank(project, question);
+            std::ostringstream told;
+            for (const Candidate& candidate : bare.candidates) {
+                told << (&candidate - bare.candidates.data() == bare.focus ? ">" : "") << candidate.text
+                     << ' ' << candidate.stamp << '\n';
+            }
+            EXPECT_EQ(told.str(), ToldPlainly(project, question)) << question.barKind;
+
+            const std::size_t wall = random() % 3;
+            project.walls[wall].verticalBars = RandomText(random, Field::Stirrup);
+            kept.UpdateWall(wall);
+            const FieldRef ofWall{true, wall, Field::VerticalBars};
+            EXPECT_EQ(Told(kept.For(ofWall, false)), Told(ChoicesFor(project, ofWall, false)));
+        }
+    }
 }
 
 TEST(Question, ComesFromTheTableOfFieldsAndTheBeam)

@@ -41,6 +41,40 @@ TEST_F(DocumentTest, EveryChangeGoesBackAndForth)
     EXPECT_EQ(told.size(), 1001U);
 }
 
+TEST_F(DocumentTest, SeveralTextsAreOneStepOrNone)
+{
+    Document document{QString()};
+    document.OpenSample();
+    constexpr FieldRef Stirrup{false, 1, Field::Stirrup};
+    const std::vector<std::string> first = {TextAt(document.Get(), Section),
+                                            TextAt(document.Get(), Stirrup)};
+    const auto texts = [&] {
+        return std::vector{TextAt(document.Get(), Section), TextAt(document.Get(), Stirrup)};
+    };
+    EXPECT_FALSE(
+        document.SetTexts({{Section, "301x601"}, {Stirrup, "A8\n" + QString(QChar(0x7F))}}).isEmpty());
+    EXPECT_EQ(texts(), first);
+    std::size_t told = 0;
+    QObject::connect(&document, &Document::StepDone,
+                     [&](const std::vector<FieldRef>& changed) { told += changed.size(); });
+    EXPECT_TRUE(
+        document
+            .SetTexts({{Section, "1x1"},
+                       {Stirrup, "A9@99(2)"},
+                       {{false, 2, Field::Name}, QString::fromStdString(document.Get().beams[2].name)},
+                       {Section, "301x601"}})
+            .isEmpty());
+    EXPECT_EQ(texts(), (std::vector<std::string>{"301x601", "A9@99(2)"}));
+    document.Changes().undo();
+    EXPECT_EQ(texts(), first);
+    EXPECT_FALSE(document.IsChanged());
+    document.Changes().redo();
+    EXPECT_EQ(texts(), (std::vector<std::string>{"301x601", "A9@99(2)"}));
+    EXPECT_EQ(told, 6U) << "two texts, three times";
+    document.SetTexts({{Section, "301x601"}});
+    EXPECT_EQ(document.Changes().count(), 1);
+}
+
 TEST_F(DocumentTest, RefusesWhatDrawingsCannotHold)
 {
     Document document{QString()};

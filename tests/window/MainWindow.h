@@ -40,26 +40,26 @@ protected:
                           drawing.viewport()->mapFromGlobal(drawing.OnScreen(ref).center()));
         ASSERT_EQ(window.Chosen(), ref);
     }
-    // The texts on offer that are not hidden, group titles in brackets.
-    QStringList Offer()
+    // The ranked texts on offer, group titles in brackets, or what is proposed.
+    QStringList Offer(const char* list = "choices")
     {
         QStringList texts;
-        auto& rows = Find<QTreeWidget>("choices");
-        for (QTreeWidgetItemIterator at(&rows, QTreeWidgetItemIterator::NotHidden); *at != nullptr; ++at) {
-            const bool group = (*at)->parent() == nullptr;
-            if (group || !(*at)->parent()->isHidden()) {
-                texts << (group ? "[" + (*at)->text(0) + "]" : (*at)->text(0));
-            }
+        const QAbstractItemModel& rows = *Find<QListView>(list).model();
+        for (int i = 0; i < rows.rowCount(); ++i) {
+            const QModelIndex at = rows.index(i, 0);
+            const QString text = at.data().toString();
+            texts << (at.flags().testFlag(Qt::ItemIsSelectable) ? text : "[" + text + "]");
         }
         return texts;
     }
     void ClickOffer(const QString& text)
     {
-        auto& rows = Find<QTreeWidget>("choices");
-        const QList<QTreeWidgetItem*> found = rows.findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
+        auto& rows = Find<QListView>("choices");
+        const QModelIndexList found =
+            rows.model()->match(rows.model()->index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly);
         ASSERT_FALSE(found.isEmpty());
-        rows.scrollToItem(found.front());
-        QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualItemRect(found.front()).center());
+        rows.scrollTo(found.front());
+        QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualRect(found.front()).center());
     }
     // A control of the open panel.
     QWidget& Control(int id)

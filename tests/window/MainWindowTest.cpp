@@ -29,8 +29,8 @@ TEST_F(MainWindowTest, TypingNarrowsAndEnterTakes)
 {
     Press(Bars);
     auto& typed = Find<QLineEdit>("typed");
-    QTest::keyClick(&window.Drawing(), '2');  // begins in the drawing
-    QTest::keyClicks(&typed, "b2");
+    QTest::keyClick(&window.Drawing(), Qt::Key_Return);  // begins in the drawing
+    QTest::keyClicks(&typed, "2b2");
     EXPECT_EQ(typed.text(), "2b2");
     for (const QString& text : Offer()) {
         EXPECT_TRUE(text.startsWith('[') || text.startsWith("2B2")) << text.toStdString();
@@ -39,9 +39,11 @@ TEST_F(MainWindowTest, TypingNarrowsAndEnterTakes)
     QTest::keyClick(&typed, Qt::Key_Return);
     EXPECT_NE(Text(Bars), "2B20");
     EXPECT_EQ(Text(Bars).substr(0, 3), "2B2");
-    QTest::keyClicks(&typed, "7B28");
+    QTest::keyClick(&window.Drawing(), '7');  // no proposal has that key
+    QTest::keyClicks(&typed, "B28");
     QTest::keyClick(&typed, Qt::Key_Return);
     EXPECT_EQ(Text(Bars), "7B28") << "what no row holds is taken as typed";
+    Trigger("type");
     QTest::keyClicks(&typed, "2B1");
     QTest::keyClick(&typed, Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(Text(Bars), "2B1");
@@ -66,6 +68,7 @@ TEST_F(MainWindowTest, ATextTypedInFullIsTakenBeforeOneThatBeginsWithIt)
     window.Choose(section);
     ASSERT_TRUE(Offer().contains("300x500") && Offer().contains("300x500/350"));
     auto& typed = Find<QLineEdit>("typed");
+    Trigger("type");
     QTest::keyClicks(&typed, "300x500");
     QTest::keyClick(&typed, Qt::Key_Return);
     EXPECT_EQ(Text(section), "300x500");
