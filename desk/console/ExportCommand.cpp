@@ -15,8 +15,6 @@
 #include "desk/drawing/Export.h"
 #include "desk/plan/PlanFile.h"
 #include "desk/project/ProjectFile.h"
-#include "desk/project/SafeFile.h"
-#include "desk/reading/DrawingText.h"
 
 namespace Desk {
 
@@ -50,33 +48,12 @@ void WriteDrawing(const Project& project, const ExportOptions& options, std::ost
 {
     const fs::path companion = CompanionFile(options.target);
     RequireFree(companion, options);
-    const std::string beside = Drawing::CompanionOf(project);
-    ReplaceFile(options.target, FormatDrawing(project));
-    if (!beside.empty()) {
-        ReplaceFile(companion, beside);
-    } else if (fs::exists(companion)) {
-        fs::remove(companion);
-    }
+    const bool hasCompanion = ExportDrawing(project, options.target);
     out << "written to " << options.target << ": " << Plural(project.beams.size(), "beam") << ", "
         << Plural(project.walls.size(), "wall") << '\n';
-    if (!beside.empty()) {
+    if (hasCompanion) {
         out << "what a drawing cannot hold is in " << companion.string() << '\n';
     }
-}
-
-// What a drawing shows behind its annotations, with the texts that are no beam's yet.
-std::optional<Backdrop> BehindOf(const std::optional<Drawing>& drawing)
-{
-    if (!drawing) {
-        return std::nullopt;
-    }
-    Backdrop behind = drawing->Behind();
-    for (const AnnotationText& text : drawing->Texts()) {
-        if (text.open && text.inPlace) {
-            behind.texts.push_back({ShowPlain(PlainText(text.text)), text.place});
-        }
-    }
-    return behind;
 }
 
 void RunExport(const ExportOptions& options, std::ostream& out)
@@ -91,7 +68,8 @@ void RunExport(const ExportOptions& options, std::ostream& out)
     if (kind == ".dxf") {
         WriteDrawing(opened.project, options, out);
     } else {
-        const std::optional<Backdrop> behind = BehindOf(opened.drawing);
+        const std::optional<Backdrop> behind =
+            opened.drawing ? std::optional(opened.drawing->BehindWithOpenTexts()) : std::nullopt;
         WritePlan(opened.project, behind ? &*behind : nullptr, options.target, options.scale);
         out << "written to " << options.target << '\n';
     }

@@ -1,5 +1,4 @@
 // beamdesk import: a project from a drawing, or from the texts of one.
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -14,7 +13,6 @@
 #include "desk/console/Options.h"
 #include "desk/console/Print.h"
 #include "desk/drawing/Drawing.h"
-#include "desk/project/Encoding.h"
 #include "desk/project/Failure.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/reading/ImportTexts.h"
@@ -49,15 +47,6 @@ void CheckTarget(const ImportOptions& options)
     if (fs::exists(target, error) && !options.force) {
         throw Failure(options.project + ": already exists; --force replaces it");
     }
-}
-
-// The name of the texts' file where it can be a project's title.
-std::string TitleFor(const fs::path& texts)
-{
-    const std::string title = texts.stem().string();
-    const auto isControl = [](char ch) { return static_cast<unsigned char>(ch) < 0x20 || ch == 0x7F; };
-    const bool isShowable = GbkFromUtf8(title) && std::none_of(title.begin(), title.end(), isControl);
-    return isShowable ? title : "import";
 }
 
 void SaveImported(const Project& project, const ImportOptions& options, std::ostream& out)

@@ -86,7 +86,7 @@ public:
         }
         m_out << "\n  annotations read as\n";
         for (const auto& [field, count] : counts) {
-            m_out << "  " << Padded(FieldName(field), Width) << Right(count, 7) << "\n";
+            m_out << "  " << Padded(PlainFieldName(field), Width) << Right(count, 7) << "\n";
         }
     }
 
@@ -140,7 +140,7 @@ public:
         for (const ImportedText& text : m_texts) {
             std::string became;
             for (const Annotation& annotation : text.reading.annotations) {
-                became.append(became.empty() ? "" : ", ").append(FieldName(annotation.field));
+                became.append(became.empty() ? "" : ", ").append(PlainFieldName(annotation.field));
                 became.append(" ").append(annotation.text);
             }
             PrintLine(text, became.empty() ? "-" : became);

@@ -7,6 +7,7 @@
 #include "desk/drawing/Parts.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/project/SafeFile.h"
+#include "desk/reading/DrawingText.h"
 
 namespace Desk {
 
@@ -41,6 +42,18 @@ Drawing Drawing::Parse(std::string bytes, const std::string& name, std::string_v
 
 const Project& Drawing::Get() const { return m_parts->project; }
 const Backdrop& Drawing::Behind() const { return m_parts->behind; }
+
+Backdrop Drawing::BehindWithOpenTexts() const
+{
+    Backdrop behind = Behind();
+    for (const AnnotationText& text : Texts()) {
+        if (text.open && text.inPlace) {
+            behind.texts.push_back({ShowPlain(PlainText(text.text)), text.place});
+        }
+    }
+    return behind;
+}
+
 const std::vector<AnnotationText>& Drawing::Texts() const { return m_parts->texts; }
 std::string Drawing::Written(const Project& edited) const
 {

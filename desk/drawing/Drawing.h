@@ -47,6 +47,8 @@ public:
     [[nodiscard]] const Project& Get() const;
     // What is drawn beside the annotations; hidden layers are left out.
     [[nodiscard]] const Backdrop& Behind() const;
+    // The same with the texts that are no beam's yet, for a plan on paper.
+    [[nodiscard]] Backdrop BehindWithOpenTexts() const;
     [[nodiscard]] const std::vector<AnnotationText>& Texts() const;
 
     // The file's bytes with the texts of a project that was got from this drawing and then edited. A text
@@ -68,6 +70,11 @@ public:
     // the labelled beam there, for a label's name the outline there. Nothing where there is none.
     [[nodiscard]] std::optional<Pointed> PointTo(const Project& project, std::size_t text,
                                                  const PlanPoint& at) const;
+
+    // A new label's beam: the outline at a position that no labelled beam of the project lies on, with the
+    // position of the name; to be added after the project's beams. Nothing where there is no such outline,
+    // or no label that goes the same way, which a new one is made like.
+    [[nodiscard]] std::optional<Beam> LabelFor(const Project& project, const PlanPoint& at) const;
 
 private:
     std::unique_ptr<Parts> m_parts;

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <optional>
+#include <system_error>
 
+#include "desk/drawing/Drawing.h"
 #include "desk/drawing/ExportBoxes.h"
 #include "desk/drawing/ExportFile.h"
 #include "desk/drawing/ExportLayout.h"
+#include "desk/project/SafeFile.h"
 
 namespace Desk {
 
@@ -108,6 +111,19 @@ std::string FormatDrawing(const Project& project)
         }
     }
     return file.Finish();
+}
+
+bool ExportDrawing(const Project& project, const std::filesystem::path& file)
+{
+    const std::string companion = Drawing::CompanionOf(project);
+    ReplaceFile(file, FormatDrawing(project));
+    if (!companion.empty()) {
+        ReplaceFile(CompanionFile(file), companion);
+    } else {
+        std::error_code isNone;
+        std::filesystem::remove(CompanionFile(file), isNone);
+    }
+    return !companion.empty();
 }
 
 }  // namespace Desk

@@ -1,6 +1,7 @@
 // A project as a drawing: labels with leaders, texts in place, outlines, axes.
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include "desk/project/Project.h"
@@ -12,5 +13,8 @@ namespace Desk {
 // place, by the direction of the beam), AXIS (axes with their bubbles), WALL (outlines). Beams without a
 // position are laid out in rows below the others. What it cannot hold is the companion's.
 [[nodiscard]] std::string FormatDrawing(const Project& project);
+// Writes that drawing and its companion file; an old companion goes where the drawing needs none. Answers
+// whether there is one. Throws Failure when it cannot be done.
+bool ExportDrawing(const Project& project, const std::filesystem::path& file);
 
 }  // namespace Desk

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <map>
 #include <numbers>
+#include <set>
 #include <tuple>
 
 #include "desk/reading/BeamName.h"
@@ -340,6 +341,52 @@ std::optional<OwnerBeam> Owners::BeamAt(std::size_t label, const PlanPoint& at) 
     }
     const BeamRun& run = m_runs[runs.front()];
     return BeamOn(runs.front(), label, run.From(), run.To(), RestsOf(runs.front()));
+}
+
+std::optional<OwnerBeam> Owners::OutlineAt(const PlanPoint& at, const std::vector<PlanLine>& labelled) const
+{
+    std::set<std::size_t> runs;
+    for (const Bundle& bundle : m_runBundles) {
+        for (const std::size_t run : RunsAt(at, bundle.frame, false)) {
+            runs.insert(run);
+        }
+    }
+    if (runs.size() != 1) {
+        return std::nullopt;
+    }
+    const BeamRun& run = m_runs[*runs.begin()];
+    const double u = run.frame.U(at);
+    double from = run.From();
+    double to = run.To();
+    for (const PlanLine& beam : labelled) {
+        const auto [first, last] = std::minmax({run.frame.U(beam.from), run.frame.U(beam.to)});
+        const auto isOnRun = [&](const PlanPoint& end) {
+            return std::abs(run.frame.V(end) - run.axis) <= run.width / 2.0;
+        };
+        if (!isOnRun(beam.from) || !isOnRun(beam.to)) {
+            continue;
+        }
+        if (u >= first && u <= last) {
+            return std::nullopt;
+        }
+        from = last < u ? std::max(from, last) : from;
+        to = first > u ? std::min(to, first) : to;
+    }
+    OwnerBeam beam;
+    beam.frame = run.frame;
+    beam.axis = run.axis;
+    beam.width = run.width;
+    beam.run = *runs.begin();
+    beam.supports = {from};
+    for (std::size_t i = 1; i < run.pieces.size(); ++i) {
+        const double gap = (run.pieces[i - 1].to + run.pieces[i].from) / 2.0;
+        if (gap > from && gap < to) {
+            beam.supports.push_back(gap);
+        }
+    }
+    beam.supports.push_back(to);
+    beam.plan = m_plans->At(beam.frame.At((from + to) / 2.0, beam.axis));
+    return beam;
 }
 
 }  // namespace Desk

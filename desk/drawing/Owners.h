@@ -50,6 +50,11 @@ public:
         return m_inPlace;
     }  // parallel to texts.inPlace
 
+    // The outline at a position as a beam of its own: between the labelled beams that lie on it too, given
+    // by their ends. Nothing where there is no outline, where there are several, and on a labelled beam.
+    [[nodiscard]] std::optional<OwnerBeam> OutlineAt(const PlanPoint& at,
+                                                     const std::vector<PlanLine>& labelled) const;
+
     // The same for a text whose beam a person points to by a position on it; nothing where none is. The
     // label is one of texts.labels, the line one of texts.lines.
     [[nodiscard]] std::optional<OwnerBeam> BeamAt(std::size_t label, const PlanPoint& at) const;

@@ -35,6 +35,8 @@ struct Drawing::Parts {
     {
         return *placed.texts[line.placed].text;
     }
+    // The line of a label that goes the same way and is nearest, as a TEXT of its own; null for none.
+    [[nodiscard]] const TextLine* LabelLike(const Frame& frame, const PlanPoint& near) const;
     // Of a text in place of a beam; nothing for one that the drawing does not have.
     [[nodiscard]] std::optional<Source> SourceOf(const InPlace& text) const;
 };
@@ -47,6 +49,12 @@ struct Drawing::Parts {
                                              const OwnerText& owner);
 // The plan is as drawn, spans are as long as dimensions say.
 void SetAxis(Beam& beam, const OwnerBeam& owner, double unit);
+[[nodiscard]] inline PlanPoint MiddleOf(const Beam& beam)
+{
+    return {(beam.start.x + beam.end.x) / 2.0, (beam.start.y + beam.end.y) / 2.0};
+}
+// The ends of the beams of a project that have a label, but for those from an index on.
+[[nodiscard]] std::vector<PlanLine> Labelled(const Project& project, std::size_t end);
 // Where BeamFields() has a field.
 [[nodiscard]] std::size_t NumberOf(Field field);
 

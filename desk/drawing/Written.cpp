@@ -20,6 +20,8 @@ std::string ComposeBars(const std::string& top, const std::string& erection, con
     return bottom.empty() ? text : text + ";" + bottom;
 }
 
+constexpr double UsualPitch = 325.0 / 300.0;  // from line to line of a label, in text heights
+
 class Writer {
 public:
     Writer(const Drawing::Parts& parts, const Project& edited)
@@ -29,11 +31,16 @@ public:
 
     std::vector<std::string_view> Write()
     {
-        if (m_edited.beams.size() != m_parts.project.beams.size()) {
+        if (m_edited.beams.size() < m_parts.project.beams.size()) {
             throw Failure(Phrase("Desk", "the drawing takes no beams that it has no label for"));
         }
-        for (std::size_t i = 0; i < m_edited.beams.size(); ++i) {
+        for (std::size_t i = 0; i < m_parts.project.beams.size(); ++i) {
             WriteBeam(i);
+        }
+        for (std::size_t i = m_parts.project.beams.size(); i < m_edited.beams.size(); ++i) {
+            if (!IsEmptied(m_edited.beams[i])) {
+                AddLabel(i);
+            }
         }
         RemoveParts();
         return m_splices.Written();
@@ -78,7 +85,7 @@ private:
 
     void WriteField(std::size_t beam, Field field, const std::string& text)
     {
-        if (field == Field::Name && text.empty()) {
+        if (field == Field::Name && text.empty() && !IsEmptied(m_edited.beams[beam])) {
             throw Failure(Phrase("Desk", "%1: a label needs its name"), m_parts.project.beams[beam].name);
         }
         if (const std::optional<Source>& source = SourceOf(beam, field)) {
@@ -89,6 +96,13 @@ private:
         } else {
             AddLine(beam, text, field != Field::Elevation);
         }
+    }
+
+    // The whole label goes.
+    static bool IsEmptied(const Beam& beam)
+    {
+        return std::all_of(BeamFields().begin(), BeamFields().end(),
+                           [&](Field field) { return (beam.*RowOf(field).ofBeam).empty(); });
     }
 
     // Top, erection and bottom bars share a line: "2C14+(2C12);3C14".
@@ -291,7 +305,6 @@ private:
 
     [[nodiscard]] double PitchOf(const FoundLabel& label) const
     {
-        constexpr double UsualPitch = 325.0 / 300.0;  // in text heights
         if (label.lines.size() < 2) {
             return UsualPitch * m_parts.found.lines[label.lines.front()].place.height;
         }
@@ -301,11 +314,52 @@ private:
         return v(2) - v(1);
     }
 
+    // A label on an outline that had none, in lines from the name down.
+    void AddLabel(std::size_t index)
+    {
+        const Beam& beam = m_edited.beams[index];
+        const PlanPoint middle = MiddleOf(beam);
+        const std::optional<OwnerBeam> owner = m_parts.owners->OutlineAt(middle, Labelled(m_edited, index));
+        const TextLine* const like = owner ? m_parts.LabelLike(owner->frame, middle) : nullptr;
+        if (like == nullptr || beam.places.empty()) {
+            throw Failure(Phrase("Desk", "the drawing takes no beams that it has no label for"));
+        }
+        if (beam.name.empty()) {
+            throw Failure(Phrase("Desk", "%1: a label needs its name"), std::to_string(index + 1));
+        }
+        const std::pair<std::string, bool> lines[] = {
+            {beam.section.empty() ? beam.name : beam.name + " " + beam.section, false},
+            {beam.stirrup, true},
+            {ComposeBars(beam.topBars, beam.erection, beam.bottomBars), true},
+            {beam.torsion, true},
+            {beam.side, true},
+            {beam.elevation, false}};
+        const TextPlace& name = beam.places[NumberOf(Field::Name)];
+        const Frame frame = Frame::Reading(name.angle);
+        const Stretch end{like->plain.size(), like->plain.size()};
+        double v = frame.V(name.at);
+        for (const auto& [text, isBars] : lines) {
+            if (!text.empty()) {
+                m_splices.AddCopy(*like, m_spelling.Spell(*like, end, text, isBars),
+                                  frame.At(frame.U(name.at), v));
+                v -= UsualPitch * name.height;
+            }
+        }
+        const auto beside = [&](const InPlace& text) {
+            if (!text.text.empty()) {
+                AddBeside(*owner, *like, text);
+            }
+        };
+        beside({Role::TopSupport, 1, beam.leftEnd, {}, -1, {}});
+        beside({Role::TopSupport, static_cast<int>(owner->supports.size()), beam.rightEnd, {}, -1, {}});
+        for (const InPlace& text : beam.inPlace) {
+            beside(text);
+        }
+    }
+
     // A text in place that the drawing does not have yet, beside its beam.
     void AddInPlace(std::size_t beam, const InPlace& text)
     {
-        constexpr double FromEdge = 150.0;     // mm
-        constexpr double FromSupport = 100.0;  // mm
         const OwnerBeam& owner = m_parts.owners->Beams()[beam];
         const TextLine* const like = Like(beam, owner.frame);
         if (like == nullptr) {
@@ -314,8 +368,15 @@ private:
                        "%1: the drawing has no text beside the beam that a new one could be made like"),
                 m_parts.project.beams[beam].name);
         }
+        AddBeside(owner, *like, text);
+    }
+
+    void AddBeside(const OwnerBeam& owner, const TextLine& like, const InPlace& text)
+    {
+        constexpr double FromEdge = 150.0;     // mm
+        constexpr double FromSupport = 100.0;  // mm
         const double unit = m_parts.file.unitScale;
-        const double height = like->place.height;
+        const double height = like.place.height;
         const double length = 0.75 * height * static_cast<double>(text.text.size());
         const auto last = static_cast<int>(owner.supports.size());
         const bool isSupport = text.role == Role::TopSupport;
@@ -331,8 +392,8 @@ private:
         const double side = owner.width / 2.0 + FromEdge * unit;
         const double v = owner.axis + (isAbove ? side : -side - height);
         const bool isPositioned = text.place.height > 0.0;
-        m_splices.AddCopy(*like,
-                          m_spelling.Spell(*like, {like->plain.size(), like->plain.size()}, text.text,
+        m_splices.AddCopy(like,
+                          m_spelling.Spell(like, {like.plain.size(), like.plain.size()}, text.text,
                                            IsBars(RowOf(text.role).field)),
                           isPositioned ? text.place.at : owner.frame.At(u, v));
     }

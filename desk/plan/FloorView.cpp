@@ -30,12 +30,15 @@ void FloorView::SetProject(const Project* project, const Backdrop* behind)
 {
     m_project = project;
     m_chosen.reset();
+    m_lit = nullptr;
     m_hovered = nullptr;
     m_marks = nullptr;
     m_small = nullptr;
+    m_sketch = nullptr;
+    m_drag.reset();
     m_items.clear();
     m_all.clear();
-    SetPointing(false);
+    EndPointing();
     scene()->clear();
     if (project == nullptr) {
         return;
@@ -43,14 +46,21 @@ void FloorView::SetProject(const Project* project, const Backdrop* behind)
     FloorItems floor = AddFloor(*scene(), *project, behind, ColorsFor(m_isDark));
     m_all = std::move(floor.all);
     m_items = std::move(floor.owners);
+    m_walls = std::ssize(project->walls);
     m_covering = floor.covering;
-    m_small = new SmallTexts(m_items);
+    m_shown = floor.shown;
+    m_readingScale = GoodHeight / floor.textHeight;
+    m_small = new SmallTexts;
     m_small->SetColors(&ColorsFor(m_isDark));
     m_all.push_back(m_small);
     scene()->addItem(m_small);
-    const QRectF all = scene()->itemsBoundingRect() | floor.shown;
+    const QRectF all = scene()->itemsBoundingRect() | m_shown;
     scene()->setSceneRect(all.adjusted(-all.width(), -all.height(), all.width(), all.height()));
-    SetContent(floor.shown, GoodHeight / floor.textHeight);
+    SetContent(m_shown, m_readingScale);
+    m_sketch = new SketchItem;
+    m_sketch->SetColors(&ColorsFor(m_isDark));
+    m_all.push_back(m_sketch);
+    scene()->addItem(m_sketch);
     Fit();
 }
 
@@ -64,18 +74,18 @@ void FloorView::Refresh(const FieldRef& ref)
 
 void FloorView::SetChosen(std::optional<FieldRef> ref)
 {
-    if (OwnerItem* const before = m_chosen ? ItemOf(*m_chosen) : nullptr) {
-        before->SetLit(std::nullopt);
+    if (m_lit != nullptr) {
+        m_lit->SetLit(std::nullopt);
         m_small->SetLit(nullptr, std::nullopt);
     }
-    m_chosen = ref && ItemOf(*ref) != nullptr ? ref : std::nullopt;
-    if (!m_chosen) {
-        return;
+    m_lit = ref ? ItemOf(*ref) : nullptr;
+    m_chosen = m_lit != nullptr ? ref : std::nullopt;
+    ShowHandles();
+    if (m_lit != nullptr) {
+        m_lit->SetLit(m_chosen);
+        m_small->SetLit(m_lit, m_chosen);
+        BringIntoView(mapFromScene(m_lit->mapToScene(m_lit->BoxOf(*m_chosen))).boundingRect());
     }
-    OwnerItem& item = *ItemOf(*m_chosen);
-    item.SetLit(m_chosen);
-    m_small->SetLit(&item, m_chosen);
-    BringIntoView(mapFromScene(item.mapToScene(item.BoxOf(*m_chosen))).boundingRect());
 }
 
 void FloorView::BringIntoView(const QRect& inView)
@@ -110,7 +120,7 @@ void FloorView::SetLeastTextSize(double pixels)
 void FloorView::Scaled()
 {
     if (m_small != nullptr) {
-        m_small->Choose(m_leastTextSize / transform().m11());
+        m_small->Choose(m_items, m_leastTextSize / transform().m11());
     }
 }
 
@@ -158,20 +168,18 @@ void FloorView::LightMark(std::optional<std::size_t> mark)
     }
 }
 
-void FloorView::SetPointing(bool pointing)
-{
-    m_isPointing = pointing;
-    viewport()->setCursor(pointing ? Qt::CrossCursor : Qt::ArrowCursor);
-}
-
 void FloorView::ZoomBy(double factor)
 {
-    QPoint at = viewport()->rect().center();
-    if (m_chosen) {
-        const QPoint chosen = viewport()->mapFromGlobal(OnScreen(*m_chosen).center());
-        at = viewport()->rect().contains(chosen) ? chosen : at;
+    const QPoint middle = viewport()->rect().center();
+    const auto chosen = [&] {
+        return m_chosen ? viewport()->mapFromGlobal(OnScreen(*m_chosen).center()) : middle;
+    };
+    const QPoint before = chosen();
+    const bool isInView = viewport()->rect().contains(before);
+    ZoomAbout(isInView ? before : middle, factor);
+    if (isInView) {
+        PanBy(before - chosen());  // a small text does not grow
     }
-    ZoomAbout(at, factor);
 }
 
 void FloorView::SetDark(bool dark)
@@ -240,7 +248,7 @@ void FloorView::Hover(const Hit& hit)
         }
     }
     const bool isThing = hit.item != nullptr || hit.mark;
-    viewport()->setCursor(m_isPointing ? Qt::CrossCursor
+    viewport()->setCursor(IsPointing() ? Qt::CrossCursor
                           : isThing    ? Qt::PointingHandCursor
                                        : Qt::ArrowCursor);
 }
@@ -268,17 +276,29 @@ void FloorView::contextMenuEvent(QContextMenuEvent* event)
     emit MenuAsked(byKey && m_chosen ? OnScreen(*m_chosen).center() : event->globalPos());
 }
 
+void FloorView::Pick(const Hit& hit)
+{
+    if (hit.mark) {
+        emit MarkPicked(*hit.mark);
+    } else if (hit.item != nullptr) {
+        emit Picked(hit.Ref());
+    }
+}
+
 void FloorView::mousePressEvent(QMouseEvent* event)
 {
-    const Hit hit = HitAt(event->position().toPoint());
+    const QPoint inView = event->position().toPoint();
+    const QPointF at = mapToScene(inView);
     const bool left = event->button() == Qt::LeftButton;
-    if (left && m_isPointing) {
-        const QPointF at = mapToScene(event->position().toPoint());
-        emit Pointed({at.x(), -at.y()});
-    } else if (left && hit.mark) {
-        emit MarkPicked(*hit.mark);
-    } else if (left && hit.item != nullptr) {
-        emit Picked(hit.Ref());
+    const Hit hit = HitAt(inView);
+    const auto handle = m_sketch != nullptr ? m_sketch->HandleAt(at, transform().m11()) : std::nullopt;
+    if (left && IsPointing()) {
+        const TakePoint pressed = m_pressed;  // which may end the pointing
+        pressed({at.x(), -at.y()});
+    } else if (left && handle) {
+        m_drag = Drag{*handle, inView, false, {}};
+    } else if (left && (hit.mark || hit.item != nullptr)) {
+        Pick(hit);
     } else {
         PanView::mousePressEvent(event);
     }
@@ -286,16 +306,41 @@ void FloorView::mousePressEvent(QMouseEvent* event)
 
 void FloorView::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!MayPan()) {
-        Hover(HitAt(event->position().toPoint()));
+    const QPoint inView = event->position().toPoint();
+    if (m_drag) {
+        DragHandle(inView);
+    } else if (!MayPan()) {
+        Hover(HitAt(inView));
+        if (const QPointF at = mapToScene(inView); m_moved) {
+            m_moved({at.x(), -at.y()});
+        }
     }
     PanView::mouseMoveEvent(event);
 }
 
+void FloorView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!m_drag || event->button() != Qt::LeftButton) {
+        PanView::mouseReleaseEvent(event);
+        return;
+    }
+    const Drag drag = *std::exchange(m_drag, std::nullopt);
+    SetSketch({}, std::nullopt);
+    if (!drag.hasMoved) {
+        Pick(HitAt(drag.pressed));
+    } else if (m_chosen) {
+        emit EndDragged(*m_chosen, drag.handle == 0, drag.to);
+    }
+}
+
 void FloorView::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    if (IsPointing()) {
+        mousePressEvent(event);
+        return;
+    }
     const Hit hit = HitAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && hit.item != nullptr && !m_isPointing) {
+    if (event->button() == Qt::LeftButton && hit.item != nullptr) {
         emit PanelAsked(hit.Ref());
     }
 }

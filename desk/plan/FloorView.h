@@ -2,13 +2,16 @@
 // has it.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <vector>
 
 #include "desk/plan/MarksItem.h"
 #include "desk/plan/OwnerItem.h"
 #include "desk/plan/PanView.h"
+#include "desk/plan/SketchItem.h"
 #include "desk/plan/SmallTexts.h"
+#include "desk/project/Edits.h"
 
 namespace Desk {
 
@@ -24,6 +27,9 @@ public:
     void SetProject(const Project* project, const Backdrop* behind = nullptr);
     // A text of this beam or wall has changed.
     void Refresh(const FieldRef& ref);
+    // Beams and walls of the project came, changed or went. Where others have other indices than before,
+    // nothing is chosen any more.
+    void Exchange(const Exchanged& exchanged);
 
     // Lights up an annotation and brings it into view; nothing for none. Does not signal.
     void SetChosen(std::optional<FieldRef> ref);
@@ -37,9 +43,19 @@ public:
 
     // Lights up a mark and brings it into view; nothing for none. Does not signal.
     void LightMark(std::optional<std::size_t> mark);
-    // The next press tells a position, whatever is there.
-    void SetPointing(bool pointing);
-    [[nodiscard]] bool IsPointing() const { return m_isPointing; }
+    // From now on presses of the left button tell their position, whatever is there, and moves where the
+    // pointer is.
+    using TakePoint = std::function<void(const PlanPoint&)>;
+    void StartPointing(TakePoint pressed, TakePoint moved = {});
+    void EndPointing();
+    [[nodiscard]] bool IsPointing() const { return m_pressed != nullptr; }
+    // What a press would make: lines, and the position that it takes.
+    void SetSketch(std::vector<PlanLine> lines, const std::optional<PlanPoint>& taken);
+    // A position as what is near the pointer catches it.
+    [[nodiscard]] PlanPoint CaughtAt(const PlanPoint& at,
+                                     const std::optional<PlanPoint>& from = std::nullopt) const;
+    // Whether the chosen beam or wall has handles at its ends, by which they are dragged.
+    void SetHandles(bool ofBeams, bool ofWalls);
 
     // Where an annotation's text shows, in pixels of the screen; where it would be when it is empty.
     [[nodiscard]] QRect OnScreen(const FieldRef& ref) const;
@@ -61,7 +77,7 @@ signals:
     void TipAsked(const Desk::FieldRef& ref, const QPoint& onScreen);  // the pointer rests there
     void MenuAsked(const QPoint& onScreen);  // after a pick where an annotation is there
     void MarkPicked(std::size_t mark);
-    void Pointed(const Desk::PlanPoint& at);
+    void EndDragged(const Desk::FieldRef& owner, bool isStart, const Desk::PlanPoint& to);
 
 protected:
     void Scaled() override;
@@ -69,6 +85,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
@@ -83,19 +100,42 @@ private:
     [[nodiscard]] Hit HitAt(const QPoint& inView) const;
     [[nodiscard]] OwnerItem* ItemOf(const FieldRef& ref) const;
     void Hover(const Hit& hit);
+    void Pick(const Hit& hit);
     void BringIntoView(const QRect& inView);
+    [[nodiscard]] std::vector<OwnerItem*> ItemsAround(const OwnerItem& item) const;
+    void ExchangeItems(const ExchangedIndices& exchanged, bool isWall);
+    void ShowHandles();
+    void DragHandle(const QPoint& inView);
+    // Ends of the chosen beam or wall.
+    [[nodiscard]] std::vector<PlanPoint> ChosenEnds() const;
+
+    // A handle that the left button holds.
+    struct Drag {
+        std::size_t handle = 0;
+        QPoint pressed;
+        bool hasMoved = false;
+        PlanPoint to;
+    };
 
     const Project* m_project = nullptr;
+    QRectF m_shown;
+    double m_readingScale = 1.0;
     std::vector<PlanItem*> m_all;     // the scene owns them
     std::vector<OwnerItem*> m_items;  // beams, then walls
     SmallTexts* m_small = nullptr;
+    std::ptrdiff_t m_walls = 0;  // among them
     MarksItem* m_marks = nullptr;
+    SketchItem* m_sketch = nullptr;
     int m_covering = 0;
     std::optional<FieldRef> m_chosen;
+    OwnerItem* m_lit = nullptr;  // that of the chosen annotation
     OwnerItem* m_hovered = nullptr;
     std::optional<FieldRef> m_hoveredText;
     double m_leastTextSize = 9.0;
-    bool m_isPointing = false;
+    TakePoint m_pressed;
+    TakePoint m_moved;
+    std::optional<Drag> m_drag;
+    bool m_hasHandles[2] = {false, false};  // of beams, of walls
     bool m_isDark = false;
 };
 

@@ -21,11 +21,14 @@ public:
 
     // The texts have changed, or where the beam is; the block's position at the beam stays.
     void Take(const Project& project);
+    // Others before it came or went.
+    void SetIndex(std::size_t index) { m_index = index; }
 
     // Positions of the block's upper left corner beside the beam, the best first.
     [[nodiscard]] std::vector<QPointF> BlockPositions() const;
     [[nodiscard]] QSizeF BlockSize() const { return SizeOf(m_block); }
     void SetBlock(const QPointF& corner);
+    [[nodiscard]] QPointF Block() const { return m_corner; }
 
     // Texts lower than this, in mm, are drawn so high where there is room, and not by this item.
     void SetLeastHeight(double height) { m_leastHeight = height; }

@@ -88,44 +88,65 @@ void OccupyBody(Ground& ground, const OwnerItem& item)
     }
 }
 
+void OccupyFixed(Ground& ground, const OwnerItem& item)
+{
+    OccupyBody(ground, item);
+    for (const QRectF& box : item.FixedBoxes()) {
+        ground.Occupy(item.mapRectToScene(box), OnText);
+    }
+}
+
+QRectF BlockRect(const OwnerItem& item, const QPointF& corner)
+{
+    return item.mapRectToScene(QRectF(corner, item.BlockSize()).adjusted(-Clear, -Clear, Clear, Clear));
+}
+
+// Answers whether the block lies on another text.
+bool PlaceOne(Ground& ground, OwnerItem& item)
+{
+    double least = std::numeric_limits<double>::max();
+    QPointF best;
+    for (const QPointF& corner : item.BlockPositions()) {
+        const double covered = ground.Covered(BlockRect(item, corner), least);
+        if (covered < least) {
+            least = covered;
+            best = corner;
+        }
+        if (least <= 0.0) {
+            break;
+        }
+    }
+    item.SetBlock(best);
+    ground.Occupy(BlockRect(item, best), OnText);
+    return least >= OnText * Clear * Clear;
+}
+
 }  // namespace
 
 int PlaceBlocks(const std::vector<OwnerItem*>& items)
 {
     Ground ground;
     for (const OwnerItem* const item : items) {
-        OccupyBody(ground, *item);
-        for (const QRectF& box : item->FixedBoxes()) {
-            ground.Occupy(item->mapRectToScene(box), OnText);
-        }
+        OccupyFixed(ground, *item);
     }
     int covering = 0;
     for (OwnerItem* const item : items) {
-        const QSizeF size = item->BlockSize();
-        if (size.isEmpty()) {
-            continue;
-        }
-        double least = std::numeric_limits<double>::max();
-        QPointF best;
-        QRectF bestRect;
-        for (const QPointF& corner : item->BlockPositions()) {
-            const QRectF rect =
-                item->mapRectToScene(QRectF(corner, size).adjusted(-Clear, -Clear, Clear, Clear));
-            const double covered = ground.Covered(rect, least);
-            if (covered < least) {
-                least = covered;
-                best = corner;
-                bestRect = rect;
-            }
-            if (least <= 0.0) {
-                break;
-            }
-        }
-        item->SetBlock(best);
-        ground.Occupy(bestRect, OnText);
-        covering += least >= OnText * Clear * Clear ? 1 : 0;
+        covering += !item->BlockSize().isEmpty() && PlaceOne(ground, *item) ? 1 : 0;
     }
     return covering;
+}
+
+void PlaceBlock(OwnerItem& item, const std::vector<OwnerItem*>& others)
+{
+    Ground ground;
+    OccupyFixed(ground, item);
+    for (const OwnerItem* const other : others) {
+        OccupyFixed(ground, *other);
+        if (!other->BlockSize().isEmpty()) {
+            ground.Occupy(BlockRect(*other, other->Block()), OnText);
+        }
+    }
+    PlaceOne(ground, item);
 }
 
 }  // namespace Desk

@@ -11,5 +11,7 @@ namespace Desk {
 // it covers least. The order of the items decides, so that the same project looks the same each time.
 // Answers how many blocks lie on another text after all.
 int PlaceBlocks(const std::vector<OwnerItem*>& items);
+// The same for one item that comes among others, which stay as they are.
+void PlaceBlock(OwnerItem& item, const std::vector<OwnerItem*>& others);
 
 }  // namespace Desk

@@ -98,7 +98,7 @@ void WritePlan(const Project& project, const Backdrop* behind, const std::filesy
     const QString ending = QString::fromStdString(file.extension().string()).toLower();
     const bool pdf = ending == QLatin1String(".pdf");
     if (!pdf && ending != QLatin1String(".svg")) {
-        throw Failure(file.string() + ": a plan is written as .pdf or .svg");
+        throw Failure(Phrase("Desk", "%1: a plan is written as .pdf or .svg"), file.string());
     }
     if (!(scale > 0.0) || !std::isfinite(scale)) {
         throw Failure("a plan's scale is a number above 0");
@@ -111,14 +111,41 @@ void WritePlan(const Project& project, const Backdrop* behind, const std::filesy
     const QRectF shown = AddFloor(scene, project, behind, colors).shown;
     const QSizeF paper = PaperFor(shown.size() / scale);
     if (const double most = std::max(paper.width(), paper.height()); most > MostPaper) {
-        throw Failure("at 1:" + QString::number(scale).toStdString() + " the plan would be " +
-                      QString::number(most / 1000.0, 'f', 1).toStdString() +
-                      " m long, and 5 m are the most; a larger scale number makes it smaller");
+        throw Failure(Phrase("Desk", "at 1:%1 the plan would be %2 m long, and 5 m are the most; a larger "
+                                     "scale number makes it smaller"),
+                      QString::number(scale).toStdString(),
+                      QString::number(most / 1000.0, 'f', 1).toStdString());
     }
     const QString title = QString::fromStdString(project.title);
     const QByteArray bytes =
         pdf ? AsPdf(scene, shown, paper, scale, title) : AsSvg(scene, shown, paper, scale, title);
     ReplaceFile(file, bytes.toStdString());
+}
+
+double PrintPlan(const Project& project, const Backdrop* behind, QPagedPaintDevice& device)
+{
+    constexpr double Usual[] = {100, 150, 200, 250, 300, 400, 500, 750, 1000, 1500, 2000, 3000, 5000};
+    QPainter painter;
+    if (!painter.begin(&device)) {
+        return 0.0;
+    }
+    const double dotsAMm = device.logicalDpiX() / 25.4;
+    const QSizeF page = QSizeF(painter.viewport().size()) / dotsAMm;
+    const auto needed = [&](const QRectF& shown) {
+        return std::max(shown.width() / page.width(), shown.height() / page.height());
+    };
+    PlanColors colors = ColorsFor(false);
+    QGraphicsScene scene;
+    scene.setItemIndexMethod(QGraphicsScene::NoIndex);
+    const QRectF shown = AddFloor(scene, project, behind, colors).shown;
+    const double* const usual = std::lower_bound(std::begin(Usual), std::end(Usual), needed(shown));
+    const double scale = usual != std::end(Usual) ? *usual : std::ceil(needed(shown));
+    colors.lineWidth = LineWidth * scale;
+    const QSizeF size = shown.size() / scale * dotsAMm;
+    const QPointF corner((painter.viewport().width() - size.width()) / 2.0,
+                         (painter.viewport().height() - size.height()) / 2.0);
+    scene.render(&painter, QRectF(corner, size), shown);
+    return scale;
 }
 
 }  // namespace Desk

@@ -1,7 +1,9 @@
-// A plan as a PDF or SVG file.
+// A plan as a PDF or SVG file, and on a printer's page.
 #pragma once
 
 #include <filesystem>
+
+#include "desk/Toolkit.h"
 
 #include "desk/project/Backdrop.h"
 
@@ -14,5 +16,8 @@ namespace Desk {
 // then.
 void WritePlan(const Project& project, const Backdrop* behind, const std::filesystem::path& file,
                double scale = 100.0);
+// Draws the same plan in the middle of a page, at 1:100 or the first smaller usual scale that it fits on
+// the page with. Answers the N of 1:N, 0 when the device takes nothing.
+double PrintPlan(const Project& project, const Backdrop* behind, QPagedPaintDevice& device);
 
 }  // namespace Desk

@@ -8,8 +8,8 @@ namespace Desk {
 
 namespace {
 
-constexpr double Room = 0.15;        // heights around a text
-constexpr double CellHeights = 4.0;  // the side of a cell
+constexpr double Room = 0.15;           // heights around a text
+constexpr double CellHeights = 4.0;     // the side of a cell
 constexpr double MostOfText = 4'000.0;  // cells
 constexpr std::size_t Lists = std::size_t{1} << 16;
 
@@ -128,24 +128,24 @@ struct Pieces {
 
 }  // namespace
 
-SmallTexts::SmallTexts(const std::vector<OwnerItem*>& owners) : m_owners(owners)
+SmallTexts::SmallTexts()
 {
     setFlag(ItemUsesExtendedStyleOption);  // for the exposed rectangle
     setZValue(1.5);                        // above the lit beam
 }
 
-void SmallTexts::Choose(double height)
+void SmallTexts::Choose(const std::vector<OwnerItem*>& owners, double height)
 {
     prepareGeometryChange();
     m_shown.clear();
     Pieces pieces;
     bool anySmall = false;
-    for (OwnerItem* const owner : m_owners) {
+    for (OwnerItem* const owner : owners) {
         owner->SetLeastHeight(height);
         anySmall = anySmall || owner->HasSmallTexts();
     }
     if (anySmall) {
-        for (OwnerItem* const owner : m_owners) {
+        for (OwnerItem* const owner : owners) {
             pieces.Add(*owner);
         }
     }

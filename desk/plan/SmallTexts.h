@@ -13,8 +13,7 @@ namespace Desk {
 // Local coordinates: the sheet's.
 class SmallTexts : public PlanItem {
 public:
-    // Borrows beams and walls, which are in the same scene.
-    explicit SmallTexts(const std::vector<OwnerItem*>& owners);
+    SmallTexts();
 
     [[nodiscard]] QRectF boundingRect() const override { return m_all; }
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
@@ -23,7 +22,8 @@ public:
     // lines of labels from the top, then for texts at ends and in place. None lies on another; those for
     // which there is no room are not drawn. The order of the items decides, so that moving the plan changes
     // nothing.
-    void Choose(double height);
+    // Borrows the beams and walls, which are in the same scene, until it is called again.
+    void Choose(const std::vector<OwnerItem*>& owners, double height);
     // An annotation that is drawn in any case, above the others; nothing for none.
     void SetLit(OwnerItem* owner, const std::optional<FieldRef>& ref);
 
@@ -46,7 +46,6 @@ private:
     void PaintPiece(QPainter& painter, const Piece& piece) const;
     void FindLit();
 
-    std::vector<OwnerItem*> m_owners;
     std::vector<Piece> m_shown;
     Piece m_lit;  // empty where its text is none of the small ones
     std::optional<FieldRef> m_litRef;

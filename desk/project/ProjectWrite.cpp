@@ -149,6 +149,21 @@ void WritePointed(const std::map<std::string, PlanPoint>& pointed, Json& source)
     }
 }
 
+// Axes are made with the project and kept by the file afterwards.
+void WriteAxes(const Project& project, Json& source)
+{
+    if (source.contains("axes")) {
+        return;
+    }
+    const std::pair<const char*, const std::vector<Axis>*> all[] = {{"x", &project.axesAcross},
+                                                                    {"y", &project.axesUp}};
+    for (const auto& [direction, axes] : all) {
+        for (const Axis& axis : *axes) {
+            source["axes"][direction][axis.label] = AsJson(axis.at);
+        }
+    }
+}
+
 }  // namespace
 
 InFile DrawnInFile(const std::string& drawn, std::size_t line)
@@ -166,6 +181,7 @@ std::string FormatProject(const Project& project)
     for (const TextField<Project>& field : ProjectTexts) {
         WriteText(project.*field.member, field.key, source);
     }
+    WriteAxes(project, source);
     WriteList(project.beams, source["beams"]);
     WriteList(project.walls, source["walls"]);
     WritePointed(project.pointed, source);

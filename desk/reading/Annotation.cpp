@@ -5,7 +5,7 @@
 
 namespace Desk {
 
-std::string FieldName(Field field)
+std::string PlainFieldName(Field field)
 {
     switch (field) {
     case Field::Stirrup: return "stirrup";

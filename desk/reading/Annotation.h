@@ -14,7 +14,7 @@ namespace Desk {
 
 // What an annotation is called where a text is told for what it is: lower case, and no more than a loose
 // text says of itself.
-[[nodiscard]] std::string FieldName(Field field);
+[[nodiscard]] std::string PlainFieldName(Field field);
 
 struct Annotation {
     Field field = Field::Name;

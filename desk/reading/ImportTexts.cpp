@@ -1,6 +1,9 @@
 // From readings to beams and walls.
 #include "desk/reading/ImportTexts.h"
 
+#include <algorithm>
+
+#include "desk/project/Encoding.h"
 #include "desk/project/ProjectFile.h"
 
 namespace Desk {
@@ -60,6 +63,14 @@ Project ProjectOf(const std::vector<ImportedText>& texts, const std::string& tit
         project.beams.push_back(std::move(beam));
     }
     return project;
+}
+
+std::string TitleFor(const std::filesystem::path& texts)
+{
+    const std::string title = texts.stem().string();
+    const auto isControl = [](char ch) { return static_cast<unsigned char>(ch) < 0x20 || ch == 0x7F; };
+    const bool isShowable = GbkFromUtf8(title) && std::none_of(title.begin(), title.end(), isControl);
+    return isShowable ? title : "import";
 }
 
 }  // namespace Desk

@@ -1,6 +1,7 @@
 // Makes a project out of the texts of a file, with an account of every one of them.
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -24,5 +25,8 @@ struct ImportedText {
 // beam of a loose text has no name and no other annotation. Each beam and wall keeps its text as drawn and
 // the line under the keys "drawn" and "line".
 [[nodiscard]] Project ProjectOf(const std::vector<ImportedText>& texts, const std::string& title);
+
+// The name of the texts' file where it can be a project's title.
+[[nodiscard]] std::string TitleFor(const std::filesystem::path& texts);
 
 }  // namespace Desk

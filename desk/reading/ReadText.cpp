@@ -59,7 +59,7 @@ private:
     void Add(Field field, std::string text, const Stretch& at)
     {
         if (Holds(field)) {
-            LeaveOut(text, std::string("more than one for ").append(FieldName(field)));
+            LeaveOut(text, std::string("more than one for ").append(PlainFieldName(field)));
         } else {
             m_reading.annotations.push_back({field, std::move(text), at});
         }
@@ -159,7 +159,7 @@ void FindContradiction(Reading& reading, Kind kind)
     const auto misfit = std::find_if_not(all.begin(), all.end(), fits);
     if (misfit != all.end()) {
         reading.contradiction = std::string("given as ").append(KindWord(kind)).append(", reads as ");
-        reading.contradiction.append(FieldName(misfit->field)).append(" ").append(misfit->text);
+        reading.contradiction.append(PlainFieldName(misfit->field)).append(" ").append(misfit->text);
     }
 }
 

@@ -65,4 +65,29 @@ private:
     PlanPoint m_at;
 };
 
+// Beams and walls exchanged for others.
+class OwnersChange : public QUndoCommand {
+public:
+    OwnersChange(Document& document, Edits edits)
+        : m_document(document), m_beams(std::move(edits.beams), document.Get().beams.size()),
+          m_walls(std::move(edits.walls), document.Get().walls.size())
+    {
+        setText(QString::fromStdString(edits.what));
+    }
+
+    void undo() override { redo(); }
+    void redo() override
+    {
+        Project& project = m_document.m_project;
+        const Exchanged done{m_beams.Do(project.beams), m_walls.Do(project.walls)};
+        m_document.WriteCopySoon();
+        emit m_document.OwnersChanged(done);
+    }
+
+private:
+    Document& m_document;
+    Exchange<Beam> m_beams;
+    Exchange<Wall> m_walls;
+};
+
 }  // namespace Desk

@@ -50,6 +50,7 @@ Docks::Docks(QMainWindow& window, const Document& document)
     connect(m_choices, &ChoiceBox::Left, this, &Docks::Left);
     connect(m_properties, &PropertyGrid::Picked, this, &Docks::Picked);
     connect(m_properties, &PropertyGrid::Edited, this, &Docks::Edited);
+    connect(m_properties, &PropertyGrid::DataEdited, this, &Docks::DataEdited);
     connect(m_properties, &PropertyGrid::PanelAsked, this, &Docks::PanelAskedInGrid);
     connect(&m_offers, &Offers::Renewed, this, [this] {
         m_chosen.reset();

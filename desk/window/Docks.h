@@ -41,6 +41,7 @@ public:
 signals:
     void Picked(const Desk::FieldRef& ref);
     void Taken(const Desk::FieldRef& ref, const QString& text);
+    void DataEdited(const Desk::FieldRef& owner, Desk::Datum datum, const QString& text);
     // A proposal for an annotation, or for several of its beam.
     void ProposalTaken(const std::vector<std::pair<Desk::FieldRef, QString>>& texts, const QString& reason);
     void Edited(const Desk::FieldRef& ref, const QString& text);

@@ -3,13 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "desk/drawing/Export.h"
 #include "desk/project/Encoding.h"
 #include "desk/project/FindBeam.h"
-#include "desk/project/ProjectFile.h"
-#include "desk/project/SafeFile.h"
+#include "desk/project/Making.h"
 #include "desk/window/Changes.h"
-#include "desk/window/Languages.h"
 
 namespace Desk {
 
@@ -17,9 +14,32 @@ namespace {
 
 constexpr int RecoveryDelay = 2000;  // ms from a change to its recovery copy
 
-bool IsDrawingName(const QString& file)
+template <class Owner>
+bool LeavesPlan(const EditsOf<Owner>& edits)
 {
-    return file.endsWith(QLatin1String(".dxf"), Qt::CaseInsensitive);
+    const auto leaves = [](const Owner& owner) { return !IsInRange(owner.start) || !IsInRange(owner.end); };
+    return std::any_of(edits.added.begin(), edits.added.end(), leaves) ||
+           std::any_of(edits.changed.begin(), edits.changed.end(),
+                       [&](const auto& each) { return leaves(each.second); });
+}
+
+// What a drawing does not take: other positions than its outlines', fewer beams than it has, and new ones
+// where it has no outline for a label.
+bool IsAgainst(const Drawing& drawing, const EditsOf<Beam>& edits, const Project& project)
+{
+    const auto isMoved = [&](const auto& each) {
+        const Beam& before = project.beams.at(each.first);
+        const Beam& now = each.second;
+        return !IsSame(now.start, before.start) || !IsSame(now.end, before.end) ||
+               now.spans != before.spans;
+    };
+    const auto hasNoOutline = [&](const Beam& beam) {
+        const PlanPoint middle{(beam.start.x + beam.end.x) / 2.0, (beam.start.y + beam.end.y) / 2.0};
+        return beam.places.empty() || !drawing.LabelFor(project, middle);
+    };
+    return std::any_of(edits.changed.begin(), edits.changed.end(), isMoved) ||
+           std::any_of(edits.added.begin(), edits.added.end(), hasNoOutline) ||
+           (!edits.removed.empty() && *edits.removed.begin() < drawing.Get().beams.size());
 }
 
 }  // namespace
@@ -33,80 +53,6 @@ Document::Document(const QString& recoveryFolder, QObject* parent)
 }
 
 Document::~Document() = default;
-
-void Document::OpenSample() { Replace(SampleProject(), QString()); }
-
-void Document::Open(const QString& file)
-{
-    const QString path = QFileInfo(file).absoluteFilePath();
-    Opened opened = OpenFile(path.toStdString());
-    Replace(std::move(opened.project), path, std::move(opened.drawing));
-}
-
-bool Document::OpenLost(const LostWork& lost)
-{
-    Project copy = ReadProject(lost.copy.toStdString());
-    const QFileInfo file(lost.file);
-    bool fits = true;
-    if (IsDrawingName(lost.file)) {
-        std::optional<Drawing> drawing;
-        std::optional<Project> onDrawing;
-        if (file.exists() && file.lastModified() == lost.fileTime) {
-            drawing = OpenFile(lost.file.toStdString()).drawing;
-            onDrawing = drawing ? OntoDrawing(*drawing, copy) : std::nullopt;
-        }
-        fits = onDrawing.has_value();
-        if (fits) {
-            Replace(std::move(*onDrawing), lost.file, std::move(drawing));
-        } else {
-            Replace(std::move(copy), QString());
-        }
-    } else {
-        Replace(std::move(copy), lost.file);
-    }
-    m_fileTime = fits ? lost.fileTime
-                      : QDateTime();  // what another program saved since is not in the copy: saving asks
-    m_changes.resetClean();
-    if (!m_recovery.TakeOver(lost)) {
-        WriteRecoveryCopy();
-    }
-    return fits;
-}
-
-void Document::SaveAs(const QString& file)
-{
-    const QString path = QFileInfo(file).absoluteFilePath();
-    const bool isProject = path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
-    const bool asDrawing = IsDrawingName(path) || (m_drawing && !isProject);
-    Write(path.toStdString(), asDrawing);
-    if (asDrawing != m_drawing.has_value()) {
-        Open(path);
-        return;
-    }
-    m_file = path;
-    NoteFileTime();
-    m_changes.setClean();
-    DropRecoveryCopy();
-    emit FileChanged();
-}
-
-void Document::Write(const std::string& file, bool asDrawing) const
-{
-    if (!asDrawing) {
-        SaveProject(m_project, file);
-    } else if (m_drawing) {
-        m_drawing->Save(m_project, file);
-    } else {
-        const std::string companion = Drawing::CompanionOf(m_project);
-        if (!companion.empty()) {
-            ReplaceFile(CompanionFile(file), companion);
-        } else {
-            std::error_code isNone;
-            std::filesystem::remove(CompanionFile(file), isNone);  // of another drawing
-        }
-        ReplaceFile(file, FormatDrawing(m_project));
-    }
-}
 
 std::vector<std::size_t> Document::OpenTexts() const
 {
@@ -142,11 +88,6 @@ FieldRef Document::Target(FieldRef ref) const
     return ref;
 }
 
-bool Document::IsFileNewer() const
-{
-    return !m_file.isEmpty() && QFileInfo::exists(m_file) && QFileInfo(m_file).lastModified() != m_fileTime;
-}
-
 QString Document::SetTexts(const std::vector<std::pair<FieldRef, QString>>& texts)
 {
     const auto isControl = [](char ch) { return static_cast<unsigned char>(ch) < ' ' || ch == '\x7F'; };
@@ -172,22 +113,6 @@ QString Document::SetTexts(const std::vector<std::pair<FieldRef, QString>>& text
     return {};
 }
 
-void Document::DropRecoveryCopy()
-{
-    m_recoverySoon.stop();
-    m_recovery.Drop();
-}
-
-void Document::WriteRecoveryCopy()
-{
-    m_recoverySoon.stop();
-    try {
-        m_recovery.Write(m_project, m_file, m_fileTime);
-    } catch (const Failure& failure) {
-        emit RecoveryFailed(tr("There is no recovery copy: %1").arg(Told(failure)));
-    }
-}
-
 void Document::SwapTexts(std::map<FieldRef, std::string>& others)
 {
     std::vector<FieldRef> refs;
@@ -200,31 +125,32 @@ void Document::SwapTexts(std::map<FieldRef, std::string>& others)
 
 void Document::Changed(const std::vector<FieldRef>& refs)
 {
-    if (!m_recoverySoon.isActive()) {
-        m_recoverySoon.start();
-    }
+    WriteCopySoon();
     for (const FieldRef& ref : refs) {
         emit TextChanged(ref);
     }
     emit StepDone(refs);
 }
 
-void Document::Replace(Project project, const QString& file, std::optional<Drawing> drawing)
+void Document::WriteCopySoon()
 {
-    DropRecoveryCopy();
-    m_project = std::move(project);
-    m_drawing = std::move(drawing);
-    m_file = file;
-    NoteFileTime();
-    m_changes.clear();
-    emit Replaced();
-    emit OpenTextsChanged();
-    emit FileChanged();
+    if (!m_recoverySoon.isActive()) {
+        m_recoverySoon.start();
+    }
 }
 
-void Document::NoteFileTime()
+QString Document::Edit(Edits edits)
 {
-    m_fileTime = m_file.isEmpty() ? QDateTime() : QFileInfo(m_file).lastModified();
+    if (LeavesPlan(edits.beams) || LeavesPlan(edits.walls)) {
+        return tr("The plan ends 1000 km from its origin.");
+    }
+    if (m_drawing && IsAgainst(*m_drawing, edits.beams, m_project)) {
+        return tr(
+            "The beams of a drawing are where it has their outlines, which the drawing program changes. "
+            "Saved as a project they can be changed here.");
+    }
+    m_changes.push(new OwnersChange(*this, std::move(edits)));
+    return {};
 }
 
 }  // namespace Desk

@@ -12,6 +12,7 @@
 
 #include "desk/Toolkit.h"
 #include "desk/drawing/Drawing.h"
+#include "desk/project/Edits.h"
 #include "desk/project/Fields.h"
 #include "desk/window/RecoveryCopy.h"
 
@@ -31,6 +32,7 @@ public:
 
     // Empty for the sample and for a project that was never saved.
     [[nodiscard]] QString File() const { return m_file; }
+    [[nodiscard]] bool IsSample() const { return m_isSample; }
 
     // The drawing that the project was read from; null for a project file and for the sample.
     [[nodiscard]] const Drawing* From() const { return m_drawing ? &*m_drawing : nullptr; }
@@ -40,6 +42,9 @@ public:
     // Each replaces the project and throws Failure, with nothing changed, when it cannot be done.
     void OpenSample();
     void Open(const QString& file);
+    // A project without a file: a floor that was just made, which loses nothing when it is left again, or
+    // one that was imported.
+    void OpenNew(Project project, bool imported);
     // What a session that broke off left: its texts count as unsaved changes of the file that it came from.
     // False when that is a drawing that they fit no more: then they are a project that was never saved.
     bool OpenLost(const LostWork& lost);
@@ -61,6 +66,10 @@ public:
     // last one counts.
     QString SetTexts(const std::vector<std::pair<FieldRef, QString>>& texts);
 
+    // Makes beams and walls what the edits say, which can be taken back. Answers why that is refused, empty
+    // when it is done: the beams of a drawing stay where it has them, and a position lies on the plan.
+    QString Edit(Edits edits);
+
     // Gives an open text to the beam at a position, which can be taken back. The text's annotation, or
     // nothing where no beam takes it.
     std::optional<FieldRef> PointTo(std::size_t text, const PlanPoint& at);
@@ -73,6 +82,8 @@ public:
 signals:
     void TextChanged(const Desk::FieldRef& ref);                // each text of a step
     void StepDone(const std::vector<Desk::FieldRef>& changed);  // after them; not empty
+    // Beams and walls came, changed or went, in one step; StepDone is for texts alone.
+    void OwnersChanged(const Desk::Exchanged& exchanged);
     void OpenTextsChanged();
     void Replaced();     // another project
     void FileChanged();  // its name
@@ -81,8 +92,10 @@ signals:
 private:
     friend class TextsChange;
     friend class PointChange;
+    friend class OwnersChange;
     void SwapTexts(std::map<FieldRef, std::string>& others);
     void Changed(const std::vector<FieldRef>& refs);
+    void WriteCopySoon();
     void Replace(Project project, const QString& file, std::optional<Drawing> drawing = std::nullopt);
     void Write(const std::string& file, bool asDrawing) const;
     void NoteFileTime();
@@ -90,6 +103,7 @@ private:
     Project m_project;
     std::optional<Drawing> m_drawing;
     QString m_file;
+    bool m_isSample = false;
     QDateTime m_fileTime;
     QUndoStack m_changes;
     RecoveryCopy m_recovery;

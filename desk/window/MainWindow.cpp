@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "desk/window/Ask.h"
 #include "desk/window/Folders.h"
-#include "desk/window/Steps.h"
 
 namespace Desk {
 
@@ -14,11 +12,15 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
       m_floor(new FloorView(this)), m_docks(new Docks(*this, m_document)),
       m_openTexts(new OpenTexts(m_document, *m_floor, this)), m_menus(new Menus(*this)),
       m_selection(new Selection(m_document, *m_floor, *m_docks, m_panels, *this)),
+      m_editing(new Editing(m_document, *m_selection, *this)),
+      m_tools(new PlanTools(m_document, *m_floor, *m_editing)),
       m_files(new ProjectFiles(m_document, *this, m_menus->Recent(),
                                [this] { return m_selection->EndEdit(); })),
-      m_search(new SearchLine), m_counts(new QLabel(this))
+      m_exchanges(new ImportExport(m_document, *m_files, *this)), m_search(new SearchLine),
+      m_counts(new QLabel(this))
 {
     setObjectName("desk");
+    m_counts->setObjectName("counts");
     setMinimumSize(640, 420);  // the tool bar with its search, and something of the drawing
     m_floor->setObjectName("drawing");
     setCentralWidget(m_floor);
@@ -74,6 +76,13 @@ void MainWindow::ConnectParts()
             [this](const QString& text) { statusBar()->showMessage(text); });
     connect(m_openTexts, &OpenTexts::Said, statusBar(),
             [this](const QString& text) { statusBar()->showMessage(text); });
+    connect(m_editing, &Editing::Said, statusBar(),
+            [this](const QString& text) { statusBar()->showMessage(text); });
+    connect(m_tools, &PlanTools::Said, statusBar(),
+            [this](const QString& text) { statusBar()->showMessage(text); });
+    connect(m_exchanges, &ImportExport::Said, statusBar(),
+            [this](const QString& text) { statusBar()->showMessage(text); });
+    connect(m_docks, &Docks::DataEdited, m_editing, &Editing::SetData);
     connect(m_search, &SearchLine::Asked, this, [this] { m_selection->Find(m_search->Wanted(), 1); });
     connect(m_files, &ProjectFiles::Saved, this, [this](const QString& file) {
         ShowTitle();
@@ -84,46 +93,23 @@ void MainWindow::ConnectParts()
     });
     connect(&m_display, &QtDisplay::Hidden, statusBar(), [this] { statusBar()->clearMessage(); });
     connect(&m_document, &Document::Replaced, m_search, [this] { m_search->Complete(m_document.Get()); });
+    connect(&m_document, &Document::OwnersChanged, this, [this] {
+        m_search->Complete(m_document.Get());
+        ShowTitle();
+    });
     connect(&m_document, &Document::FileChanged, this, &MainWindow::ShowTitle);
     connect(&m_document, &Document::RecoveryFailed, this,
             [this](const QString& why) { statusBar()->showMessage(why); });
     connect(&m_document.Changes(), &QUndoStack::cleanChanged, this, &MainWindow::ShowTitle);
 }
 
-void MainWindow::ConnectCommands()
-{
-    m_menus->On("open", m_files, &ProjectFiles::AskOpen);
-    m_menus->On("sample", m_files, &ProjectFiles::OpenSample);
-    m_menus->On("save", m_files, &ProjectFiles::Save);
-    m_menus->On("saveAs", m_files, &ProjectFiles::SaveUnderNewName);
-    m_menus->On("quit", this, &QWidget::close);
-    m_menus->Undoes(m_document.Changes());
-    m_menus->On("find", m_search, &SearchLine::Start);
-    m_menus->On("type", m_docks, [this] { m_docks->StartTyping(); });
-    m_menus->On("edit", m_docks, &Docks::StartEditing);
-    m_menus->On("panel", m_selection, &Selection::OpenPanel);
-    m_menus->On("fit", m_floor, &FloorView::Fit);
-    m_menus->On("zoomIn", m_floor, [this] { m_floor->ZoomBy(1.25); });
-    m_menus->On("zoomOut", m_floor, [this] { m_floor->ZoomBy(0.8); });
-    m_menus->On("about", this, [this] { ShowAbout(this); });
-    const auto step = [this](const char* command, auto where, int by) {
-        m_menus->On(command, m_selection, [this, where, by] {
-            m_selection->Choose(where(m_document.Get(), m_selection->Chosen(), by));
-        });
-    };
-    m_menus->On("nextEmpty", m_selection, &Selection::GoOn);
-    step("nextField", &StepField, 1);
-    step("previousField", &StepField, -1);
-    step("nextOwner", &StepOwner, 1);
-    step("previousOwner", &StepOwner, -1);
-    m_menus->On("findNext", this, [this] { m_selection->Find(m_search->Wanted(), 1); });
-    m_menus->On("findPrevious", this, [this] { m_selection->Find(m_search->Wanted(), -1); });
-}
-
 void MainWindow::ShowTitle()
 {
-    const QString name =
-        m_document.File().isEmpty() ? tr("Sample project") : QFileInfo(m_document.File()).fileName();
+    const QString title = QString::fromStdString(m_document.Get().title);
+    const QString name = m_document.IsSample()          ? tr("Sample project")
+                         : !m_document.File().isEmpty() ? QFileInfo(m_document.File()).fileName()
+                         : title.isEmpty()              ? tr("New floor")
+                                                        : title;
     setWindowTitle(QStringLiteral("%1[*] - beamdesk").arg(name));
     setWindowModified(m_document.IsChanged());
     const Project& project = m_document.Get();
@@ -144,6 +130,7 @@ void MainWindow::SetLanguage(Language language)
     m_menus->Retranslate();
     m_search->Retranslate();
     m_openTexts->Retranslate();
+    m_tools->Retranslate();
     m_docks->Redraw();
     ShowTitle();
 }
@@ -155,6 +142,9 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
         if (event->key() == Qt::Key_Escape) {
             m_floor->setFocus();
         }
+        return;
+    }
+    if (m_tools->TakeKey(*event)) {
         return;
     }
     const QString text = event->text();

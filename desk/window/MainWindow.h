@@ -6,9 +6,11 @@
 
 #include "desk/Toolkit.h"
 #include "desk/shell/QtDisplay.h"
+#include "desk/window/ImportExport.h"
 #include "desk/window/Languages.h"
 #include "desk/window/Menus.h"
 #include "desk/window/OpenTexts.h"
+#include "desk/window/PlanTools.h"
 #include "desk/window/ProjectFiles.h"
 #include "desk/window/SearchLine.h"
 #include "desk/window/Selection.h"
@@ -32,6 +34,7 @@ public:
 
     [[nodiscard]] Document& TheDocument() { return m_document; }
     [[nodiscard]] ProjectFiles& Files() { return *m_files; }
+    [[nodiscard]] ImportExport& Exchanges() { return *m_exchanges; }
     [[nodiscard]] FloorView& Drawing() { return *m_floor; }
     [[nodiscard]] PanelHost& Panels() { return m_panels; }
     [[nodiscard]] QtDisplay& Display() { return m_display; }
@@ -57,7 +60,10 @@ private:
     OpenTexts* m_openTexts;
     Menus* m_menus;
     Selection* m_selection;
+    Editing* m_editing;
+    PlanTools* m_tools;
     ProjectFiles* m_files;
+    ImportExport* m_exchanges;
     SearchLine* m_search;
     QLabel* m_counts;
 };

@@ -10,19 +10,39 @@ Offers::Offers(const Document& document, QObject* parent) : QObject(parent), m_d
     connect(&document, &Document::Replaced, this, &Offers::Renew);
     connect(&document, &Document::TextChanged, this,
             [this](const FieldRef& ref) { m_changed.insert(ref); });
+    connect(&document, &Document::OwnersChanged, this, &Offers::Follow);
     Renew();
 }
 
+// What is kept of the project is made when it is asked for again.
 void Offers::Renew()
 {
     emit Renewed();
     m_changed.clear();
-    m_rankings.emplace(m_document.Get());
-    m_proposer.emplace(m_document.Get());
+    m_rankings.reset();
+    m_proposer.reset();
+}
+
+void Offers::Follow(const Exchanged& exchanged)
+{
+    if (exchanged.Renumbers()) {
+        Renew();
+        return;
+    }
+    for (const std::size_t index : exchanged.beams.in) {
+        m_changed.insert({false, index, Field::Name});
+    }
+    for (const std::size_t index : exchanged.walls.in) {
+        m_changed.insert({true, index, Field::Name});
+    }
 }
 
 void Offers::CatchUp()
 {
+    if (!m_rankings) {
+        m_rankings.emplace(m_document.Get());
+        m_proposer.emplace(m_document.Get());
+    }
     for (const FieldRef& ref : std::exchange(m_changed, {})) {
         if (ref.isWall) {
             m_rankings->UpdateWall(ref.index);

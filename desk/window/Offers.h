@@ -27,6 +27,7 @@ signals:
 
 private:
     void Renew();
+    void Follow(const Exchanged& exchanged);
     void CatchUp();
 
     const Document& m_document;

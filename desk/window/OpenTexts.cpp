@@ -37,7 +37,6 @@ OpenTexts::OpenTexts(Document& document, FloorView& floor, QWidget* parent)
         m_rows->setCurrentItem(m_rows->topLevelItem(static_cast<int>(mark)));
         show();
     });
-    connect(&floor, &FloorView::Pointed, this, &OpenTexts::Take);
     connect(&document, &Document::OpenTextsChanged, this, &OpenTexts::Fill);
     connect(&document, &Document::Replaced, this, [this] { setVisible(!m_document.OpenTexts().empty()); });
 }
@@ -77,7 +76,7 @@ void OpenTexts::StartPointing()
         m_rows->setCurrentItem(m_rows->topLevelItem(0));
     }
     if (const std::optional<std::size_t> row = Marked()) {
-        m_floor.SetPointing(true);
+        m_floor.StartPointing([this](const PlanPoint& at) { Take(at); });
         m_floor.setFocus();
         emit Said(tr("Press the beam of %1 on the plan; Esc leaves the text open").arg(TextOf(*row)));
     }
@@ -86,7 +85,7 @@ void OpenTexts::StartPointing()
 void OpenTexts::EndPointing()
 {
     if (m_floor.IsPointing()) {
-        m_floor.SetPointing(false);
+        m_floor.EndPointing();
         emit Said(tr("The text stays open"));
     }
 }
@@ -100,7 +99,7 @@ void OpenTexts::Take(const PlanPoint& at)
     }
     const QString text = TextOf(*row);
     if (const std::optional<FieldRef> ref = m_document.PointTo(m_open[*row], at)) {
-        m_floor.SetPointing(false);
+        m_floor.EndPointing();
         emit Said(tr("%1 belongs to %2").arg(text, OwnerName(m_document.Get(), *ref)));
     } else {
         emit Said(tr("There is no beam that could take %1; press another position, or Esc").arg(text));

@@ -1,10 +1,10 @@
 #include "desk/window/PropertyGrid.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "desk/window/FieldNames.h"
+#include "desk/window/Languages.h"
 
 namespace Desk {
 
@@ -55,10 +55,12 @@ PropertyGrid::PropertyGrid(QWidget* parent) : QTreeWidget(parent)
         }
     });
     connect(this, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* row, int column) {
-        const std::optional<FieldRef> ref = RefOf(row);
-        if (ref && column == ValueColumn && !m_isFilling) {
+        if (column == ValueColumn && !m_isFilling && !m_refs.empty()) {
+            const std::optional<FieldRef> ref = RefOf(row);
+            const auto line = static_cast<std::size_t>(indexOfTopLevelItem(row)) - m_refs.size();
             // Later, since the answer fills the grid anew under the editor's feet.
-            m_edited = {*ref, row->text(ValueColumn)};
+            m_edited = {ref.value_or(m_refs.front()),
+                        ref ? std::nullopt : std::optional(m_data.at(line).datum), row->text(ValueColumn)};
             QMetaObject::invokeMethod(this, &PropertyGrid::TellEdited, Qt::QueuedConnection);
         }
     });
@@ -68,8 +70,8 @@ void PropertyGrid::Show(const Project& project, const std::optional<FieldRef>& r
 {
     const QScopedValueRollback filling(m_isFilling, true);
     std::vector<FieldRef> refs = ref ? RefsOf(project, *ref) : std::vector<FieldRef>();
-    const std::vector<Fixed> fixed = ref ? FixedOf(project, *ref) : std::vector<Fixed>();
-    const auto count = static_cast<int>(refs.size() + fixed.size());
+    m_data = ref ? DataOf(project, *ref) : std::vector<DataLine>();
+    const auto count = static_cast<int>(refs.size() + m_data.size());
     // Rows are made anew for another kind of owner alone: their buttons cost the most.
     const bool sameRows = refs.size() == m_refs.size() && count == topLevelItemCount() &&
                           (refs.empty() || refs.front().isWall == m_refs.front().isWall);
@@ -79,16 +81,16 @@ void PropertyGrid::Show(const Project& project, const std::optional<FieldRef>& r
         for (const FieldRef& each : m_refs) {
             AddText(each);
         }
-        for (std::size_t i = 0; i < fixed.size(); ++i) {
-            AddFixed();
+        for (std::size_t i = 0; i < m_data.size(); ++i) {
+            AddData();
         }
     }
     int row = 0;
     for (const FieldRef& each : m_refs) {
         Fill(row++, FieldName(project, each), QString::fromStdString(TextAt(project, each)));
     }
-    for (const auto& [caption, value] : fixed) {
-        Fill(row++, caption, value);
+    for (const DataLine& line : m_data) {
+        Fill(row++, line.caption, line.value);
     }
     if (ref) {
         setCurrentItem(RowOf(*ref), ValueColumn);
@@ -105,28 +107,21 @@ void PropertyGrid::Fill(int row, const QString& caption, const QString& value)
     }
 }
 
-std::vector<PropertyGrid::Fixed> PropertyGrid::FixedOf(const Project& project, const FieldRef& ref)
+std::vector<PropertyGrid::DataLine> PropertyGrid::DataOf(const Project& project, const FieldRef& ref)
 {
+    std::vector<DataLine> lines;
+    const auto add = [&lines](const auto& owner) {
+        for (const DatumRow& row : Desk::DataOf(owner)) {
+            lines.push_back({row.datum, QString::fromUtf8(IsChinese() ? row.chinese : row.english),
+                             QString::fromStdString(DatumText(owner, row.datum))});
+        }
+    };
     if (ref.isWall) {
-        return {{tr("Thickness"), QStringLiteral("%1 mm").arg(project.walls[ref.index].thickness)}};
+        add(project.walls[ref.index]);
+    } else {
+        add(project.beams[ref.index]);
     }
-    const Beam& beam = project.beams[ref.index];
-    std::vector<Fixed> rows = {
-        {tr("Floor"), QString::fromStdString(beam.floor)},
-        {tr("Concrete"), QStringLiteral("C%1").arg(beam.concreteGrade)},
-        {tr("Seismic class"), QString::number(beam.seismicClass)},
-        {tr("Required top"), QStringLiteral("%1 mm²").arg(beam.area.top)},
-        {tr("Required ends"), QStringLiteral("%1 / %2 mm²").arg(beam.area.leftEnd).arg(beam.area.rightEnd)},
-        {tr("Required bottom"), QStringLiteral("%1 mm²").arg(beam.area.bottom)}};
-    QStringList lengths;
-    for (const double length : beam.spans) {
-        lengths << QString::number(std::round(length), 'f', 0);
-    }
-    if (!lengths.isEmpty()) {
-        rows.insert(rows.begin(),
-                    {tr("Spans"), QStringLiteral("%1 mm").arg(lengths.join(QStringLiteral(" + ")))});
-    }
-    return rows;
+    return lines;
 }
 
 QRect PropertyGrid::OnScreen(const FieldRef& ref) const
@@ -141,7 +136,7 @@ QRect PropertyGrid::OnScreen(const FieldRef& ref) const
 
 void PropertyGrid::EditMarked()
 {
-    if (QTreeWidgetItem* const row = currentItem(); RefOf(row)) {
+    if (QTreeWidgetItem* const row = currentItem()) {
         editItem(row, ValueColumn);
     }
 }
@@ -160,7 +155,11 @@ void PropertyGrid::CommitEdit()
 void PropertyGrid::TellEdited()
 {
     if (const auto edited = std::exchange(m_edited, std::nullopt)) {
-        emit Edited(edited->first, edited->second);
+        if (edited->datum) {
+            emit DataEdited(edited->ref, *edited->datum, edited->text);
+        } else {
+            emit Edited(edited->ref, edited->text);
+        }
     }
 }
 
@@ -187,13 +186,11 @@ void PropertyGrid::AddText(const FieldRef& ref)
     setItemWidget(row, ButtonColumn, open);
 }
 
-void PropertyGrid::AddFixed()
+void PropertyGrid::AddData()
 {
     auto* const row = new QTreeWidgetItem(this);
-    row->setFlags(Qt::ItemIsEnabled);
-    for (const int column : {CaptionColumn, ValueColumn}) {
-        row->setForeground(column, palette().brush(QPalette::PlaceholderText));
-    }
+    row->setFlags(row->flags() | Qt::ItemIsEditable);
+    row->setForeground(CaptionColumn, palette().brush(QPalette::PlaceholderText));
 }
 
 // The rows of annotations are the first ones.

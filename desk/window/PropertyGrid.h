@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "desk/Toolkit.h"
+#include "desk/project/Data.h"
 #include "desk/project/Fields.h"
 
 namespace Desk {
@@ -29,21 +30,32 @@ signals:
     void Picked(const Desk::FieldRef& ref);
     void PanelAsked(const Desk::FieldRef& ref);
     void Edited(const Desk::FieldRef& ref, const QString& text);
+    void DataEdited(const Desk::FieldRef& owner, Desk::Datum datum, const QString& text);
 
 private:
-    using Fixed = std::pair<QString, QString>;  // caption and value
+    struct DataLine {
+        Datum datum;
+        QString caption;
+        QString value;
+    };
+    struct Edit {
+        FieldRef ref;
+        std::optional<Datum> datum;  // nothing for the annotation itself
+        QString text;
+    };
 
-    [[nodiscard]] static std::vector<Fixed> FixedOf(const Project& project, const FieldRef& ref);
+    [[nodiscard]] static std::vector<DataLine> DataOf(const Project& project, const FieldRef& ref);
     void AddText(const FieldRef& ref);
-    void AddFixed();
+    void AddData();
     void Fill(int row, const QString& caption, const QString& value);
     [[nodiscard]] std::optional<FieldRef> RefOf(QTreeWidgetItem* row) const;
     [[nodiscard]] QTreeWidgetItem* RowOf(const FieldRef& ref) const;
 
     void TellEdited();
 
-    std::vector<FieldRef> m_refs;                          // of the rows
-    std::optional<std::pair<FieldRef, QString>> m_edited;  // not yet told
+    std::vector<FieldRef> m_refs;  // of the first rows
+    std::vector<DataLine> m_data;  // of those after them
+    std::optional<Edit> m_edited;  // not yet told
     bool m_isFilling = false;
 };
 

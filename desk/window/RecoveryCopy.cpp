@@ -100,8 +100,18 @@ bool PointAgain(const Drawing& drawing, const std::string& handle, const PlanPoi
 std::optional<Project> OntoDrawing(const Drawing& drawing, const Project& copy)
 {
     Project project = drawing.Get();
-    if (project.beams.size() != copy.beams.size()) {
+    if (project.beams.size() > copy.beams.size()) {
         return std::nullopt;
+    }
+    for (std::size_t i = project.beams.size(); i < copy.beams.size(); ++i) {  // labels that were added
+        const Beam& beam = copy.beams[i];
+        std::optional<Beam> label = drawing.LabelFor(
+            project, {(beam.start.x + beam.end.x) / 2.0, (beam.start.y + beam.end.y) / 2.0});
+        if (!label) {
+            return std::nullopt;
+        }
+        project.beams.push_back(std::move(*label));
+        project.beams.back().name = beam.name;  // no second label goes there
     }
     for (const auto& [handle, at] : copy.pointed) {
         if (!PointAgain(drawing, handle, at, project)) {
@@ -109,11 +119,16 @@ std::optional<Project> OntoDrawing(const Drawing& drawing, const Project& copy)
         }
     }
     project.pointed = copy.pointed;
+    project.walls = copy.walls;
     for (std::size_t i = 0; i < copy.beams.size(); ++i) {
         Beam& beam = project.beams[i];
         for (const Field field : BeamFields()) {
             beam.*RowOf(field).ofBeam = copy.beams[i].*RowOf(field).ofBeam;
         }
+        beam.floor = copy.beams[i].floor;
+        beam.concreteGrade = copy.beams[i].concreteGrade;
+        beam.seismicClass = copy.beams[i].seismicClass;
+        beam.area = copy.beams[i].area;
         for (const InPlace& lost : copy.beams[i].inPlace) {
             if (lost.place.height <= 0.0) {
                 beam.inPlace.push_back(lost);

@@ -57,6 +57,7 @@ Selection::Selection(Document& document, FloorView& floor, Docks& docks, PanelHo
         const bool isHere = m_chosen && std::count(changed.begin(), changed.end(), *m_chosen) != 0;
         Choose(isHere ? m_chosen : changed.front());
     });
+    connect(&document, &Document::OwnersChanged, this, &Selection::Follow);
     connect(&document, &Document::Replaced, this, [this] {
         m_panels.Close();  // it serves an annotation of the project before
         m_chosen.reset();
@@ -64,6 +65,25 @@ Selection::Selection(Document& document, FloorView& floor, Docks& docks, PanelHo
         m_floor.SetProject(&m_document.Get(), from != nullptr ? &from->Behind() : nullptr);
         Show();
     });
+}
+
+// Undo and redo go where they change something; where something went, nothing is chosen.
+void Selection::Follow(const Exchanged& exchanged)
+{
+    if (exchanged.Renumbers()) {
+        m_panels.Close();  // it may serve what is no more
+    }
+    m_floor.Exchange(exchanged);
+    const bool isWall = exchanged.beams.in.empty();
+    const std::vector<std::size_t>& in = isWall ? exchanged.walls.in : exchanged.beams.in;
+    const bool isHere = m_chosen && m_chosen->isWall == isWall && !exchanged.Renumbers() &&
+                        std::binary_search(in.begin(), in.end(), m_chosen->index) &&
+                        Exists(m_document.Get(), *m_chosen);
+    if (in.empty()) {
+        Choose(std::nullopt);
+    } else {
+        Choose(isHere ? *m_chosen : FieldRef{isWall, in.front(), Field::Name});
+    }
 }
 
 void Selection::Choose(const std::optional<FieldRef>& ref)

@@ -44,6 +44,7 @@ private:
     void Take(const FieldRef& ref, const QString& text) { TakeAll({{ref, text}}); }
     bool TakeAll(const Texts& texts, const QString& reason = QString());
     void TakeFromList(const Texts& texts, const QString& reason);
+    void Follow(const Exchanged& exchanged);
     void OpenPanelBeside(const QRect& field);
     void Show();
 

@@ -687,6 +687,198 @@
         <source>The next annotation that a text is wanted for</source>
         <translation>转到下一处需要标注而尚空的位置</translation>
     </message>
+    <message>
+        <source>%1: a plan is written as .pdf or .svg</source>
+        <translation>%1：平面图只能写成 .pdf 或 .svg</translation>
+    </message>
+    <message>
+        <source>at 1:%1 the plan would be %2 m long, and 5 m are the most; a larger scale number makes it smaller</source>
+        <translation>比例 1:%1 时图面长 %2 m，最长为 5 m；比例分母越大，图面越小</translation>
+    </message>
+    <message>
+        <source>A whole number from %1 to %2 is needed here, not &quot;%3&quot;.</source>
+        <translation>此处须为 %1 至 %2 的整数，而不是“%3”。</translation>
+    </message>
+    <message>
+        <source>Two coordinates in mm are needed here, as in 8400, 0, not &quot;%1&quot;.</source>
+        <translation>此处须为以 mm 计的两个坐标，如 8400, 0，而不是“%1”。</translation>
+    </message>
+    <message>
+        <source>Lengths in mm are needed here, as in 6000 + 5700, not &quot;%1&quot;.</source>
+        <translation>此处须为以 mm 计的长度，如 6000 + 5700，而不是“%1”。</translation>
+    </message>
+    <message>
+        <source>A single line is needed here.</source>
+        <translation>此处须为单行文字。</translation>
+    </message>
+    <message>
+        <source>%1: no beam&apos;s label could be read</source>
+        <translation>%1：读不出任何梁的集中标注</translation>
+    </message>
+    <message>
+        <source>%1: no annotation could be read</source>
+        <translation>%1：读不出任何标注</translation>
+    </message>
+    <message>
+        <source>%1: the export would replace what is exported</source>
+        <translation>%1：导出会覆盖被导出的文件</translation>
+    </message>
+    <message>
+        <source>%1: a drawing already; save it under this name</source>
+        <translation>%1：本来就是图纸，请用“另存为”</translation>
+    </message>
+    <message>
+        <source>Text in place</source>
+        <translation>原位标注</translation>
+    </message>
+    <message>
+        <source>What it is</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Number from the start</source>
+        <translation>自起点的序号</translation>
+    </message>
+    <message>
+        <source>Distances in mm are needed, as in 7x8000 or 6000 2700 6000</source>
+        <translation>请输入以 mm 计的轴距，如 7x8000 或 6000 2700 6000</translation>
+    </message>
+    <message>
+        <source>%1 axes, %2 to %3, %4 mm</source>
+        <translation>共 %1 条轴线，%2 至 %3，%4 mm</translation>
+    </message>
+    <message>
+        <source>New floor</source>
+        <translation>新建楼层</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Distances of axes 1, 2, 3</source>
+        <translation>数字轴线的轴距</translation>
+    </message>
+    <message>
+        <source>Distances of axes A, B, C</source>
+        <translation>字母轴线的轴距</translation>
+    </message>
+    <message>
+        <source>Texts of a drawing</source>
+        <translation>图纸中的文字</translation>
+    </message>
+    <message>
+        <source>B for bars, A for stirrups</source>
+        <translation>纵筋 B，箍筋 A</translation>
+    </message>
+    <message>
+        <source>Grade where a sign tells none</source>
+        <translation>符号未注明时的钢筋级别</translation>
+    </message>
+    <message>
+        <source>Legs of stirrups that tell none</source>
+        <translation>未注明时的箍筋肢数</translation>
+    </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>新建(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>Makes an empty floor with its axes</source>
+        <translation>新建只有轴网的空白楼层</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>导入(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Makes a project of a drawing, or of the texts of one</source>
+        <translation>由图纸或图纸中的文字建立工程</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>导出(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Writes a drawing (DXF) or a plan (PDF, SVG)</source>
+        <translation>写出图纸或平面图</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>打印(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Prints the plan</source>
+        <translation>打印平面图</translation>
+    </message>
+    <message>
+        <source>&amp;Draw</source>
+        <translation>绘制(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Beam</source>
+        <translation>梁(&amp;B)</translation>
+    </message>
+    <message>
+        <source>New beams, each between two positions</source>
+        <translation>两点绘制新梁</translation>
+    </message>
+    <message>
+        <source>&amp;Wall</source>
+        <translation>墙(&amp;W)</translation>
+    </message>
+    <message>
+        <source>New walls, each between two positions</source>
+        <translation>两点绘制新墙</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copies the chosen beam or wall to other positions</source>
+        <translation>把选中的梁或墙复制到别处</translation>
+    </message>
+    <message>
+        <source>&amp;Move</source>
+        <translation>移动(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Moves the chosen beam or wall</source>
+        <translation>移动选中的梁或墙</translation>
+    </message>
+    <message>
+        <source>&amp;Turn round</source>
+        <translation>调转方向(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Its end becomes its start</source>
+        <translation>终点变为起点</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Deletes the chosen beam or wall; of a drawing its label</source>
+        <translation>删除选中的梁或墙；图纸中删除其标注</translation>
+    </message>
+    <message>
+        <source>Text in p&amp;lace...</source>
+        <translation>原位标注(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>One more text of the beam, at one support or along one span</source>
+        <translation>为梁的某一支座或某一跨添加标注</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>清除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Removes the chosen annotation</source>
+        <translation>清除选中的标注</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>
@@ -797,6 +989,152 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <source>There is no recovery copy: %1</source>
         <translation>没有恢复副本：%1</translation>
     </message>
+    <message>
+        <source>The plan ends 1000 km from its origin.</source>
+        <translation>平面图的范围为原点起 1000 km。</translation>
+    </message>
+    <message>
+        <source>The beams of a drawing are where it has their outlines, which the drawing program changes. Saved as a project they can be changed here.</source>
+        <translation>图纸中的梁以图上的轮廓线为准，轮廓线须在绘图程序中修改。另存为工程后可在此修改。</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::Editing</name>
+    <message>
+        <source>This cannot be done: %1</source>
+        <translation>无法执行：%1</translation>
+    </message>
+    <message>
+        <source>New beam %1</source>
+        <translation>新梁 %1</translation>
+    </message>
+    <message>
+        <source>New label %1</source>
+        <translation>新标注 %1</translation>
+    </message>
+    <message>
+        <source>There is no outline of one beam without a label</source>
+        <translation>此处没有未标注的单根梁轮廓</translation>
+    </message>
+    <message>
+        <source>New wall %1</source>
+        <translation>新墙 %1</translation>
+    </message>
+    <message>
+        <source>%1 beams and walls</source>
+        <translation>%1 个构件</translation>
+    </message>
+    <message>
+        <source>%1 moved</source>
+        <translation>%1 已移动</translation>
+    </message>
+    <message>
+        <source>%1 turned round</source>
+        <translation>%1 已调转方向</translation>
+    </message>
+    <message>
+        <source>%1 copied</source>
+        <translation>%1 已复制</translation>
+    </message>
+    <message>
+        <source>%1 deleted</source>
+        <translation>%1 已删除</translation>
+    </message>
+    <message>
+        <source>Start of %1</source>
+        <translation>%1 的起点</translation>
+    </message>
+    <message>
+        <source>End of %1</source>
+        <translation>%1 的终点</translation>
+    </message>
+    <message>
+        <source>The value was not taken</source>
+        <translation>数值未被采用</translation>
+    </message>
+    <message>
+        <source>Data of %1</source>
+        <translation>%1 的数据</translation>
+    </message>
+    <message>
+        <source>Choose a beam first</source>
+        <translation>请先选择一根梁</translation>
+    </message>
+    <message>
+        <source>Text in place of %1</source>
+        <translation>%1 的原位标注</translation>
+    </message>
+    <message>
+        <source>A label needs its name; deleting the beam removes the whole label</source>
+        <translation>集中标注必须有编号；删除梁可删除整个标注</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 已清除</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::ImportExport</name>
+    <message>
+        <source>An empty floor. Draw beams with Ctrl+B</source>
+        <translation>空白楼层。按 Ctrl+B 绘制梁</translation>
+    </message>
+    <message>
+        <source>Import a drawing or texts</source>
+        <translation>导入图纸或文字</translation>
+    </message>
+    <message>
+        <source>Drawings and texts (*.dxf *.txt *.tsv);;All files (*)</source>
+        <translation>图纸和文字 (*.dxf *.txt *.tsv);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>%1 beams imported; the project has no file yet</source>
+        <translation>已导入 %1 根梁；工程尚未存盘</translation>
+    </message>
+    <message>
+        <source>%1 of %2 texts imported; the project has no file yet</source>
+        <translation>已导入 %1 条文字，共 %2 条；工程尚未存盘</translation>
+    </message>
+    <message>
+        <source>%1 texts were not read</source>
+        <translation>有 %1 条文字未能识读</translation>
+    </message>
+    <message>
+        <source>Nothing was imported</source>
+        <translation>没有导入任何内容</translation>
+    </message>
+    <message>
+        <source>Drawings (*.dxf)</source>
+        <translation>图纸 (*.dxf)</translation>
+    </message>
+    <message>
+        <source>Plans (*.pdf *.svg)</source>
+        <translation>平面图 (*.pdf *.svg)</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Scale of the plan, 1 to</source>
+        <translation>平面图比例，1 比</translation>
+    </message>
+    <message>
+        <source>Nothing was exported</source>
+        <translation>没有导出任何内容</translation>
+    </message>
+    <message>
+        <source>Exported: %1</source>
+        <translation>已导出：%1</translation>
+    </message>
+    <message>
+        <source>Printed at 1:%1</source>
+        <translation>已按 1:%1 打印</translation>
+    </message>
+    <message>
+        <source>The printer takes nothing</source>
+        <translation>打印机无法接收</translation>
+    </message>
 </context>
 <context>
     <name>Desk::MainWindow</name>
@@ -815,6 +1153,10 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>%1 beams, %2 walls</source>
         <translation>梁 %1 根，墙 %2 道</translation>
+    </message>
+    <message>
+        <source>New floor</source>
+        <translation>新建楼层</translation>
     </message>
 </context>
 <context>
@@ -854,6 +1196,65 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>There is no beam that could take %1; press another position, or Esc</source>
         <translation>此处没有 %1 可归属的梁，请另选位置或按 Esc</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::PlanTools</name>
+    <message>
+        <source>Choose a beam or a wall first</source>
+        <translation>请先选择一根梁或一道墙</translation>
+    </message>
+    <message>
+        <source>The beams of a drawing are where it has their outlines</source>
+        <translation>图纸中的梁以图上的轮廓线为准</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no position; &quot;8000,0&quot;, &quot;@6000,0&quot; and &quot;@6000&lt;90&quot; are</source>
+        <translation>“%1”不是坐标；可写作“8000,0”“@6000,0”或“@6000&lt;90”</translation>
+    </message>
+    <message>
+        <source>Start of the beam</source>
+        <translation>梁的起点</translation>
+    </message>
+    <message>
+        <source>End of the beam</source>
+        <translation>梁的终点</translation>
+    </message>
+    <message>
+        <source>Outline without a label</source>
+        <translation>未标注的梁轮廓</translation>
+    </message>
+    <message>
+        <source>Start of the wall</source>
+        <translation>墙的起点</translation>
+    </message>
+    <message>
+        <source>End of the wall</source>
+        <translation>墙的终点</translation>
+    </message>
+    <message>
+        <source>Move from</source>
+        <translation>移动的基点</translation>
+    </message>
+    <message>
+        <source>Move to</source>
+        <translation>移动到</translation>
+    </message>
+    <message>
+        <source>Copy from</source>
+        <translation>复制的基点</translation>
+    </message>
+    <message>
+        <source>Copy to</source>
+        <translation>复制到</translation>
+    </message>
+    <message>
+        <source>A position: x,y in mm; @x,y or @length&lt;degrees from the one before; or the length alone</source>
+        <translation>坐标：以 mm 计的 x,y；相对上一点的 @x,y 或 @长度&lt;角度；或只写长度</translation>
+    </message>
+    <message>
+        <source>%1: press a position on the plan or type it; Esc goes back</source>
+        <translation>%1：请在平面图上点取或输入坐标，按 Esc 返回</translation>
     </message>
 </context>
 <context>
@@ -958,40 +1359,8 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
 <context>
     <name>Desk::PropertyGrid</name>
     <message>
-        <source>Thickness</source>
-        <translation>墙厚</translation>
-    </message>
-    <message>
-        <source>Floor</source>
-        <translation>楼层</translation>
-    </message>
-    <message>
-        <source>Concrete</source>
-        <translation>混凝土</translation>
-    </message>
-    <message>
-        <source>Seismic class</source>
-        <translation>抗震等级</translation>
-    </message>
-    <message>
-        <source>Required top</source>
-        <translation>上部计算配筋面积</translation>
-    </message>
-    <message>
-        <source>Required ends</source>
-        <translation>支座计算配筋面积</translation>
-    </message>
-    <message>
-        <source>Required bottom</source>
-        <translation>下部计算配筋面积</translation>
-    </message>
-    <message>
         <source>Opens the panel that composes the text by mouse</source>
         <translation>打开鼠标组合面板</translation>
-    </message>
-    <message>
-        <source>Spans</source>
-        <translation>跨长</translation>
     </message>
 </context>
 <context>

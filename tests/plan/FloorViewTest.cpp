@@ -1,58 +1,13 @@
 // The floor plan: every annotation is found where it shows, and only the changed one changes.
-#include <QtTest/QtTest>
-
 #include <gtest/gtest.h>
 
-#include "desk/plan/FloorView.h"
 #include "desk/project/ProjectFile.h"
 #include "tests/plan/Drawn.h"
+#include "tests/plan/View.h"
 
 namespace {
 
 using namespace Desk;
-
-std::vector<FieldRef> AllRefs(const Project& project)
-{
-    std::vector<FieldRef> refs;
-    for (const bool wall : {false, true}) {
-        for (std::size_t i = 0; i < (wall ? project.walls.size() : project.beams.size()); ++i) {
-            for (const Field field : wall ? WallFields() : BeamFields()) {
-                if (!TextAt(project, {wall, i, field}).empty()) {
-                    refs.push_back({wall, i, field});
-                }
-            }
-        }
-    }
-    return refs;
-}
-
-struct View : FloorView {
-    explicit View(const Project& project, const Backdrop* behind = nullptr)
-    {
-        resize(1200, 800);
-        SetProject(&project, behind);
-        show();
-        connect(this, &FloorView::Picked, [this](const FieldRef& ref) { picked.push_back(ref); });
-        connect(this, &FloorView::NothingPicked, [this] { ++nothing; });
-        connect(this, &FloorView::PanelAsked, [this](const FieldRef& ref) { panel = ref; });
-        connect(this, &FloorView::MarkPicked, [this](std::size_t at) { mark = at; });
-        connect(this, &FloorView::Pointed, [this](const PlanPoint& at) { pointed = at; });
-    }
-    [[nodiscard]] QPoint Middle(const FieldRef& ref) const
-    {
-        return viewport()->mapFromGlobal(OnScreen(ref).center());
-    }
-    std::vector<FieldRef> picked;
-    int nothing = 0;
-    void Press(const QPoint& at) { QTest::mouseClick(viewport(), Qt::LeftButton, {}, at); }
-    [[nodiscard]] QPoint InView(const PlanPoint& at) const
-    {
-        return viewport()->mapFromGlobal(OnScreen(at));
-    }
-    std::optional<FieldRef> panel;
-    std::optional<std::size_t> mark;
-    std::optional<PlanPoint> pointed;
-};
 
 TEST(FloorView, APressOnEachAnnotationOfTheSamplePicksIt)
 {
@@ -286,13 +241,14 @@ TEST(FloorView, MarksComeBeforeBeamsAndAskedPositionsBeforeAll)
     EXPECT_EQ(view.mark, 0U);
     view.LightMark(1);
     EXPECT_TRUE(view.viewport()->rect().contains(view.InView(Far(90000, 0)))) << "brought into view";
-    view.SetPointing(true);
+    std::optional<PlanPoint> pointed;
+    view.StartPointing([&](const PlanPoint& at) { pointed = at; });
     view.Press(view.InView(Far(90100, 50)));
-    ASSERT_TRUE(view.pointed);
-    EXPECT_NEAR(view.pointed->x, Far(90100, 0).x, 40);
-    EXPECT_NEAR(view.pointed->y, Far(0, 50).y, 40);
+    ASSERT_TRUE(pointed);
+    EXPECT_NEAR(pointed->x, Far(90100, 0).x, 40);
+    EXPECT_NEAR(pointed->y, Far(0, 50).y, 40);
     view.SetMarks({});
-    view.SetPointing(false);
+    view.EndPointing();
     view.SetChosen(FieldRef{false, 0, Field::Name});
     view.Press(view.Middle({false, 0, Field::Name}));
     EXPECT_EQ(view.picked.size(), 1U);

@@ -95,4 +95,27 @@ TEST(PlanFile, TellsWhatCannotBeDoneAndLeavesTheOldFile)
     EXPECT_NE(Bytes(QString::fromStdString(pdf)), before);
 }
 
+TEST(PlanFile, APrinterGetsThePlanAtTheFirstUsualScaleThatFits)
+{
+    const QTemporaryDir folder;
+    Project project;
+    project.axesAcross = {{"1", 0}, {"2", 40000}};
+    project.axesUp = {{"A", 0}};
+    const struct {
+        QPageSize::PageSizeId paper;
+        double scale;
+    } cases[] = {{QPageSize::A1, 100.0}, {QPageSize::A4, 200.0}};
+    for (const auto& [paper, scale] : cases) {
+        QPdfWriter printer(folder.filePath("print.pdf"));
+        printer.setPageSize(QPageSize(paper));
+        printer.setPageOrientation(QPageLayout::Landscape);
+        EXPECT_EQ(PrintPlan(project, nullptr, printer), scale);
+    }
+    project.axesAcross.back().at = 9e8;
+    QPdfWriter printer(folder.filePath("print.pdf"));
+    EXPECT_GT(PrintPlan(project, nullptr, printer), 9e8 / 210);
+    QPdfWriter nowhere(folder.filePath("no/such/print.pdf"));
+    EXPECT_EQ(PrintPlan(project, nullptr, nowhere), 0.0);
+}
+
 }  // namespace

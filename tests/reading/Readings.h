@@ -19,7 +19,7 @@ inline std::string Told(const Reading& reading)
     std::string told = reading.outcome == Outcome::InPart ? "part:" : "";
     for (const Annotation& annotation : reading.annotations) {
         told.append(told.empty() ? "" : told == "part:" ? " " : ", ");
-        told.append(FieldName(annotation.field)).append(" ").append(annotation.text);
+        told.append(PlainFieldName(annotation.field)).append(" ").append(annotation.text);
     }
     return told;
 }

@@ -2,8 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "desk/project/Failure.h"
+#include "desk/project/Making.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/window/Document.h"
+#include "tests/support/Made.h"
 
 namespace {
 
@@ -146,6 +148,55 @@ TEST_F(DocumentTest, LeavesACopyThatTheNextSessionFinds)
     EXPECT_FALSE(next.IsChanged());
     EXPECT_TRUE(QDir(Recovery()).entryList({"*.json"}).isEmpty());
     EXPECT_EQ(ReadProject(File("work.json").toStdString()).beams[0].section, "777x777");
+}
+
+TEST_F(DocumentTest, BeamsAndWallsComeAndGoInOneStepEach)
+{
+    auto document = std::make_unique<Document>(Recovery());
+    document->OpenNew(NewFloor("floor", *AxesFrom("2x8000", false), {}), false);
+    EXPECT_FALSE(document->IsChanged());
+    std::vector<Exchanged> told;
+    QObject::connect(document.get(), &Document::OwnersChanged,
+                     [&](const Exchanged& exchanged) { told.push_back(exchanged); });
+    Edits add{"add", {}, {}};
+    add.beams.added = {MadeBeam("KL1(1)", {0, 0}, {8000, 0}), MadeBeam("KL2(1)", {0, 0}, {0, 8000})};
+    add.walls.added = {MadeWall("Q1", {0, 0}, {0, 0})};
+    EXPECT_EQ(document->Edit(std::move(add)), "");
+    document->SetText({false, 1, Field::Section}, "300x600");
+    Edits mixed{"mixed", {}, {}};
+    mixed.beams.removed = {0};
+    mixed.beams.changed[1] = document->Get().beams[1];
+    mixed.beams.changed[1].floor = "4";
+    EXPECT_EQ(document->Edit(std::move(mixed)), "");
+    ASSERT_EQ(document->Get().beams.size(), 1U);
+    EXPECT_EQ(document->Get().beams[0].floor + document->Get().beams[0].section, "4300x600");
+    EXPECT_TRUE(told.back().Renumbers());
+    EXPECT_EQ(document->Changes().undoText(), "mixed");
+    document->WriteRecoveryCopy();
+
+    Edits far{"far", {}, {}};
+    far.walls.changed[0] = MadeWall("Q1", {0, 0}, {2e9, 0});
+    EXPECT_NE(document->Edit(std::move(far)), "");
+    while (document->Changes().canUndo()) {
+        document->Changes().undo();
+    }
+    EXPECT_TRUE(document->Get().beams.empty() && document->Get().walls.empty());
+    EXPECT_FALSE(document->IsChanged());
+    while (document->Changes().canRedo()) {
+        document->Changes().redo();
+    }
+    document->WriteRecoveryCopy();
+    document.reset();
+    Document next(Recovery());
+    EXPECT_TRUE(next.OpenLost(FindLostWork(Recovery()).at(0)));
+    EXPECT_EQ(next.Get().beams.at(0).name, "KL2(1)");
+    EXPECT_EQ(next.Get().axesAcross.size(), 3U);
+    EXPECT_TRUE(next.IsChanged());
+    next.SaveAs(File("floor.json"));
+    next.Open(File("floor.json"));
+    EXPECT_EQ(next.Get().beams.at(0).floor, "4");
+    EXPECT_EQ(next.Get().axesAcross.at(2).label, "3");
+    next.DropRecoveryCopy();
 }
 
 TEST_F(DocumentTest, ASavedOrGivenUpDocumentLeavesNone)

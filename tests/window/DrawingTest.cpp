@@ -10,6 +10,7 @@
 #include "desk/project/SafeFile.h"
 #include "desk/window/MainWindow.h"
 #include "desk/window/ScreenReport.h"
+#include "tests/support/Made.h"
 
 namespace {
 
@@ -110,6 +111,13 @@ TEST_F(DrawingTest, LostWorkComesBackOntoTheDrawing)
         document->Open(file);
         document->SetText(Stirrup, "A10@100(4)");
         document->SetText({false, 0, Field::LeftEnd, 0}, "9B25");
+        Edits edits;
+        edits.beams.changed[1] = document->Get().beams[1];
+        edits.beams.changed[1].concreteGrade = 55;
+        edits.walls.added = {MadeWall("Q99", {0, 0}, {0, 5000})};
+        EXPECT_EQ(document->Edit(edits), "");
+        edits.beams.changed[1].end.x += 1.0;
+        EXPECT_NE(document->Edit(edits), "") << "the outline is the drawing's";
         const auto& beam = document->Get().beams[0];
         if (pointed) {
             const PlanPoint middle{(beam.start.x + beam.end.x) / 2, (beam.start.y + beam.end.y) / 2};
@@ -126,12 +134,15 @@ TEST_F(DrawingTest, LostWorkComesBackOntoTheDrawing)
         EXPECT_EQ(next.Get().beams[0].stirrup, "A10@100(4)");
         EXPECT_EQ(next.Get().beams[0].inPlace[0].text, "9B25");
         EXPECT_EQ(next.Get().beams[0].inPlace.back().text, "4C20");
+        EXPECT_EQ(next.Get().beams[1].concreteGrade, 55);
         EXPECT_EQ(next.File(), file);
         EXPECT_TRUE(next.IsChanged());
         EXPECT_TRUE(next.OpenTexts().empty());
         next.SaveAs(file);
         next.Open(file);
         EXPECT_EQ(next.Get().beams[0].stirrup, "A10@100(4)");
+        EXPECT_EQ(next.Get().beams[1].concreteGrade, 55);
+        EXPECT_EQ(next.Get().walls.back().name, "Q99");
         EXPECT_TRUE(next.OpenTexts().empty()) << "kept beside the drawing";
     }
     const LostWork lost = lose(false);

@@ -15,7 +15,7 @@ using namespace Desk;
 QStringList EnglishIn(QString text)
 {
     static const QRegularExpression known(
-        "“[^”]*”|/[!-~]+|beamdesk|English|(Ctrl|Shift)\\+[\\w+]*|Esc|\\bmm\\b");
+        "“[^”]*”|/[!-~]+|beamdesk|English|(Ctrl|Shift)\\+[\\w+]*|Esc|Del|\\bmm\\b");
     static const QRegularExpression word("[A-Za-z]?[a-z]{2,}");
     QStringList words;
     for (const QRegularExpressionMatch& match : word.globalMatch(text.remove(known))) {

@@ -267,7 +267,7 @@ TEST_F(TextsInPlaceTest, AreTakenFromAnOfferEditedComposedAndUndone)
         return found.isEmpty() ? nullptr : found.front();
     };
     ASSERT_NE(row("Bottom bars of span 1"), nullptr);
-    EXPECT_EQ(row("Spans")->text(1), "6000 + 5700 mm");
+    EXPECT_EQ(row("Spans, mm")->text(1), "6000 + 5700");
     EXPECT_EQ(grid.currentItem(), row("Top bars at support 2"));
     EXPECT_EQ(row("Top bars at support 2")->text(1), "2B20+2B18");
     grid.setCurrentItem(row("Bottom bars of span 1"), 1);

@@ -1,0 +1,76 @@
+// Editing: data and texts in place.
+#include <optional>
+#include <utility>
+
+#include "desk/window/Ask.h"
+#include "desk/window/Editing.h"
+#include "desk/window/FieldNames.h"
+#include "desk/window/InPlaceDialog.h"
+#include "desk/window/Languages.h"
+#include "desk/window/NewNames.h"
+
+namespace Desk {
+
+void Editing::SetData(const FieldRef& owner, Datum datum, const QString& text)
+{
+    std::optional<Message> refusal;
+    bool isSame = false;
+    const auto set = [&](auto& each) {
+        const std::string before = DatumText(each, datum);
+        refusal = SetDatum(each, datum, text.trimmed().toStdString());
+        isSame = DatumText(each, datum) == before;
+    };
+    Edits edits;
+    if (owner.isWall) {
+        set(edits.walls.changed[owner.index] = m_document.Get().walls.at(owner.index));
+    } else {
+        set(edits.beams.changed[owner.index] = m_document.Get().beams.at(owner.index));
+    }
+    if (refusal) {
+        Tell(&m_window, tr("The value was not taken"), Told(*refusal));
+    }
+    if (isSame || !Do(tr("Data of %1").arg(OwnerName(m_document.Get(), owner)), std::move(edits))) {
+        m_selection.Choose(m_selection.Chosen());  // the value shows as it was
+    }
+}
+
+void Editing::AddInPlace()
+{
+    const std::optional<FieldRef> chosen = m_selection.Chosen();
+    if (!chosen || chosen->isWall) {
+        emit Said(tr("Choose a beam first"));
+        return;
+    }
+    const Beam& beam = m_document.Get().beams[chosen->index];
+    if (const std::optional<InPlace> text = AskInPlace(m_window, SpansOf(beam))) {
+        const int number = static_cast<int>(beam.inPlace.size());
+        Edits edits;
+        (edits.beams.changed[chosen->index] = beam).inPlace.push_back(*text);
+        if (Do(tr("Text in place of %1").arg(OwnerName(m_document.Get(), *chosen)), std::move(edits))) {
+            m_selection.Choose(FieldRef{false, chosen->index, RowOf(text->role).field, number});
+        }
+    }
+}
+
+void Editing::Clear()
+{
+    const std::optional<FieldRef> chosen = m_selection.Chosen();
+    if (!chosen || !m_selection.EndEdit()) {
+        return;
+    }
+    const QString what = QStringLiteral("%1, %2").arg(OwnerName(m_document.Get(), *chosen),
+                                                      FieldName(m_document.Get(), *chosen));
+    if (chosen->field == Field::Name && m_document.From() != nullptr) {
+        emit Said(tr("A label needs its name; deleting the beam removes the whole label"));
+    } else if (chosen->inPlace >= 0 && m_document.From() == nullptr) {
+        Edits edits;
+        Beam& beam = edits.beams.changed[chosen->index] = m_document.Get().beams[chosen->index];
+        beam.inPlace.erase(beam.inPlace.begin() + chosen->inPlace);
+        Do(tr("%1 removed").arg(what), std::move(edits));
+    } else {
+        m_document.SetText(*chosen, QString());
+        emit Said(tr("%1 removed").arg(what));
+    }
+}
+
+}  // namespace Desk
