@@ -68,7 +68,7 @@ void FloorView::Refresh(const FieldRef& ref)
 {
     if (OwnerItem* const item = ItemOf(ref)) {
         item->Take(*m_project);
-        Scaled();  // the text may have another length
+        m_isStale = true;  // the text may have another length
     }
 }
 
@@ -119,6 +119,7 @@ void FloorView::SetLeastTextSize(double pixels)
 
 void FloorView::Scaled()
 {
+    m_isStale = false;
     if (m_small != nullptr) {
         m_small->Choose(m_items, m_leastTextSize / transform().m11());
     }
@@ -201,8 +202,9 @@ OwnerItem* FloorView::ItemOf(const FieldRef& ref) const
 }
 
 // An annotation before a mark, both before a beam, and of two beams the one on top.
-FloorView::Hit FloorView::HitAt(const QPoint& inView) const
+FloorView::Hit FloorView::HitAt(const QPoint& inView)
 {
+    Settle();
     const QPointF at = mapToScene(inView);
     const double scale = transform().m11();
     const double reach = BodyReach / scale;
@@ -251,6 +253,19 @@ void FloorView::Hover(const Hit& hit)
     viewport()->setCursor(IsPointing() ? Qt::CrossCursor
                           : isThing    ? Qt::PointingHandCursor
                                        : Qt::ArrowCursor);
+}
+
+void FloorView::Settle()
+{
+    if (m_isStale) {
+        Scaled();
+    }
+}
+
+void FloorView::paintEvent(QPaintEvent* event)
+{
+    Settle();
+    PanView::paintEvent(event);
 }
 
 bool FloorView::viewportEvent(QEvent* event)

@@ -81,6 +81,7 @@ signals:
 
 protected:
     void Scaled() override;
+    void paintEvent(QPaintEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -97,7 +98,8 @@ private:
         [[nodiscard]] FieldRef Ref() const { return text.value_or(item->NameRef()); }
     };
 
-    [[nodiscard]] Hit HitAt(const QPoint& inView) const;
+    [[nodiscard]] Hit HitAt(const QPoint& inView);
+    void Settle();  // once for all texts that changed
     [[nodiscard]] OwnerItem* ItemOf(const FieldRef& ref) const;
     void Hover(const Hit& hit);
     void Pick(const Hit& hit);
@@ -132,6 +134,7 @@ private:
     OwnerItem* m_hovered = nullptr;
     std::optional<FieldRef> m_hoveredText;
     double m_leastTextSize = 9.0;
+    bool m_isStale = false;  // which small texts have room
     TakePoint m_pressed;
     TakePoint m_moved;
     std::optional<Drag> m_drag;

@@ -85,12 +85,12 @@ void OwnerItem::Lie(const PlanPoint& start, const PlanPoint& end)
     setRotation(DegreesOf(dx, dy));
 }
 
-std::vector<QPointF> OwnerItem::BlockPositions() const
+std::vector<QPointF> OwnerItem::BlockPositions(double away) const
 {
     const QSizeF size = BlockSize();
     const double length = m_body.length;
-    const double above = -m_body.width / 2.0 - BlockGap - TextHeight - LineStep - size.height();
-    const double below = m_body.width / 2.0 + BlockGap;
+    const double above = -m_body.width / 2.0 - BlockGap - TextHeight - LineStep - size.height() - away;
+    const double below = m_body.width / 2.0 + BlockGap + away;
     std::vector<QPointF> positions;
     for (const double top : {below, above}) {
         for (const double part : {0.5, 0.35, 0.65, 0.2, 0.8, 0.1, 0.9, 0.42, 0.58, 0.28, 0.72}) {

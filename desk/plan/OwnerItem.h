@@ -24,8 +24,9 @@ public:
     // Others before it came or went.
     void SetIndex(std::size_t index) { m_index = index; }
 
-    // Positions of the block's upper left corner beside the beam, the best first.
-    [[nodiscard]] std::vector<QPointF> BlockPositions() const;
+    // Positions of the block's upper left corner beside the beam, the best first; so many mm further away
+    // than the nearest ones.
+    [[nodiscard]] std::vector<QPointF> BlockPositions(double away = 0.0) const;
     [[nodiscard]] QSizeF BlockSize() const { return SizeOf(m_block); }
     void SetBlock(const QPointF& corner);
     [[nodiscard]] QPointF Block() const { return m_corner; }

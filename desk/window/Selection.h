@@ -23,8 +23,11 @@ public:
 
     // Chooses an annotation, as a click on it does; nothing for none.
     void Choose(const std::optional<FieldRef>& ref);
+    // Chooses it and makes it as large as is read with ease.
+    void GoTo(const std::optional<FieldRef>& ref);
     [[nodiscard]] const std::optional<FieldRef>& Chosen() const { return m_chosen; }
-    // Chooses the next text that contains the wanted one, or the previous one.
+    // Goes to the next text that contains the wanted one, or the previous one, and says which of how many
+    // it is.
     void Find(const QString& wanted, int by);
 
     // Goes to the next annotation that a text is wanted for.

@@ -879,6 +879,14 @@
         <source>Removes the chosen annotation</source>
         <translation>清除选中的标注</translation>
     </message>
+    <message>
+        <source>Find others with this &amp;text</source>
+        <translation>查找相同标注(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The next annotation with the same text</source>
+        <translation>下一个文字相同的标注</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>
@@ -1461,6 +1469,10 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>No beam lacks a text</source>
         <translation>没有缺标注的梁</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第 %1 个，共 %2 个</translation>
     </message>
 </context>
 </TS>
