@@ -188,7 +188,7 @@ TEST_F(MainWindowTest, TheSearchTellsHowManyThereAreAndGoesBackToTheDrawing)
     EXPECT_EQ(Text(*window.Chosen()), Text(Bars));
     EXPECT_TRUE(window.statusBar()->currentMessage().startsWith("2 of "));
     const QString tip = OwnerTip(window.TheDocument().Get(), {false, 0, Field::TopBars});
-    EXPECT_TRUE(tip.contains("<b>Top bars: ")) << tip.toStdString();
+    EXPECT_TRUE(tip.contains("<b>Top through bars: ")) << tip.toStdString();
     EXPECT_TRUE(tip.contains(" mm²)"));
     bool isOffered = false;
     QTimer::singleShot(0, [&] {
