@@ -4,13 +4,13 @@ _beamdesk() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]-}
   local words=
   case $previous in
-    --project | --output | -o | --report | --script)
+    --project | --output | -o | --report | --script | --csv | --pdf)
       mapfile -t COMPREPLY < <(compgen -f -- "$current")
       return
       ;;
   esac
   if [ "$COMP_CWORD" -eq 1 ]; then
-    words="tour rank propose table import set labels export hitrate panel events generate window shot --help --help-all --version"
+    words="tour rank propose table import set labels export check quantities hitrate panel events generate window shot --help --help-all --version"
   else
     case $command in
       tour) words="--project --beam" ;;
@@ -24,6 +24,8 @@ _beamdesk() {
                   leftEnd rightEnd erection torsion side" ;;
       labels) words="--json" ;;
       export) words="--output --scale --force" ;;
+      check) words="--project --off --rules --json" ;;
+      quantities) words="--project --csv --pdf --json" ;;
       hitrate) words="--project --order --json" ;;
       panel | events) words="name section elevation stirrup bars hbars vbars --do --script --to --text --kind --quiet --ids
                              --json" ;;

@@ -19,6 +19,9 @@ void AddImportCommand(CLI::App& program, std::ostream& out);
 void AddSetCommand(CLI::App& program, std::ostream& out);
 void AddLabelsCommand(CLI::App& program, std::ostream& out);
 void AddExportCommand(CLI::App& program, std::ostream& out);
+// status becomes the exit status, 1 when there are problems.
+void AddCheckCommand(CLI::App& program, std::ostream& out, int& status);
+void AddQuantitiesCommand(CLI::App& program, std::ostream& out);
 void AddHitrateCommand(CLI::App& program, std::ostream& out);
 void AddPanelCommand(CLI::App& program, std::ostream& out);
 void AddEventsCommand(CLI::App& program, std::ostream& out);

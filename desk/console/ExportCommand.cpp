@@ -59,8 +59,7 @@ void WriteDrawing(const Project& project, const ExportOptions& options, std::ost
 void RunExport(const ExportOptions& options, std::ostream& out)
 {
     RequireFree(options.target, options);
-    const Opened opened =
-        options.file.empty() ? Opened{SampleProject(), std::nullopt} : OpenFile(options.file);
+    const Opened opened = OpenInput(options.file);
     const std::string kind = LowerCaseExtension(options.target);
     if (kind == ".dxf" && opened.drawing) {
         throw Failure(options.file + ": a drawing already; copy the file");
@@ -90,16 +89,16 @@ void AddExportCommand(CLI::App& program, std::ostream& out)
         program.add_subcommand("export", "Write a project as a drawing, or a plan as PDF or SVG");
     const auto options = std::make_shared<ExportOptions>();
     command
-        ->add_option("file", options->file,
-                     "Project or drawing (.json, .dxf). Default: the embedded sample")
-        ->type_name("FILE");
+        ->add_option("FILE", options->file,
+                     "Project or drawing (.json, .dxf), - for standard input. Default: the embedded sample")
+        ->type_name("");
     command->add_option("-o,--output", options->target, "File to write: .dxf, .pdf or .svg")
         ->required()
         ->type_name("FILE")
         ->check(CheckTarget);
     command->add_option("--scale", options->scale, "Scale 1:N of a PDF or SVG. Default 100")
         ->type_name("N")
-        ->check(CLI::Range(1.0, 10000.0));
+        ->check(Decimal(1, 10'000));
     command->add_flag("--force", options->force, "Replace an existing file");
     command->footer(
         "A drawing is an ASCII DXF that other programs open: labels with their leaders, texts in place,\n"

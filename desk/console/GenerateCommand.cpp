@@ -31,8 +31,8 @@ void AddGenerateCommand(CLI::App& program, std::ostream& out)
     const auto options = std::make_shared<GenerateOptions>();
     CLI::App& command =
         *program.add_subcommand("generate", "Write a large project that looks like a real one, for trials");
-    command.add_option("beams", options->beams, "Number of beams")
-        ->type_name("N")
+    command.add_option("BEAMS", options->beams, "Number of beams")
+        ->type_name("")
         ->required()
         ->check(Whole(1, MaxBeams));
     command.add_option("--seed", options->seed, "Each number gives another project. Default 1")

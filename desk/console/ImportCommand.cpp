@@ -1,8 +1,13 @@
 // beamdesk import: a project from a drawing, or from the texts of one.
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <iostream>
+#include <iterator>
 #include <memory>
+#include <optional>
 #include <ostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -49,38 +54,49 @@ void CheckTarget(const ImportOptions& options)
     }
 }
 
-void SaveImported(const Project& project, const ImportOptions& options, std::ostream& out)
+// Standard input is read at once, to see what it is.
+struct Input {
+    std::string name;  // for messages
+    std::optional<std::string> bytes;
+};
+
+Input InputOf(const std::string& texts)
 {
-    SaveProject(project, options.project);
-    out << "\nwritten to " << options.project << ": " << Plural(project.beams.size(), "beam") << ", "
-        << Plural(project.walls.size(), "wall") << "\n";
+    if (texts != "-") {
+        return {texts, std::nullopt};
+    }
+    return {"standard input", std::string(std::istreambuf_iterator<char>(std::cin), {})};
 }
 
-// By its ending, or because it begins as drawings do: with code 0 and a section.
-bool IsDrawingFile(const fs::path& file)
+bool BeginsAsDrawing(std::istream& in)
 {
-    const std::string kind = LowerCaseExtension(file.string());
-    if (kind == ".dxf" || kind == ".dwg") {
-        return true;
-    }
-    std::ifstream in(file);
     std::string code;
     std::string value;
     return in >> code >> value && code == "0" && value == "SECTION";
 }
 
-// Open texts are in no beam, so they are listed; the project has the others.
-void ImportDrawing(const ImportOptions& options, std::ostream& out)
+// By its ending, or because it begins as drawings do: with code 0 and a section.
+bool IsDrawingFile(const Input& input)
 {
-    const Drawing drawing = Drawing::Read(options.texts);
-    const Project& project = drawing.Get();
+    if (input.bytes) {
+        std::istringstream in(input.bytes->substr(0, 1000));
+        return BeginsAsDrawing(in);
+    }
+    const std::string kind = LowerCaseExtension(input.name);
+    std::ifstream in(input.name);
+    return kind == ".dxf" || kind == ".dwg" || BeginsAsDrawing(in);
+}
+
+// Open texts are in no beam, so they are listed; the project has the others.
+void ReportDrawing(const Drawing& drawing, const std::string& name, std::ostream& out)
+{
     std::size_t open = 0;
     std::size_t inPlace = 0;
     for (const AnnotationText& text : drawing.Texts()) {
         open += text.open ? 1 : 0;
         inPlace += text.inPlace ? 1 : 0;
     }
-    out << options.texts << ": " << Plural(drawing.Texts().size(), "annotation text") << ", "
+    out << name << ": " << Plural(drawing.Texts().size(), "annotation text") << ", "
         << drawing.Texts().size() - inPlace << " in labels, " << inPlace << " in place; " << open
         << " open\n";
     for (const AnnotationText& text : drawing.Texts()) {
@@ -89,14 +105,34 @@ void ImportDrawing(const ImportOptions& options, std::ostream& out)
                 << ": " << text.open->English() << '\n';
         }
     }
-    if (project.beams.empty()) {
-        out.flush();
-        throw Failure(options.texts + ": no beam's label could be read; no project is written");
-    }
-    SaveImported(project, options, out);
 }
 
-void ImportTexts(const ImportOptions& options, std::ostream& out)
+// The report tells what was read; it comes after the project is written, and tells no success before.
+void Finish(const Project& project, bool isEmpty, const char* none, const std::string& name,
+            const std::function<void()>& report, const ImportOptions& options, std::ostream& out)
+{
+    if (isEmpty) {
+        report();
+        out.flush();
+        throw Failure(name + ": " + none + "; no project is written");
+    }
+    SaveProject(project, options.project);
+    report();
+    out << "\nwritten to " << options.project << ": " << Plural(project.beams.size(), "beam") << ", "
+        << Plural(project.walls.size(), "wall") << "\n";
+}
+
+void ImportDrawing(const Input& input, const ImportOptions& options, std::ostream& out)
+{
+    const Drawing drawing =
+        input.bytes ? Drawing::Parse(*input.bytes, input.name) : Drawing::Read(input.name);
+    const Project& project = drawing.Get();
+    Finish(
+        project, project.beams.empty(), "no beam's label could be read", input.name,
+        [&] { ReportDrawing(drawing, input.name, out); }, options, out);
+}
+
+void ImportTexts(const Input& input, const ImportOptions& options, std::ostream& out)
 {
     Choices choices;
     if (!options.grade.empty()) {
@@ -104,23 +140,22 @@ void ImportTexts(const ImportOptions& options, std::ostream& out)
         choices.stirrupGrade = options.grade.front();
     }
     choices.legs = options.legs;
+    const Encoding encoding = options.encoding == "gbk" ? Encoding::Gbk : Encoding::Utf8;
     const TextsFile file =
-        ReadTextsFile(options.texts, options.encoding == "gbk" ? Encoding::Gbk : Encoding::Utf8);
+        input.bytes ? ParseTexts(*input.bytes, input.name, encoding) : ReadTextsFile(input.name, encoding);
     const std::vector<ImportedText> texts = ReadTexts(file, choices);
-    PrintReport(out, options.texts, file, texts, choices, options.all);
-    const Project project = ProjectOf(texts, TitleFor(options.texts));
-    if (project.beams.empty() && project.walls.empty()) {
-        out.flush();
-        throw Failure(options.texts + ": no annotation could be read; no project is written");
-    }
-    SaveImported(project, options, out);
+    const Project project = ProjectOf(texts, TitleFor(input.bytes ? "import" : options.texts));
+    Finish(
+        project, project.beams.empty() && project.walls.empty(), "no annotation could be read", input.name,
+        [&] { PrintReport(out, input.name, file, texts, choices, options.all); }, options, out);
 }
 
 void RunImport(const ImportOptions& options, const std::vector<CLI::Option*>& ofTexts, std::ostream& out)
 {
     CheckTarget(options);
-    if (!IsDrawingFile(options.texts)) {
-        ImportTexts(options, out);
+    const Input input = InputOf(options.texts);
+    if (!IsDrawingFile(input)) {
+        ImportTexts(input, options, out);
         return;
     }
     for (const CLI::Option* const option : ofTexts) {
@@ -128,7 +163,7 @@ void RunImport(const ImportOptions& options, const std::vector<CLI::Option*>& of
             throw CLI::ValidationError(option->get_name() + " is for files of texts, not for drawings");
         }
     }
-    ImportDrawing(options, out);
+    ImportDrawing(input, options, out);
 }
 
 }  // namespace
@@ -138,9 +173,9 @@ void AddImportCommand(CLI::App& program, std::ostream& out)
     CLI::App* const command = program.add_subcommand(
         "import", "Make a project from a drawing, or from the texts of one, one a line");
     const auto options = std::make_shared<ImportOptions>();
-    command->add_option("TEXTS", options->texts, "Drawing (.dxf), or file of texts")
+    command->add_option("TEXTS", options->texts, "Drawing (.dxf), or file of texts; - reads standard input")
         ->required()
-        ->option_text("FILE");
+        ->type_name("");
     command->add_option("-o,--output", options->project, "Project file to write")
         ->required()
         ->type_name("FILE");

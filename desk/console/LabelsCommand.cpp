@@ -1,5 +1,4 @@
 // beamdesk labels: the annotations of a drawing, and which beam each belongs to.
-#include <algorithm>
 #include <map>
 #include <memory>
 #include <ostream>
@@ -43,25 +42,6 @@ void PrintLabelsJson(const Drawing& drawing, std::ostream& out)
 
 using Row = std::vector<std::string>;
 
-// Columns as wide as what they hold.
-void PrintRows(const std::vector<Row>& rows, std::ostream& out)
-{
-    std::vector<int> widths;
-    for (const Row& row : rows) {
-        widths.resize(std::max(widths.size(), row.size()));
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            widths[i] = std::max(widths[i], DisplayWidth(row[i]));
-        }
-    }
-    for (const Row& row : rows) {
-        std::string line;
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            line += "  " + (i + 1 < row.size() ? PadRight(row[i], widths[i]) : row[i]);
-        }
-        out << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
-    }
-}
-
 void PrintLabels(const Drawing& drawing, std::ostream& out)
 {
     std::vector<Row> rows{{"handle", "position", "role", "beam", "text"}};
@@ -99,14 +79,14 @@ void AddLabelsCommand(CLI::App& program, std::ostream& out)
         "labels", "List the annotations of a drawing with the beam that each belongs to");
     const auto file = std::make_shared<std::string>();
     const auto json = std::make_shared<bool>(false);
-    command->add_option("file", *file, "The drawing")->required()->type_name("FILE");
+    command->add_option("FILE", *file, "The drawing; - reads standard input")->required()->type_name("");
     command->add_flag("--json", *json, "Print JSON for programs");
     command->footer(
         "Each text has its handle, its position in mm, its role and its beam. A text for which nothing\n"
         "tells for certain which beam it belongs to is open, and listed with the reason.\n\n"
         "Examples:\n  beamdesk labels floor.dxf\n  beamdesk labels floor.dxf --json");
     command->callback([file, json, &out] {
-        const Opened opened = OpenFile(*file);
+        const Opened opened = OpenInput(*file);
         if (!opened.drawing) {
             throw Failure(*file + ": a project file; labels are those of a drawing");
         }

@@ -93,7 +93,8 @@ int RunDesk(int argc, char** argv)
                    "  beamdesk rank name --project tower.json\n"
                    "  beamdesk set --project floor.dxf --beam KL2 topBars 2B25\n"
                    "  beamdesk table bars --width 300 --area 1000\n\n"
-                   "Exit status: 0 on success, 2 for wrong usage and every failure.");
+                   "Exit status: 0 on success, 1 for a check that finds problems, 2 for wrong usage and "
+                   "every failure.");
 
     Desk::AddTourCommand(program, std::cout);
     Desk::AddRankCommand(program, std::cout);
@@ -103,6 +104,9 @@ int RunDesk(int argc, char** argv)
     Desk::AddSetCommand(program, std::cout);
     Desk::AddLabelsCommand(program, std::cout);
     Desk::AddExportCommand(program, std::cout);
+    int status = 0;
+    Desk::AddCheckCommand(program, std::cout, status);
+    Desk::AddQuantitiesCommand(program, std::cout);
     Desk::AddHitrateCommand(program, std::cout);
     Desk::AddPanelCommand(program, std::cout);
     Desk::AddEventsCommand(program, std::cout);
@@ -126,7 +130,7 @@ int RunDesk(int argc, char** argv)
     if (!std::cout.flush()) {
         throw Desk::Failure("the output could not be written");
     }
-    return 0;
+    return status;
 }
 
 }  // namespace

@@ -15,6 +15,9 @@ void AddProjectOption(CLI::App& command, std::string& file);
 // Accepts whole numbers inside the range only.
 [[nodiscard]] CLI::Validator Whole(int least, int most);
 
+// Accepts numbers inside the range only, with decimals or without.
+[[nodiscard]] CLI::Validator Decimal(int least, int most);
+
 // ".dxf" of "Floor.DXF".
 [[nodiscard]] std::string LowerCaseExtension(const std::string& file);
 

@@ -18,8 +18,8 @@ void AddOptions(CLI::App& form, DriveOptions& options)
     form.add_flag("--quiet", options.quiet, "Print what was delivered and the panel at the end");
 }
 
-void Print(const std::string& heading, Run& run, const std::vector<Step>& steps,
-           const DriveOptions& options, std::ostream& out)
+void PrintPanel(const std::string& heading, Run& run, const std::vector<Step>& steps,
+                const DriveOptions& options, std::ostream& out)
 {
     Picture last = run.Now();
     const bool withIds = options.withIds || steps.empty();
@@ -44,12 +44,12 @@ void Print(const std::string& heading, Run& run, const std::vector<Step>& steps,
     }
 }
 
-constexpr Driving Command = {
+constexpr Driving PanelDriving = {
     "panel", "Drive a pop-up panel or picker by mouse and keys and print it after each step", false,
-    &AddOptions, &Print};
+    &AddOptions, &PrintPanel};
 
 }  // namespace
 
-void AddPanelCommand(CLI::App& program, std::ostream& out) { AddDriving(program, Command, out); }
+void AddPanelCommand(CLI::App& program, std::ostream& out) { AddDriving(program, PanelDriving, out); }
 
 }  // namespace Desk

@@ -72,6 +72,24 @@ void PrintJson(const nlohmann::ordered_json& json, std::ostream& out)
     out << json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
 }
 
+void PrintRows(const std::vector<std::vector<std::string>>& rows, std::ostream& out)
+{
+    std::vector<int> widths;
+    for (const std::vector<std::string>& row : rows) {
+        widths.resize(std::max(widths.size(), row.size()));
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            widths[i] = std::max(widths[i], DisplayWidth(row[i]));
+        }
+    }
+    for (const std::vector<std::string>& row : rows) {
+        std::string line;
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            line += "  " + (i + 1 < row.size() ? PadRight(row[i], widths[i]) : row[i]);
+        }
+        out << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
+    }
+}
+
 std::string Position(const PlanPoint& at)
 {
     return std::to_string(std::llround(at.x)) + "," + std::to_string(std::llround(at.y));

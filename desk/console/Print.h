@@ -4,6 +4,7 @@
 #include <iosfwd>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <nlohmann/json_fwd.hpp>
 
@@ -32,6 +33,9 @@ template <class Items, class Name>
     }
     return joined;
 }
+
+// Columns as wide as what they hold.
+void PrintRows(const std::vector<std::vector<std::string>>& rows, std::ostream& out);
 
 // "8400,-1200": to the millimetre.
 [[nodiscard]] std::string Position(const PlanPoint& at);

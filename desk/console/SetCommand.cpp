@@ -20,10 +20,7 @@
 #include "desk/project/FindBeam.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/project/SafeFile.h"
-#include "desk/reading/Bars.h"
-#include "desk/reading/BeamName.h"
-#include "desk/reading/Section.h"
-#include "desk/reading/Stirrup.h"
+#include "desk/reading/Annotation.h"
 
 namespace Desk {
 
@@ -49,20 +46,6 @@ void RequireText(const std::string& text)
     }
     if (!GbkFromUtf8(text)) {
         throw Failure("the text is no UTF-8 or holds a character that GBK does not have");
-    }
-}
-
-// Whether the text is in the grammar of the field; an empty one is.
-bool IsOfField(const std::string& text, const FieldRow& row)
-{
-    const bool hasHead = *row.heads == '\0' || !HeadOf(text, row.heads).empty();
-    switch (row.ranker) {
-    case Ranker::Names: return ReadName(text).has_value();
-    case Ranker::Sections: return ReadSection(text).has_value();
-    case Ranker::Elevations: return ReadElevation(text).has_value();
-    case Ranker::Stirrups: return ReadStirrup(text).has_value();
-    case Ranker::Bars: return hasHead && ReadBars(text).has_value();
-    default: return true;
     }
 }
 
@@ -153,7 +136,7 @@ void RunSet(const SetOptions& options, std::ostream& out)
     const std::string name = opened.project.beams[ref.index].name;
     out << name << ' ' << options.field << ": " << Visible(before)
         << (before == options.text ? ", as it is" : " -> " + Visible(options.text)) << '\n';
-    if (!options.text.empty() && !IsOfField(options.text, RowOf(ref.field))) {
+    if (!IsOfField(options.text, ref.field)) {
         out.flush();
         std::cerr << "note: " << Quoted(options.text) << " is not what " << options.field
                   << " texts look like; it was written all the same\n";

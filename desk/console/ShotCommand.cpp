@@ -16,12 +16,12 @@ void AddShotCommand(CLI::App& program)
     const auto options = std::make_shared<ShotOptions>();
     CLI::App& command = *program.add_subcommand(
         "shot", "Save pictures of the window, the panels and the pickers as PNG files");
-    command.add_option("folder", *folder, "Folder for the pictures; it is made if missing")
-        ->type_name("DIR")
+    command.add_option("FOLDER", *folder, "Folder for the pictures; it is made if missing")
+        ->type_name("")
         ->required();
     AddProjectOption(command, options->project);
     command.add_option("--scale", options->scale, "Device pixels per pixel")
-        ->check(CLI::Range(1.0, 4.0))
+        ->check(Decimal(1, 4))
         ->capture_default_str();
     command.add_flag("--dark", options->dark, "In dark colours");
     command.add_flag("--chinese", options->chinese, "With the Chinese interface");

@@ -21,7 +21,7 @@ namespace Desk {
 
 namespace {
 
-constexpr int Columns = 3;
+constexpr int TourColumns = 3;
 constexpr int ColumnWidth = 27;  // three of them fill a line of 80
 constexpr std::size_t Rows = 5;  // candidates of a list
 
@@ -130,10 +130,10 @@ std::vector<std::string> Lines(const List& list)
 
 void PrintSideBySide(const std::vector<List>& lists, std::ostream& out)
 {
-    for (std::size_t from = 0; from < lists.size(); from += Columns) {
+    for (std::size_t from = 0; from < lists.size(); from += TourColumns) {
         std::vector<std::vector<std::string>> columns;
         std::size_t height = 0;
-        for (std::size_t i = from; i < std::min(from + Columns, lists.size()); ++i) {
+        for (std::size_t i = from; i < std::min(from + TourColumns, lists.size()); ++i) {
             columns.push_back(Lines(lists[i]));
             height = std::max(height, columns.back().size());
         }

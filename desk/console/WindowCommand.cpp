@@ -16,7 +16,7 @@ void AddWindowCommand(CLI::App& program)
     const auto report = std::make_shared<std::string>();
     CLI::App& command = *program.add_subcommand("window", "Open the drafting desk in a window");
     AddProjectOption(command, *project);
-    command.add_option("file", *project, "The same as --project FILE")->type_name("FILE");
+    command.add_option("FILE", *project, "The same as --project FILE")->type_name("");
     command
         .add_option("--report", *report, "Keep a JSON file up to date with what the window shows and where")
         ->type_name("FILE");

@@ -1,6 +1,8 @@
 #include "desk/drawing/Drawing.h"
 
 #include <algorithm>
+#include <iostream>
+#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -75,6 +77,7 @@ std::string Drawing::CompanionOf(const Project& edited)
     kept.axesAcross = edited.axesAcross;
     kept.axesUp = edited.axesUp;
     kept.pointed = edited.pointed;
+    kept.checksOff = edited.checksOff;
     kept.inFile = edited.inFile;
     const Beam usual;
     const auto isUsual = [&usual](const Beam& beam) {
@@ -99,7 +102,8 @@ std::string Drawing::CompanionOf(const Project& edited)
         each.floor = beam.floor;
     }
     const bool isEmpty = kept.title.empty() && kept.walls.empty() && kept.axesAcross.empty() &&
-                         kept.axesUp.empty() && kept.pointed.empty() && kept.beams.empty();
+                         kept.axesUp.empty() && kept.pointed.empty() && kept.checksOff.empty() &&
+                         kept.beams.empty();
     return isEmpty ? std::string() : FormatProject(kept);
 }
 
@@ -222,9 +226,24 @@ Opened OpenFile(const std::filesystem::path& file)
     return {std::move(project), std::move(drawing)};
 }
 
-Project OpenProject(const std::string& file)
+Opened OpenInput(const std::string& file)
 {
-    return file.empty() ? SampleProject() : OpenFile(file).project;
+    if (file.empty()) {
+        return {SampleProject(), std::nullopt};
+    }
+    if (file != "-") {
+        return OpenFile(file);
+    }
+    const std::string name = "standard input";
+    std::string bytes(std::istreambuf_iterator<char>(std::cin), {});
+    if (!IsDrawing(bytes)) {
+        return {ParseProject(bytes, name), std::nullopt};
+    }
+    Drawing drawing = Drawing::Parse(std::move(bytes), name);
+    Project project = drawing.Get();
+    return {std::move(project), std::move(drawing)};
 }
+
+Project OpenProject(const std::string& file) { return OpenInput(file).project; }
 
 }  // namespace Desk

@@ -92,7 +92,8 @@ struct Opened {
     std::optional<Drawing> drawing;
 };
 [[nodiscard]] Opened OpenFile(const std::filesystem::path& file);
-// The project of a file of either kind, the sample for an empty name.
+// The same for what a command is given: the sample for an empty name, standard input for "-".
+[[nodiscard]] Opened OpenInput(const std::string& file);
 [[nodiscard]] Project OpenProject(const std::string& file);
 
 }  // namespace Desk

@@ -56,6 +56,7 @@ public:
         m_parts->project.axesAcross = std::move(m_kept.axesAcross);
         m_parts->project.axesUp = std::move(m_kept.axesUp);
         m_parts->project.pointed = std::move(m_kept.pointed);
+        m_parts->project.checksOff = std::move(m_kept.checksOff);
         m_parts->project.inFile = m_kept.inFile;
         ListTexts();
         AddBeams();
@@ -309,6 +310,7 @@ void SetAxis(Beam& beam, const OwnerBeam& owner, double unit)
     beam.start = owner.frame.At(owner.supports.front(), owner.axis);
     beam.end = owner.frame.At(owner.supports.back(), owner.axis);
     beam.spans.clear();
+    beam.drawnWidth = owner.run ? std::round(owner.width / unit * 10.0) / 10.0 : 0.0;
     if (owner.run) {
         for (std::size_t i = 1; i < owner.supports.size(); ++i) {
             beam.spans.push_back((owner.supports[i] - owner.supports[i - 1]) / unit);

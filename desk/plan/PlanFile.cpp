@@ -52,6 +52,8 @@ QSizeF PaperFor(const QSizeF& plan)
     return needed;
 }
 
+QString Escaped(const std::string& text) { return QString::fromStdString(text).toHtmlEscaped(); }
+
 void Paint(QPaintDevice& device, QGraphicsScene& scene, const QRectF& shown, const QSizeF& paper,
            double scale)
 {
@@ -146,6 +148,41 @@ double PrintPlan(const Project& project, const Backdrop* behind, QPagedPaintDevi
                          (painter.viewport().height() - size.height()) / 2.0);
     scene.render(&painter, QRectF(corner, size), shown);
     return scale;
+}
+
+void WriteTables(const std::string& title, const std::vector<std::vector<std::vector<std::string>>>& tables,
+                 const std::vector<std::string>& notes, const std::filesystem::path& file)
+{
+    const WithApplication application;
+    QString html = QStringLiteral("<h3>%1</h3>").arg(Escaped(title));
+    for (const std::vector<std::vector<std::string>>& rows : tables) {
+        html += QLatin1String("<table cellpadding='3'>");
+        for (const std::vector<std::string>& row : rows) {
+            html += QLatin1String("<tr>");
+            const bool isHead = &row == &rows.front() && row.size() > 2;
+            for (const std::string& cell : row) {
+                html += QStringLiteral("<%1 align='%2'>%3</%1>")
+                            .arg(isHead ? QLatin1String("th") : QLatin1String("td"),
+                                 &cell == &row.front() ? QLatin1String("left") : QLatin1String("right"),
+                                 Escaped(cell));
+            }
+            html += QLatin1String("</tr>");
+        }
+        html += QLatin1String("</table><br>");
+    }
+    for (const std::string& note : notes) {
+        html += QStringLiteral("<p>%1</p>").arg(Escaped(note));
+    }
+    QTextDocument document;
+    document.setDefaultFont(QFont(document.defaultFont().family(), 8));
+    document.setHtml(html);
+    QBuffer made;
+    made.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&made);
+    writer.setTitle(QString::fromStdString(title));
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    document.print(&writer);
+    ReplaceFile(file, made.data().toStdString());
 }
 
 }  // namespace Desk

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
+#include <vector>
 
 #include "desk/Toolkit.h"
 
@@ -19,5 +21,10 @@ void WritePlan(const Project& project, const Backdrop* behind, const std::filesy
 // Draws the same plan in the middle of a page, at 1:100 or the first smaller usual scale that it fits on
 // the page with. Answers the N of 1:N, 0 when the device takes nothing.
 double PrintPlan(const Project& project, const Backdrop* behind, QPagedPaintDevice& device);
+
+// Tables, whose first row is their headings where they have more than two columns, and sentences under them
+// on upright A4 sheets, as PDF. Throws Failure when the file cannot be written.
+void WriteTables(const std::string& title, const std::vector<std::vector<std::vector<std::string>>>& tables,
+                 const std::vector<std::string>& notes, const std::filesystem::path& file);
 
 }  // namespace Desk

@@ -1,5 +1,6 @@
 #include "desk/project/Generate.h"
 
+#include <map>
 #include <random>
 
 #include "desk/project/ProjectFile.h"
@@ -14,6 +15,9 @@ constexpr double FloorStep = 90'000.0;  // mm from floor to floor
 constexpr int FloorsInARow = 10;
 constexpr int BeamsOfAFloor = 2 * (Spans + 1) * Spans;
 
+std::string TypeOf(const Beam& beam) { return beam.name.substr(0, beam.name.find_first_of("0123456789")); }
+std::string WidthIn(const Beam& beam) { return beam.section.substr(0, beam.section.find('x')); }
+
 // Numbers that do not depend on a library's distributions.
 class Draw {
 public:
@@ -23,6 +27,18 @@ public:
     const T& From(const std::vector<T>& all)
     {
         return all[Below(all.size())];
+    }
+
+    // Of the beams with the type and the width.
+    std::string Stirrup(const std::vector<Beam>& all, const Beam& beam)
+    {
+        std::vector<const Beam*> like;
+        for (const Beam& other : all) {
+            if (TypeOf(other) == TypeOf(beam) && WidthIn(other) == WidthIn(beam)) {
+                like.push_back(&other);
+            }
+        }
+        return From(like)->stirrup;
     }
 
 private:
@@ -49,15 +65,19 @@ Project GenerateProject(int beams, unsigned seed)
     const Project sample = SampleProject();
     Draw draw(seed);
     Project project;
+    std::map<std::string, int> serials;  // of the floor, by type
     project.title = "Generated, " + std::to_string(beams) + " beams";
     for (int i = 0; i < beams; ++i) {
         Beam beam = draw.From(sample.beams);
         beam.inFile = nullptr;
-        // Bars follow the section; the rest is drawn for itself, as designers mix it.
-        beam.stirrup = draw.From(sample.beams).stirrup;
+        // Bars follow the section, stirrups its width; elevations are drawn for themselves.
+        const std::string type = TypeOf(beam);
+        beam.stirrup = draw.Stirrup(sample.beams, beam);
         beam.elevation = draw.From(sample.beams).elevation;
-        const std::string type = beam.name.substr(0, beam.name.find_first_of("0123456789"));
-        beam.name = type + std::to_string(i % BeamsOfAFloor + 1) + "(1)";
+        if (i % BeamsOfAFloor == 0) {
+            serials.clear();
+        }
+        beam.name = type + std::to_string(++serials[type]) + "(1)";
         beam.floor = std::to_string(i / BeamsOfAFloor + 1);
         PlaceOnGrid(i, beam.start, beam.end);
         project.beams.push_back(std::move(beam));

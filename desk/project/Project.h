@@ -69,6 +69,7 @@ struct Beam {
     PlanPoint end;
     std::vector<double> spans;      // lengths in mm from the start, one span at least; empty when not known
     std::vector<InPlace> inPlace;   // in the order in which they were read
+    double drawnWidth = 0.0;        // of its outline in mm; 0 where no drawing tells
     int plan = 0;                   // of those side by side in its drawing, from 1; 0 without a drawing
     std::vector<TextPlace> places;  // of its texts, parallel to BeamFields(); empty without a drawing
     InFile inFile;
@@ -99,6 +100,7 @@ struct Project {
     std::vector<Axis> axesUp;      // those that cross y, from below
     // Texts of a drawing whose beam a person has pointed to: handle, and a position on that beam.
     std::map<std::string, PlanPoint> pointed;
+    std::vector<std::string> checksOff;  // keys of the rules that are not checked, as the file has them
     InFile inFile;
 };
 

@@ -48,6 +48,7 @@ inline constexpr DataField<Beam, PlanPoint> BeamPoints[] = {
     {"start", &Beam::start, -PlanLimit, PlanLimit},
     {"end", &Beam::end, -PlanLimit, PlanLimit},
 };
+inline constexpr DataField<Beam, double> BeamLengths[] = {{"drawnWidth", &Beam::drawnWidth, 0, PlanLimit}};
 inline constexpr DataField<TextPlace, PlanPoint> PlacePoints[] = {
     {"at", &TextPlace::at, -PlanLimit, PlanLimit}};
 inline constexpr DataField<TextPlace, double> PlaceNumbers[] = {

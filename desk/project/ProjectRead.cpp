@@ -47,6 +47,7 @@ public:
         project.axesAcross = ReadAxes(source, "x");
         project.axesUp = ReadAxes(source, "y");
         ReadPointed(source, project.pointed);
+        ReadChecksOff(source, project.checksOff);
         project.inFile = Keep(std::move(source));
         return project;
     }
@@ -242,6 +243,21 @@ private:
         }
     }
 
+    void ReadChecksOff(const Json& source, std::vector<std::string>& off) const
+    {
+        const Json* const list = Member(source, "checksOff");
+        if (list == nullptr) {
+            return;
+        }
+        const Path path = Path() / "checksOff";
+        if (!list->is_array()) {
+            FailType(path, Phrase("Desk", "a list"), *list);
+        }
+        for (std::size_t i = 0; i < list->size(); ++i) {
+            off.push_back(ReadText((*list)[i], path / i, false));
+        }
+    }
+
     Role ReadRole(const Json& source, const Path& path) const
     {
         const Json* const value = Member(source, "role");
@@ -308,6 +324,7 @@ Beam Reader::ReadItem(Json&& source, const Path& path) const
         ReadData(*area, path / "area", AreaNumbers, beam.area);
     }
     ReadData(source, path, BeamPoints, beam);
+    ReadData(source, path, BeamLengths, beam);
     ReadSpans(source, path, beam.spans);
     ReadList(source, path, "inPlace", beam.inPlace);
     beam.inFile = Keep(std::move(source));

@@ -102,6 +102,7 @@ Json Written(const Beam& beam)
         source["area"] = std::move(area);
     }
     WriteData(beam, BeamPoints, source);
+    WriteData(beam, BeamLengths, source);
     if (SpansIn(source) != beam.spans) {
         source["spans"] = Json::array();
         std::transform(beam.spans.begin(), beam.spans.end(), std::back_inserter(source["spans"]),
@@ -185,6 +186,9 @@ std::string FormatProject(const Project& project)
     WriteList(project.beams, source["beams"]);
     WriteList(project.walls, source["walls"]);
     WritePointed(project.pointed, source);
+    if (!project.checksOff.empty() || source.contains("checksOff")) {
+        source["checksOff"] = project.checksOff;
+    }
     try {
         return WriteJson(source);
     } catch (const nlohmann::json::exception&) {

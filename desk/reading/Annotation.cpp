@@ -1,7 +1,11 @@
 // The words for fields, kinds and what was filled in.
 #include "desk/reading/Annotation.h"
 
+#include "desk/reading/Bars.h"
+#include "desk/reading/BeamName.h"
 #include "desk/reading/ReadText.h"
+#include "desk/reading/Section.h"
+#include "desk/reading/Stirrup.h"
 
 namespace Desk {
 
@@ -16,6 +20,43 @@ std::string PlainFieldName(Field field)
     std::string name = RowOf(field).english;
     name.front() = static_cast<char>(name.front() - 'A' + 'a');
     return name;
+}
+
+bool IsOfField(std::string_view text, Field field)
+{
+    const FieldRow& row = RowOf(field);
+    if (text.empty()) {
+        return true;
+    }
+    switch (row.ranker) {
+    case Ranker::Names: return ReadNameInAnyCase(text).has_value();
+    case Ranker::Sections: return ReadSection(text).has_value();
+    case Ranker::Elevations: return ReadElevation(text).has_value();
+    case Ranker::Stirrups: return ReadStirrup(text).has_value();
+    case Ranker::Bars: {
+        const std::optional<Bars> bars = ReadBars(text);
+        return bars && (*row.heads == '\0' ? bars->head == '\0' : !HeadOf(text, row.heads).empty());
+    }
+    case Ranker::OtherWalls:  // a picker composes vertical bars without spacing: B28
+        return ReadStirrup(text).has_value() || ReadBars("1" + std::string(text)).has_value();
+    case Ranker::None: break;
+    }
+    return true;
+}
+
+const char* ExampleOf(Field field)
+{
+    switch (field) {
+    case Field::Name: return "KL1(3)";
+    case Field::Section: return "300x600";
+    case Field::Elevation: return "-0.050";
+    case Field::Stirrup: return "A8@100/200(2)";
+    case Field::Torsion: return "N4B12";
+    case Field::Side: return "G4B12";
+    case Field::HorizontalBars:
+    case Field::VerticalBars: return "B10@150";
+    default: return "2B25";
+    }
 }
 
 std::string FilledWords(Filled filled, const Choices& choices)

@@ -16,6 +16,11 @@ namespace Desk {
 // text says of itself.
 [[nodiscard]] std::string PlainFieldName(Field field);
 
+// The text is in the grammar of the field; an empty one is.
+[[nodiscard]] bool IsOfField(std::string_view text, Field field);
+// A text of the field, for messages.
+[[nodiscard]] const char* ExampleOf(Field field);
+
 struct Annotation {
     Field field = Field::Name;
     std::string text;

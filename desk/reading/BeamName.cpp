@@ -1,6 +1,7 @@
 #include "desk/reading/BeamName.h"
 
 #include <algorithm>
+#include <set>
 
 #include "desk/reading/Cursor.h"
 
@@ -94,5 +95,14 @@ std::optional<BeamName> ReadName(Cursor& at)
 }
 
 std::optional<BeamName> ReadName(std::string_view text) { return ReadWhole<BeamName>(text, ReadName); }
+
+std::optional<BeamName> ReadNameInAnyCase(std::string_view text)
+{
+    Cursor at(text);
+    std::optional<BeamName> name = ReadName(at);
+    at.SkipBlank();
+    const bool isWhole = at.AtEnd() && (at.Marks().empty() || at.Marks() == std::set{Filled::NameCase});
+    return isWhole ? name : std::nullopt;
+}
 
 }  // namespace Desk

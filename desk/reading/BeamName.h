@@ -27,5 +27,7 @@ struct BeamName {
 [[nodiscard]] std::optional<BeamName> ReadName(Cursor& at);
 // A whole name, as the module knows it.
 [[nodiscard]] std::optional<BeamName> ReadName(std::string_view text);
+// A whole name as drawings have it: lower case as in KL13a and LLk3 as well.
+[[nodiscard]] std::optional<BeamName> ReadNameInAnyCase(std::string_view text);
 
 }  // namespace Desk

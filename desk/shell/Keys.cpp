@@ -57,7 +57,7 @@ bool IsRightPress(const QKeyEvent& key)
     case Qt::Key_Menu: return true;
     case Qt::Key_F10: return key.modifiers().testFlag(Qt::ShiftModifier);
     case Qt::Key_Return:
-    case Qt::Key_Enter: return key.modifiers().testFlag(Qt::ControlModifier);
+    case Qt::Key_Enter: return (key.modifiers() & (Qt::ShiftModifier | Qt::AltModifier)) == Qt::NoModifier;
     default: return false;
     }
 }

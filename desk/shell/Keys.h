@@ -12,7 +12,7 @@ namespace Desk {
 // A line edit handles the key itself: letters, caret, deletion, clipboard.
 [[nodiscard]] bool IsForLineEdit(const QKeyEvent& key);
 
-// The keys that replace the right button: the menu key, Shift+F10, Ctrl+Enter.
+// The keys that replace the right button: Enter, Ctrl+Enter, the menu key, Shift+F10.
 [[nodiscard]] bool IsRightPress(const QKeyEvent& key);
 
 }  // namespace Desk

@@ -131,6 +131,9 @@ private:
     bool m_isFirst = true;
 };
 
+// Whether a click on a row of a list would choose it now, as the list's panel stands.
+[[nodiscard]] bool CanChoose(const CListBox& list, int row);
+
 // A panel or picker by the id of its template; null for any other id. As<Dialog> is the class that is made
 // for one of the module's classes, from the arguments.
 template <template <class> class As = std::type_identity_t, class... Arguments>

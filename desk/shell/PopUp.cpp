@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "desk/shell/Panel.h"
 #include "desk/shell/QtDisplay.h"
 #include "platform/windows/CWnd.h"
 #include "platform/windows/Events.h"
@@ -13,17 +14,25 @@ namespace {
 constexpr int FontHeight = 12;     // of a 9-point font
 constexpr int ScrollBarWidth = 6;  // pixels of the window layer
 
+bool IsDimmed(HWND list, int row)
+{
+    const auto* const box = dynamic_cast<const CListBox*>(CWnd::FromHandle(list));
+    return box != nullptr && !CanChoose(*box, row);
+}
+
 // Rows of one height, filled whole when selected.
 class RowDelegate : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    RowDelegate(HWND list, QObject* parent) : QStyledItemDelegate(parent), m_list(list) {}
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override
     {
         const bool selected = option.state.testFlag(QStyle::State_Selected);
         const QPalette::ColorGroup group =
-            option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
+            option.state.testFlag(QStyle::State_Enabled) && !IsDimmed(m_list, index.row())
+                ? QPalette::Active
+                : QPalette::Disabled;
         if (selected) {
             painter->fillRect(option.rect, option.palette.brush(group, QPalette::Highlight));
         }
@@ -37,6 +46,9 @@ public:
     {
         return index.data(Qt::SizeHintRole).toSize();
     }
+
+private:
+    HWND m_list;
 };
 
 }  // namespace
@@ -44,7 +56,7 @@ public:
 ListWidget::ListWidget(HWND list, QWidget* parent) : QListView(parent), m_list(list)
 {
     setModel(new QStandardItemModel(this));
-    setItemDelegate(new RowDelegate(this));
+    setItemDelegate(new RowDelegate(list, this));
     setFrameShape(QFrame::NoFrame);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::SingleSelection);
@@ -133,26 +145,38 @@ void ListWidget::TakeTop(const WindowRecord& list)
 void ListWidget::paintEvent(QPaintEvent* event)
 {
     QListView::paintEvent(event);
+    QPainter painter(viewport());
+    if (m_isMultiColumn && !Bar().isVisible()) {
+        PaintCountsOutOfView(painter);
+    }
     if (hasFocus()) {
-        QPainter painter(viewport());
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
     }
 }
 
-Surface::Surface(QWidget* owner) : QWidget(owner, Qt::Tool | Qt::FramelessWindowHint)
+// How many pieces are before and after those in view, over the rest of a column at the right.
+void ListWidget::PaintCountsOutOfView(QPainter& painter) const
 {
-    setObjectName("panel");
-    setFocusPolicy(Qt::StrongFocus);
-    setContextMenuPolicy(Qt::PreventContextMenu);
-    setAutoFillBackground(true);
-}
-
-void Surface::paintEvent(QPaintEvent* /*event*/)
-{
-    QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    const WindowRecord* const list = FindWindowRecord(m_list);
+    const int before = list != nullptr ? list->list.top : 0;
+    const int after = list != nullptr ? list->RowCount() - before - list->RowsInView() : 0;
+    if (before <= 0 && after <= 0) {
+        return;
+    }
+    QStringList counts;
+    if (before > 0) {
+        counts << QStringLiteral("\u2039%1").arg(before);
+    }
+    if (after > 0) {
+        counts << QStringLiteral("%1\u203A").arg(after);
+    }
+    const QString text = counts.join(QLatin1Char(' '));
+    QRect chip = viewport()->rect();
+    chip.setLeft(chip.right() - painter.fontMetrics().horizontalAdvance(text) - 4);
+    painter.fillRect(chip, palette().brush(QPalette::Button));
+    painter.setPen(palette().color(QPalette::ButtonText));
+    painter.drawText(chip, Qt::AlignCenter, text);
 }
 
 QString Shown(const CString& text) { return QString::fromStdString(Texts().utf8FromGbk(text)); }
@@ -162,13 +186,13 @@ int CaretInWidget(const WindowRecord& box)
     return static_cast<int>(Shown(box.text.Left(box.caret)).size());
 }
 
-QWidget* MakeControl(const WindowRecord& control, QWidget* surface)
+QWidget* MakeControl(const WindowRecord& control, QWidget* panel)
 {
     QWidget* made = nullptr;
     switch (control.kind) {
-    case WindowKind::ListBox: made = new ListWidget(control.handle, surface); break;
+    case WindowKind::ListBox: made = new ListWidget(control.handle, panel); break;
     case WindowKind::EditBox: {
-        auto* const line = new QLineEdit(surface);
+        auto* const line = new QLineEdit(panel);
         line->setFrame(false);
         line->setTextMargins(0, 0, 0, 0);
         if (Has(control.style, ControlStyle::AlignRight)) {
@@ -179,13 +203,13 @@ QWidget* MakeControl(const WindowRecord& control, QWidget* surface)
         break;
     }
     case WindowKind::Button: {
-        auto* const button = new QPushButton(surface);
+        auto* const button = new QPushButton(panel);
         button->setAutoDefault(false);
         made = button;
         break;
     }
     default: {
-        auto* const label = new QLabel(surface);
+        auto* const label = new QLabel(panel);
         label->setAlignment((Has(control.style, ControlStyle::AlignCenter)  ? Qt::AlignHCenter
                              : Has(control.style, ControlStyle::AlignRight) ? Qt::AlignRight
                                                                             : Qt::AlignLeft) |

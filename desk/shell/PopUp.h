@@ -1,4 +1,4 @@
-// The widgets of one pop-up, built from its record and kept equal to it.
+// The controls of a pop-up, built from their records and kept equal to them.
 #pragma once
 
 #include "desk/shell/Scale.h"
@@ -6,7 +6,8 @@
 
 namespace Desk {
 
-// A list box: shows the record's rows; the window layer handles the mouse.
+// A list box: shows the record's rows, dimmed those that cannot be chosen now; the window layer handles the
+// mouse.
 class ListWidget : public QListView {
     Q_OBJECT
 
@@ -22,29 +23,19 @@ protected:
 
 private:
     [[nodiscard]] QScrollBar& Bar() const;
+    void PaintCountsOutOfView(QPainter& painter) const;
 
     HWND m_list;
     bool m_isMultiColumn = false;
     bool m_isMirroring = false;
 };
 
-// A pop-up's surface with a thin border inside its edge.
-class Surface : public QWidget {
-    Q_OBJECT
-
-public:
-    explicit Surface(QWidget* owner);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-};
-
 // The text of an edit box as Unicode, and its caret as a position in that.
 [[nodiscard]] QString Shown(const CString& text);
 [[nodiscard]] int CaretInWidget(const WindowRecord& box);
 
-// A widget for a control, inside its pop-up's surface, equal to its record.
-[[nodiscard]] QWidget* MakeControl(const WindowRecord& control, QWidget* surface);
+// A widget for a control, inside its pop-up's panel, equal to its record.
+[[nodiscard]] QWidget* MakeControl(const WindowRecord& control, QWidget* panel);
 void TakePlace(QWidget& widget, const WindowRecord& window, const Scale& scale);
 // Caption, text of a box with its caret.
 void TakeText(QWidget& widget, const WindowRecord& window);

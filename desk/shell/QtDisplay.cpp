@@ -3,6 +3,7 @@
 
 #include "desk/shell/PopUp.h"
 #include "desk/shell/QtInput.h"
+#include "desk/shell/Surface.h"
 #include "platform/windows/CWnd.h"
 
 namespace Desk {
@@ -21,9 +22,11 @@ public:
         }
         QWidget* made = nullptr;
         if (window.kind == WindowKind::PopUp) {
-            made = new Surface(nullptr);
-        } else if (QWidget* const surface = Find(window.parent)) {
-            made = MakeControl(window, surface);
+            auto* const surface = new Surface(window);
+            input.Follow(*surface, window.handle);
+            made = surface;
+        } else if (auto* const surface = qobject_cast<Surface*>(Find(window.parent))) {
+            made = MakeControl(window, &surface->Panel());
             if (auto* const line = qobject_cast<QLineEdit*>(made)) {
                 input.Follow(*line, window.handle);
             }
@@ -41,7 +44,7 @@ public:
 
     void TakeAll(QWidget& widget, const WindowRecord& window) const
     {
-        TakePlace(widget, window, Now());
+        Place(widget, window);
         TakeText(widget, window);
         if (auto* const list = qobject_cast<ListWidget*>(&widget)) {
             list->TakeRows(window, Now());
@@ -52,8 +55,27 @@ public:
         }
     }
 
+    void Place(QWidget& widget, const WindowRecord& window) const
+    {
+        if (auto* const surface = qobject_cast<Surface*>(&widget)) {
+            surface->TakePlace(window, Now());
+        } else {
+            TakePlace(widget, window, Now());
+        }
+    }
+
+    // What can be chosen may depend on what is chosen in other lists.
+    void DimLists(HWND popUp) const
+    {
+        if (const QWidget* const surface = Find(popUp)) {
+            for (const ListWidget* const list : surface->findChildren<ListWidget*>()) {
+                list->viewport()->update();
+            }
+        }
+    }
+
     // Shows or hides a pop-up, which takes the keyboard and returns it.
-    void TakeVisible(QWidget& surface, const WindowRecord& window)
+    void TakeVisible(Surface& surface, const WindowRecord& window)
     {
         if (window.visible == surface.isVisible()) {
             return;
@@ -62,6 +84,7 @@ public:
             if (openOver == nullptr) {
                 before = QApplication::focusWidget();
             }
+            surface.Begin(window);
             surface.show();
             surface.raise();
             surface.activateWindow();
@@ -115,17 +138,20 @@ void QtDisplay::SetZoom(double zoom)
 
 double QtDisplay::Zoom() const { return m_private->zoom; }
 
-void QtDisplay::OpenBeside(HWND popUp, const QRect& field, QWidget* owner)
+void QtDisplay::OpenBeside(HWND popUp, const QRect& field, QWidget* owner, const QString& title)
 {
-    QWidget* const surface = WidgetOf(popUp);
+    auto* const surface = qobject_cast<Surface*>(WidgetOf(popUp));
     CWnd* const window = CWnd::FromHandle(popUp);
     if (surface == nullptr || window == nullptr) {
         return;
     }
+    surface->SetTitle(title);
+    surface->TakePlace(*FindWindowRecord(popUp), m_private->Now());
     constexpr int Gap = 4;
     const QScreen* screen = QGuiApplication::screenAt(field.center());
     screen = screen != nullptr ? screen : QGuiApplication::primaryScreen();
-    const QRect room = screen->availableGeometry();
+    const int pixel = qCeil(Zoom());  // by which the surface may be off where it was asked to be
+    const QRect room = screen->availableGeometry().adjusted(pixel, pixel, -pixel, -pixel);
     const QSize size = surface->size();
     int y = field.bottom() + Gap;
     if (y + size.height() > room.bottom()) {
@@ -133,7 +159,7 @@ void QtDisplay::OpenBeside(HWND popUp, const QRect& field, QWidget* owner)
     }
     const QPoint corner(qBound(room.left(), field.left(), qMax(room.left(), room.right() - size.width())),
                         qBound(room.top(), y, qMax(room.top(), room.bottom() - size.height())));
-    const CPoint at = m_private->Now().FromWidget(QPointF(corner));
+    const CPoint at = m_private->Now().FromWidget(QPointF(corner + surface->PanelCorner()));
     CRect place;
     window->GetWindowRect(&place);
     if (owner != nullptr) {
@@ -158,7 +184,7 @@ void QtDisplay::WindowChanged(const WindowRecord& window, WindowChange change)
     auto* const list = qobject_cast<ListWidget*>(widget);
     switch (change) {
     case WindowChange::Place:
-        TakePlace(*widget, window, m_private->Now());
+        m_private->Place(*widget, window);
         if (list != nullptr) {
             list->TakeRows(window, m_private->Now());
         }
@@ -173,11 +199,13 @@ void QtDisplay::WindowChanged(const WindowRecord& window, WindowChange change)
         if (list != nullptr) {
             list->TakeRows(window, m_private->Now());
         }
+        m_private->DimLists(window.parent);
         break;
     case WindowChange::Selection:
         if (list != nullptr) {
             list->TakeSelection(window);
         }
+        m_private->DimLists(window.parent);
         break;
     case WindowChange::Scroll:
         if (list != nullptr) {
@@ -188,7 +216,7 @@ void QtDisplay::WindowChanged(const WindowRecord& window, WindowChange change)
         if (window.IsControl()) {
             widget->setVisible(window.visible);
         } else {
-            m_private->TakeVisible(*widget, window);
+            m_private->TakeVisible(static_cast<Surface&>(*widget), window);
         }
         break;
     case WindowChange::Enabled:

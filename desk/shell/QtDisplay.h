@@ -34,9 +34,10 @@ public:
     [[nodiscard]] double Zoom() const;
 
     // Shows a pop-up on top of the owner's window, below a field on the screen or above it where there is
-    // no room. It takes the focus and returns it when it hides. A press elsewhere in the application
-    // dismisses it as Esc does.
-    void OpenBeside(HWND popUp, const QRect& field, QWidget* owner);
+    // no room, with a title over it. It takes the focus and returns it when it hides. A press or key
+    // elsewhere in the application dismisses it as Esc does, while it shows what it opened with; else it
+    // stays and asks, and the press is nobody's.
+    void OpenBeside(HWND popUp, const QRect& field, QWidget* owner, const QString& title = {});
 
     [[nodiscard]] const TextCodec& Codec() const { return m_codec; }
 

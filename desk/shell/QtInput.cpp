@@ -1,10 +1,12 @@
 #include "desk/shell/QtInput.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "desk/shell/Keys.h"
 #include "desk/shell/PopUp.h"
 #include "desk/shell/QtDisplay.h"
+#include "desk/shell/Surface.h"
 #include "platform/text/GbkWalk.h"
 #include "platform/windows/CWnd.h"
 #include "platform/windows/WindowRecord.h"
@@ -90,6 +92,8 @@ constexpr LPARAM KeyWentDown = 1;
 constexpr LPARAM KeyStaysDown = 0x40000001;
 constexpr LPARAM KeyWentUp = 0xC0000001;
 
+MSG Escape(HWND popUp) { return {popUp, WM_KEYDOWN, VK_ESCAPE, KeyWentDown, 0, {}}; }
+
 }  // namespace
 
 void QtInput::Know(QWidget& widget, HWND window)
@@ -120,6 +124,12 @@ void QtInput::Follow(QLineEdit& line, HWND box)
     });
 }
 
+void QtInput::Follow(Surface& surface, HWND popUp)
+{
+    connect(&surface, &Surface::Taken, this, [this, popUp] { Take(popUp); });
+    connect(&surface, &Surface::Left, this, [popUp] { Send(Escape(popUp), true); });
+}
+
 void QtInput::TakeFocus(QWidget& widget)
 {
     const QScopedValueRollback taking(m_isTakingFocus, true);
@@ -130,6 +140,11 @@ void QtInput::TakeFocus(QWidget& widget)
 }
 
 HWND QtInput::WindowOf(const QObject* watched) const { return m_windows.value(watched); }
+
+Surface* QtInput::SurfaceOf(HWND window) const
+{
+    return qobject_cast<Surface*>(m_display.WidgetOf(HolderOf(window)));
+}
 
 bool QtInput::Send(const MSG& event, bool dispatch)
 {
@@ -153,6 +168,10 @@ bool QtInput::eventFilter(QObject* watched, QEvent* event)
     }
     auto& widget = static_cast<QWidget&>(*watched);
     const bool native = qobject_cast<QLineEdit*>(&widget) != nullptr && widget.isEnabled();
+    if (Surface* const surface = SurfaceOf(window);
+        surface != nullptr && (type == QEvent::MouseButtonPress || type == QEvent::KeyPress)) {
+        surface->Ask(false);  // the work goes on
+    }
     switch (type) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -167,7 +186,7 @@ bool QtInput::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Wheel: return OnWheel(window, *static_cast<QWheelEvent*>(event));
     case QEvent::ContextMenu: return true;
     case QEvent::Close:  // by the window manager
-        Send({window, WM_KEYDOWN, VK_ESCAPE, KeyWentDown, 0, {}}, true);
+        Send(Escape(window), true);
         event->accept();
         return true;
     case QEvent::ShortcutOverride: event->accept(); return true;
@@ -267,10 +286,8 @@ bool QtInput::OnKey(HWND window, const QKeyEvent& key, bool native)
         taken = send(down ? WM_KEYDOWN : WM_KEYUP, code, !nativeKey);
     }
     if (down && !taken && IsRightPress(key)) {
-        const HWND holder = HolderOf(window);
-        if (const QWidget* const surface = m_display.WidgetOf(holder)) {
-            OnMouse(holder, WM_RBUTTONDOWN, surface->mapToGlobal(surface->rect().center()), MK_RBUTTON,
-                    false);
+        if (!key.isAutoRepeat()) {
+            Take(HolderOf(window));
         }
         return true;
     }
@@ -283,44 +300,77 @@ bool QtInput::OnKey(HWND window, const QKeyEvent& key, bool native)
     return taken || !nativeKey || !IsWindow(window);
 }
 
-// A press or a key in another window dismisses the open pop-up.
-bool QtInput::OnEventElsewhere(const QWidget& target, const QEvent& event)
+// The right button's click in the middle of a pop-up, for what stands for it.
+void QtInput::Take(HWND popUp)
 {
-    if (event.type() == QEvent::MouseButtonPress) {
-        DismissFor(target);
-        return false;
+    const WindowRecord* const record = FindWindowRecord(popUp);
+    if (record == nullptr) {
+        return;
     }
-    if (event.type() != QEvent::ShortcutOverride && event.type() != QEvent::KeyPress) {
+    const QPointF middle = Scale(m_display.Zoom()).ToWidget(record->place).center();
+    OnMouse(popUp, WM_RBUTTONDOWN, middle, MK_RBUTTON, false);
+    OnMouse(popUp, WM_RBUTTONUP, middle, 0, false);
+}
+
+// A press or a key in another window leaves the open pop-up. Where that asks first, nobody gets the event,
+// nor what comes with it.
+bool QtInput::OnEventElsewhere(const QWidget& target, QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick: m_isEaten = Leave(target, true) == Elsewhere::Asked; return m_isEaten;
+    case QEvent::MouseMove:
+    case QEvent::ContextMenu: return m_isEaten;
+    case QEvent::MouseButtonRelease: return std::exchange(m_isEaten, false);
+    case QEvent::Close:  // by the window manager
+        if (event.spontaneous() && Leave(target, true) == Elsewhere::Asked) {
+            event.ignore();
+            return true;
+        }
         return false;
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress: break;
+    default: return false;
     }
     switch (static_cast<const QKeyEvent&>(event).key()) {
-    case Qt::Key_Escape: return event.type() == QEvent::KeyPress && DismissFor(target);
+    case Qt::Key_Escape:
+        return event.type() == QEvent::KeyPress && Leave(target, false) != Elsewhere::NothingOpen;
     case Qt::Key_Control:
     case Qt::Key_Shift:
     case Qt::Key_Alt:
     case Qt::Key_AltGr:
     case Qt::Key_Meta: return false;
-    default: DismissFor(target); return false;
+    default:
+        if (Leave(target, true) == Elsewhere::Asked) {
+            event.accept();
+            return true;
+        }
+        return false;
     }
 }
 
-// As Esc: nothing is delivered. The widget that was pressed still gets its press. A message box over the
-// panel does not count as elsewhere. True when something was open.
-bool QtInput::DismissFor(const QWidget& pressed)
+// As Esc: nothing is delivered. A pop-up whose text is composed and not taken may ask instead, and stays.
+// A message box over the panel does not count as elsewhere.
+QtInput::Elsewhere QtInput::Leave(const QWidget& target, bool mayAsk)
 {
     if (QApplication::activeModalWidget() != nullptr ||
-        qobject_cast<const QScrollBar*>(&pressed) != nullptr) {
-        return false;
+        qobject_cast<const QScrollBar*>(&target) != nullptr) {
+        return Elsewhere::NothingOpen;
     }
-    bool wasOpen = false;
+    Elsewhere done = Elsewhere::NothingOpen;
     for (const HWND window : AllWindows()) {
-        const QWidget* const surface = m_display.WidgetOf(window);
-        if (surface != nullptr && IsShownPopUp(window) && pressed.window() != surface) {
-            Send({window, WM_KEYDOWN, VK_ESCAPE, KeyWentDown, 0, {}}, true);
-            wasOpen = true;
+        Surface* const surface = IsShownPopUp(window) ? SurfaceOf(window) : nullptr;
+        if (surface == nullptr || target.window() == surface) {
+            continue;
         }
+        if (mayAsk && surface->IsUnfinished(*FindWindowRecord(window))) {
+            surface->Ask(true);
+            return Elsewhere::Asked;
+        }
+        Send(Escape(window), true);
+        done = Elsewhere::Dismissed;
     }
-    return wasOpen;
+    return done;
 }
 
 void QtInput::Report(QLineEdit& line, HWND box)

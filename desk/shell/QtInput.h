@@ -8,6 +8,7 @@
 namespace Desk {
 
 class QtDisplay;
+class Surface;
 
 // One event filter on the application. Each raw mouse and key event of a pop-up goes through the host's
 // loop before a control sees it. Only a line edit handles natively what the module has not taken, and
@@ -20,8 +21,9 @@ public:
 
     void Know(QWidget& widget, HWND window);
     void Forget(QWidget& widget);
-    // Reports the edits of a box's widget.
+    // Reports the edits of a box's widget; feeds what the buttons over a pop-up stand for.
     void Follow(QLineEdit& line, HWND box);
+    void Follow(Surface& surface, HWND popUp);
     // A report of this box is being made: its widget is ahead of the record.
     [[nodiscard]] bool IsReporting(HWND box) const { return m_reporting == box; }
     // The window layer gave a window the focus.
@@ -36,8 +38,11 @@ private:
     bool OnRelease(QWidget& widget, HWND window, const QMouseEvent& mouse, bool native);
     bool OnWheel(HWND window, const QWheelEvent& wheel);
     bool OnKey(HWND window, const QKeyEvent& key, bool native);
-    bool OnEventElsewhere(const QWidget& target, const QEvent& event);
-    bool DismissFor(const QWidget& pressed);
+    enum class Elsewhere { NothingOpen, Dismissed, Asked };
+    bool OnEventElsewhere(const QWidget& target, QEvent& event);
+    Elsewhere Leave(const QWidget& target, bool mayAsk);
+    void Take(HWND popUp);
+    [[nodiscard]] Surface* SurfaceOf(HWND window) const;
     void Report(QLineEdit& line, HWND box);
     // Offers an event and dispatches it unless it was taken; true when the module has taken it.
     static bool Send(const MSG& event, bool dispatch);
@@ -47,6 +52,7 @@ private:
     HWND m_reporting = nullptr;
     HWND m_pressed = nullptr;  // got the last left press, and gets the release
     bool m_isTakingFocus = false;
+    bool m_isEaten = false;  // the last press elsewhere, until its release
 };
 
 }  // namespace Desk

@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "desk/window/Document.h"
 #include "desk/window/FieldNames.h"
@@ -63,6 +64,30 @@ private:
     std::string m_handle;
     Drawing::Pointed m_pointed;
     PlanPoint m_at;
+};
+
+// Other rules that are not checked.
+class RulesChange : public QUndoCommand {
+public:
+    RulesChange(Document& document, std::vector<std::string> off, const QString& what)
+        : m_document(document), m_other(std::move(off))
+    {
+        setText(what);
+    }
+
+    void undo() override { Swap(); }
+    void redo() override { Swap(); }
+
+private:
+    void Swap()
+    {
+        std::swap(m_document.m_project.checksOff, m_other);
+        m_document.WriteCopySoon();
+        emit m_document.ChecksOffChanged();
+    }
+
+    Document& m_document;
+    std::vector<std::string> m_other;
 };
 
 // Beams and walls exchanged for others.

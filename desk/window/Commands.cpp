@@ -1,6 +1,7 @@
 // MainWindow: what the commands of its menus do.
 #include "desk/window/Ask.h"
 #include "desk/window/MainWindow.h"
+#include "desk/window/QuantitiesDialog.h"
 #include "desk/window/Steps.h"
 
 namespace Desk {
@@ -41,6 +42,9 @@ void MainWindow::ConnectCommands()
             m_selection->GoTo(where(m_document.Get(), m_selection->Chosen(), by));
         });
     };
+    m_menus->On("nextProblem", m_problems, [this] { m_problems->Go(1); });
+    m_menus->On("previousProblem", m_problems, [this] { m_problems->Go(-1); });
+    m_menus->On("quantities", this, [this] { ShowQuantities(m_document.Get(), this); });
     m_menus->On("nextEmpty", m_selection, &Selection::GoOn);
     step("nextField", &StepField, 1);
     step("previousField", &StepField, -1);

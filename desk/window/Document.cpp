@@ -113,6 +113,11 @@ QString Document::SetTexts(const std::vector<std::pair<FieldRef, QString>>& text
     return {};
 }
 
+void Document::SetChecksOff(std::vector<std::string> keys, const QString& what)
+{
+    m_changes.push(new RulesChange(*this, std::move(keys), what));
+}
+
 void Document::SwapTexts(std::map<FieldRef, std::string>& others)
 {
     std::vector<FieldRef> refs;

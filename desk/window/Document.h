@@ -66,6 +66,9 @@ public:
     // last one counts.
     QString SetTexts(const std::vector<std::pair<FieldRef, QString>>& texts);
 
+    // The rules that are not checked, which can be taken back; what tells the change.
+    void SetChecksOff(std::vector<std::string> keys, const QString& what);
+
     // Makes beams and walls what the edits say, which can be taken back. Answers why that is refused, empty
     // when it is done: the beams of a drawing stay where it has them, and a position lies on the plan.
     QString Edit(Edits edits);
@@ -82,6 +85,7 @@ public:
 signals:
     void TextChanged(const Desk::FieldRef& ref);                // each text of a step
     void StepDone(const std::vector<Desk::FieldRef>& changed);  // after them; not empty
+    void ChecksOffChanged();
     // Beams and walls came, changed or went, in one step; StepDone is for texts alone.
     void OwnersChanged(const Desk::Exchanged& exchanged);
     void OpenTextsChanged();
@@ -92,6 +96,7 @@ signals:
 private:
     friend class TextsChange;
     friend class PointChange;
+    friend class RulesChange;
     friend class OwnersChange;
     void SwapTexts(std::map<FieldRef, std::string>& others);
     void Changed(const std::vector<FieldRef>& refs);

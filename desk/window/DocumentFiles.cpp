@@ -130,6 +130,7 @@ void Document::Replace(Project project, const QString& file, std::optional<Drawi
     NoteFileTime();
     m_changes.clear();
     emit Replaced();
+    emit ChecksOffChanged();
     emit OpenTextsChanged();
     emit FileChanged();
 }

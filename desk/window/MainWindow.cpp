@@ -11,7 +11,8 @@ namespace Desk {
 MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
     : QMainWindow(parent), m_document(RecoveryFolder()), m_panels(display), m_display(display),
       m_floor(new FloorView(this)), m_docks(new Docks(*this, m_document)),
-      m_openTexts(new OpenTexts(m_document, *m_floor, this)), m_menus(new Menus(*this)),
+      m_openTexts(new OpenTexts(m_document, *m_floor, this)),
+      m_problems(new Problems(m_document, *m_floor, this)), m_menus(new Menus(*this)),
       m_selection(new Selection(m_document, *m_floor, *m_docks, m_panels, *this)),
       m_editing(new Editing(m_document, *m_selection, *this)),
       m_tools(new PlanTools(m_document, *m_floor, *m_editing)),
@@ -30,12 +31,14 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
     setCentralWidget(m_floor);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     addDockWidget(Qt::BottomDockWidgetArea, m_openTexts);
+    addDockWidget(Qt::BottomDockWidgetArea, m_problems);
     resizeDocks({m_openTexts}, {150}, Qt::Vertical);
     setAcceptDrops(true);
     auto* const gap = new QWidget;
     gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     m_menus->ToolBar().addWidget(gap);
     m_menus->ToolBar().addWidget(m_search);
+    statusBar()->addPermanentWidget(&m_problems->Count());
     statusBar()->addPermanentWidget(m_counts);
     AddSettings();
     ConnectParts();
@@ -56,6 +59,7 @@ void MainWindow::AddSettings()
 {
     m_menus->View().addActions(m_docks->Toggles());
     m_menus->View().addAction(m_openTexts->toggleViewAction());
+    m_menus->View().addAction(m_problems->toggleViewAction());
     m_menus->View().addSeparator();
     m_menus->AddChoice(QT_TRANSLATE_NOOP("Desk", "&Language"),
                        {QT_TRANSLATE_NOOP("Desk", "As the system"), "中文", "English"},
@@ -81,6 +85,9 @@ void MainWindow::ConnectParts()
     connect(m_selection, &Selection::Said, statusBar(),
             [this](const QString& text) { statusBar()->showMessage(text); });
     connect(m_openTexts, &OpenTexts::Said, statusBar(),
+            [this](const QString& text) { statusBar()->showMessage(text); });
+    connect(m_problems, &Problems::Picked, m_selection, &Selection::Choose);
+    connect(m_problems, &Problems::Said, statusBar(),
             [this](const QString& text) { statusBar()->showMessage(text); });
     connect(m_editing, &Editing::Said, statusBar(),
             [this](const QString& text) { statusBar()->showMessage(text); });
@@ -144,6 +151,7 @@ void MainWindow::SetLanguage(Language language)
     m_menus->Retranslate();
     m_search->Retranslate();
     m_openTexts->Retranslate();
+    m_problems->Retranslate();
     m_tools->Retranslate();
     m_docks->Redraw();
     ShowTitle();

@@ -11,6 +11,7 @@
 #include "desk/window/Menus.h"
 #include "desk/window/OpenTexts.h"
 #include "desk/window/PlanTools.h"
+#include "desk/window/Problems.h"
 #include "desk/window/ProjectFiles.h"
 #include "desk/window/SearchLine.h"
 #include "desk/window/Selection.h"
@@ -58,6 +59,7 @@ private:
     FloorView* m_floor;
     Docks* m_docks;
     OpenTexts* m_openTexts;
+    Problems* m_problems;
     Menus* m_menus;
     Selection* m_selection;
     Editing* m_editing;

@@ -33,6 +33,7 @@ constexpr Row Rows[] = {
     {"import", QT_TRANSLATE_NOOP("Desk", "&Import..."), QT_TRANSLATE_NOOP("Desk", "Makes a project of a drawing, or of the texts of one")},
     {"export", QT_TRANSLATE_NOOP("Desk", "&Export..."), QT_TRANSLATE_NOOP("Desk", "Writes a drawing (DXF) or a plan (PDF, SVG)"), {}, Qt::CTRL | Qt::Key_E},
     {"print", QT_TRANSLATE_NOOP("Desk", "&Print..."), QT_TRANSLATE_NOOP("Desk", "Prints the plan"), QKeySequence::Print},
+    {"quantities", QT_TRANSLATE_NOOP("Desk", "Quan&tities..."), QT_TRANSLATE_NOOP("Desk", "Lists the steel, the concrete and the formwork that the floor takes")},
     Line,
     {"quit", QT_TRANSLATE_NOOP("Desk", "&Quit"), QT_TRANSLATE_NOOP("Desk", "Ends the program"), {}, Qt::CTRL | Qt::Key_Q},
 
@@ -63,6 +64,8 @@ constexpr Row Rows[] = {
     {"clear", QT_TRANSLATE_NOOP("Desk", "&Remove"), QT_TRANSLATE_NOOP("Desk", "Removes the chosen annotation"), QKeySequence::Delete},
     Line,
     {"nextEmpty", QT_TRANSLATE_NOOP("Desk", "Next &without a text"), QT_TRANSLATE_NOOP("Desk", "The next annotation that a text is wanted for"), {}, Qt::Key_F6},
+    {"nextProblem", QT_TRANSLATE_NOOP("Desk", "Next pr&oblem"), QT_TRANSLATE_NOOP("Desk", "The next annotation that has a problem"), {}, Qt::Key_F8},
+    {"previousProblem", QT_TRANSLATE_NOOP("Desk", "Previous proble&m"), QT_TRANSLATE_NOOP("Desk", "The previous annotation that has a problem"), {}, Qt::SHIFT | Qt::Key_F8},
     {"nextField", QT_TRANSLATE_NOOP("Desk", "Next &annotation"), QT_TRANSLATE_NOOP("Desk", "The next annotation of the beam"), {}, Qt::CTRL | Qt::Key_Down},
     {"previousField", QT_TRANSLATE_NOOP("Desk", "&Previous annotation"), QT_TRANSLATE_NOOP("Desk", "The previous annotation of the beam"), {}, Qt::CTRL | Qt::Key_Up},
     {"nextOwner", QT_TRANSLATE_NOOP("Desk", "Next &beam"), QT_TRANSLATE_NOOP("Desk", "The same annotation of the next beam"), {}, Qt::CTRL | Qt::Key_Right},

@@ -52,7 +52,8 @@ PanelHost::~PanelHost() = default;
 
 bool PanelHost::HasPanel(const FieldRef& place) { return PanelOf(place) != PanelKind::None; }
 
-void PanelHost::Open(const FieldRef& place, const QString& present, const QRect& field, QWidget* owner)
+void PanelHost::Open(const FieldRef& place, const QString& present, const QString& title,
+                     const QRect& field, QWidget* owner)
 {
     const std::optional<CString> text = GbkFromUtf8(present.toStdString());
     if (!HasPanel(place) || !text) {
@@ -66,7 +67,7 @@ void PanelHost::Open(const FieldRef& place, const QString& present, const QRect&
     Panel& panel = PanelFor(PanelOf(place));
     panel.Open(UseFor(place.field, *text));
     m_open = panel.Window().m_hWnd;
-    m_display.OpenBeside(m_open, field, owner);
+    m_display.OpenBeside(m_open, field, owner, title);
 }
 
 void PanelHost::Close()

@@ -23,9 +23,10 @@ public:
     // A wall's name has none.
     [[nodiscard]] static bool HasPanel(const FieldRef& place);
 
-    // Opens the panel for the place on its present text, beside a field on the screen. What it had not
-    // confirmed for another place is given up, as by Esc.
-    void Open(const FieldRef& place, const QString& present, const QRect& field, QWidget* owner);
+    // Opens the panel for the place on its present text, beside a field on the screen, with a title. What
+    // it had not confirmed for another place is given up, as by Esc.
+    void Open(const FieldRef& place, const QString& present, const QString& title, const QRect& field,
+              QWidget* owner);
     // Hides an open panel; what it had not confirmed is given up.
     void Close();
     // The place that an open panel serves.

@@ -120,6 +120,7 @@ std::optional<Project> OntoDrawing(const Drawing& drawing, const Project& copy)
     }
     project.pointed = copy.pointed;
     project.walls = copy.walls;
+    project.checksOff = copy.checksOff;
     for (std::size_t i = 0; i < copy.beams.size(); ++i) {
         Beam& beam = project.beams[i];
         for (const Field field : BeamFields()) {

@@ -6,6 +6,7 @@
 #include "desk/window/FieldNames.h"
 #include "desk/window/Filling.h"
 #include "desk/window/Steps.h"
+#include "desk/window/Typed.h"
 
 namespace Desk {
 
@@ -35,10 +36,10 @@ Selection::Selection(Document& document, FloorView& floor, Docks& docks, PanelHo
         OpenPanel();
     });
     connect(&docks, &Docks::Picked, this, &Selection::Choose);
-    connect(&docks, &Docks::Edited, this, &Selection::Take);
-    connect(&docks, &Docks::Taken, this, [this](const FieldRef& ref, const QString& text) {
-        TakeFromList({{ref, text}}, QString());
-    });
+    connect(&docks, &Docks::Edited, this,
+            [this](const FieldRef& ref, const QString& text) { TakeTyped(ref, text, false); });
+    connect(&docks, &Docks::Taken, this,
+            [this](const FieldRef& ref, const QString& text) { TakeTyped(ref, text, true); });
     connect(&docks, &Docks::ProposalTaken, this, &Selection::TakeFromList);
     connect(&docks, &Docks::GoOn, this, &Selection::GoOn);
     connect(&docks, &Docks::PanelAsked, this, &Selection::OpenPanel);
@@ -132,7 +133,10 @@ void Selection::OpenPanel()
 
 void Selection::OpenPanelBeside(const QRect& field)
 {
-    m_panels.Open(*m_chosen, QString::fromStdString(TextAt(m_document.Get(), *m_chosen)), field, &m_window);
+    const Project& project = m_document.Get();
+    m_panels.Open(*m_chosen, QString::fromStdString(TextAt(project, *m_chosen)),
+                  OwnerName(project, *m_chosen) + QStringLiteral("  ") + FieldName(project, *m_chosen),
+                  field, &m_window);
 }
 
 bool Selection::EndEdit()
@@ -140,6 +144,22 @@ bool Selection::EndEdit()
     m_isRefused = false;
     m_docks.CommitEdit();
     return !m_isRefused;
+}
+
+void Selection::TakeTyped(const FieldRef& ref, const QString& text, bool goesOn)
+{
+    if (!Exists(m_document.Get(), ref)) {
+        return;  // of a project that is gone
+    }
+    const std::optional<Texts> texts = AskTyped(m_document.Get(), m_document.Target(ref), text, &m_window);
+    m_isRefused = !texts.has_value();
+    if (!texts) {
+        Show();
+    } else if (goesOn) {
+        TakeFromList(*texts, QString());
+    } else {
+        TakeAll(*texts);
+    }
 }
 
 bool Selection::TakeAll(const Texts& asked, const QString& reason)

@@ -45,6 +45,8 @@ private:
     using Texts = std::vector<std::pair<FieldRef, QString>>;
 
     void Take(const FieldRef& ref, const QString& text) { TakeAll({{ref, text}}); }
+    // What was typed is read first, and may be taken back.
+    void TakeTyped(const FieldRef& ref, const QString& text, bool goesOn);
     bool TakeAll(const Texts& texts, const QString& reason = QString());
     void TakeFromList(const Texts& texts, const QString& reason);
     void Follow(const Exchanged& exchanged);

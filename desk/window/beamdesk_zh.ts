@@ -580,6 +580,270 @@
         <translation>保存工程或图纸</translation>
     </message>
     <message>
+        <source>%1 bars in a row leave %2 mm clear between them, %3 mm required</source>
+        <translation>一排%1根，净距%2 mm，要求不小于%3 mm</translation>
+    </message>
+    <message>
+        <source>none, %1 mm² required</source>
+        <translation>未配筋，需要%1 mm²</translation>
+    </message>
+    <message>
+        <source>the through bars have %1 mm², %2 mm² required</source>
+        <translation>仅有通长筋%1 mm²，需要%2 mm²</translation>
+    </message>
+    <message>
+        <source>%1 mm², %2 mm² required</source>
+        <translation>实配%1 mm²，需要%2 mm²</translation>
+    </message>
+    <message>
+        <source>the through bars %1 are not among them</source>
+        <translation>未包含通长筋%1</translation>
+    </message>
+    <message>
+        <source>none; a frame beam has two at least</source>
+        <translation>未标注；框架梁至少两根</translation>
+    </message>
+    <message>
+        <source>only one; a frame beam has two at least</source>
+        <translation>只有一根；框架梁至少两根</translation>
+    </message>
+    <message>
+        <source>%1 mm thick, %2 mm at least in seismic class %3</source>
+        <translation>直径%1 mm，抗震等级%3级时不小于%2 mm</translation>
+    </message>
+    <message>
+        <source>%1 mm², a quarter of the bars at the end is %2 mm²</source>
+        <translation>面积%1 mm²，梁端纵筋的四分之一为%2 mm²</translation>
+    </message>
+    <message>
+        <source>the same support has %1 as well</source>
+        <translation>同一支座另注有%1</translation>
+    </message>
+    <message>
+        <source>rule of practice</source>
+        <translation>工程惯例</translation>
+    </message>
+    <message>
+        <source>Text that cannot be read</source>
+        <translation>标注无法识别</translation>
+    </message>
+    <message>
+        <source>Less steel than required</source>
+        <translation>配筋小于计算面积</translation>
+    </message>
+    <message>
+        <source>Bars do not fit the width</source>
+        <translation>梁宽放不下钢筋</translation>
+    </message>
+    <message>
+        <source>End bars without the through bars</source>
+        <translation>支座筋未包含通长筋</translation>
+    </message>
+    <message>
+        <source>Through bars of a frame beam</source>
+        <translation>框架梁通长筋</translation>
+    </message>
+    <message>
+        <source>Bars change over a support</source>
+        <translation>支座两侧钢筋不一致</translation>
+    </message>
+    <message>
+        <source>Stirrups too far apart</source>
+        <translation>箍筋间距过大</translation>
+    </message>
+    <message>
+        <source>Stirrups too thin</source>
+        <translation>箍筋直径过小</translation>
+    </message>
+    <message>
+        <source>Too few legs</source>
+        <translation>箍筋肢数不足</translation>
+    </message>
+    <message>
+        <source>%1; beams of other types: %2</source>
+        <translation>%1；其他梁：%2</translation>
+    </message>
+    <message>
+        <source>Section against the drawn width</source>
+        <translation>截面宽度与图上不符</translation>
+    </message>
+    <message>
+        <source>One name, different texts</source>
+        <translation>同一编号标注不同</translation>
+    </message>
+    <message>
+        <source>Gap in the names</source>
+        <translation>编号不连续</translation>
+    </message>
+    <message>
+        <source>the beam has no length</source>
+        <translation>梁没有长度</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>无法识别</translation>
+    </message>
+    <message>
+        <source>the beam has no section</source>
+        <translation>梁没有截面</translation>
+    </message>
+    <message>
+        <source>there is no %1 before it</source>
+        <translation>前面缺%1</translation>
+    </message>
+    <message>
+        <source>there are no %1 to %2 before it</source>
+        <translation>前面缺%1至%2</translation>
+    </message>
+    <message>
+        <source>the number is that of %1 already</source>
+        <translation>序号已被%1使用</translation>
+    </message>
+    <message>
+        <source>another %1 has %2</source>
+        <translation>另一处%1为%2</translation>
+    </message>
+    <message>
+        <source>Top bars</source>
+        <translation>上部纵筋</translation>
+    </message>
+    <message>
+        <source>Bottom bars</source>
+        <translation>下部纵筋</translation>
+    </message>
+    <message>
+        <source>Erection bars</source>
+        <translation>架立筋</translation>
+    </message>
+    <message>
+        <source>Side bars</source>
+        <translation>侧面构造筋</translation>
+    </message>
+    <message>
+        <source>Torsion bars</source>
+        <translation>受扭纵筋</translation>
+    </message>
+    <message>
+        <source>Stirrups</source>
+        <translation>箍筋</translation>
+    </message>
+    <message>
+        <source>An estimate for calculation, not for bending: spans from axis to axis, supports not taken off.</source>
+        <translation>估算用量，不作下料依据：跨长按轴线计，不扣支座。</translation>
+    </message>
+    <message>
+        <source>A beam without span lengths is divided evenly by the spans of its name.</source>
+        <translation>没有跨长的梁，按编号中的跨数均分。</translation>
+    </message>
+    <message>
+        <source>Anchorage as GB 50010-2010 (2015) 8.3.1 and 11.1.7; bottom bars of beams that are no frame or coupling beams 12 d, side bars 15 d.</source>
+        <translation>锚固长度按GB 50010-2010（2015年版）第8.3.1、11.1.7条；非框架梁、非连梁下部纵筋12d，侧面构造筋15d。</translation>
+    </message>
+    <message>
+        <source>Bars over 9 m are lapped every 9 m, each lap 1.4 times the anchorage.</source>
+        <translation>超过9 m的钢筋每9 m搭接一次，搭接长度为1.4倍锚固长度。</translation>
+    </message>
+    <message>
+        <source>Bars at supports beside the through bars reach a third of the longer span, from the second row on a quarter; cantilevers all along.</source>
+        <translation>支座处通长筋以外的钢筋伸入较大跨的三分之一，第二排起四分之一；悬挑梁伸至梁端。</translation>
+    </message>
+    <message>
+        <source>Inner supports of a beam without texts in place have the stronger of its end bars.</source>
+        <translation>没有原位标注的梁，中间支座取两端中较大的支座筋。</translation>
+    </message>
+    <message>
+        <source>Erection bars a third of the span and 150 mm at either end.</source>
+        <translation>架立筋长为跨长的三分之一，两端各加150 mm。</translation>
+    </message>
+    <message>
+        <source>Concrete and formwork of the whole section, slabs and crossings not taken off; haunches, ties of side bars and walls are not counted.</source>
+        <translation>混凝土和模板按全截面计，不扣板和梁相交处；加腋、拉筋和墙不计。</translation>
+    </message>
+    <message>
+        <source>Grade</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>Diameter, mm</source>
+        <translation>直径 (mm)</translation>
+    </message>
+    <message>
+        <source>%1, m</source>
+        <translation>%1 (m)</translation>
+    </message>
+    <message>
+        <source>Length, m</source>
+        <translation>总长 (m)</translation>
+    </message>
+    <message>
+        <source>Mass, kg</source>
+        <translation>质量 (kg)</translation>
+    </message>
+    <message>
+        <source>Steel, kg</source>
+        <translation>钢筋 (kg)</translation>
+    </message>
+    <message>
+        <source>Concrete, m³</source>
+        <translation>混凝土 (m³)</translation>
+    </message>
+    <message>
+        <source>Formwork, m²</source>
+        <translation>模板 (m²)</translation>
+    </message>
+    <message>
+        <source>Beams</source>
+        <translation>梁数</translation>
+    </message>
+    <message>
+        <source>Texts not counted</source>
+        <translation>未计入的标注</translation>
+    </message>
+    <message>
+        <source>spacing %1 mm at the ends, at most %2 mm</source>
+        <translation>梁端间距%1 mm，不应大于%2 mm</translation>
+    </message>
+    <message>
+        <source>%1 mm thick, %2 mm at least</source>
+        <translation>直径%1 mm，不应小于%2 mm</translation>
+    </message>
+    <message>
+        <source>the number of legs is missing</source>
+        <translation>未注肢数</translation>
+    </message>
+    <message>
+        <source>%1 legs; beams wider than %2 mm have more</source>
+        <translation>%1肢；梁宽大于%2 mm时应更多</translation>
+    </message>
+    <message>
+        <source>%1 legs are %2 mm apart, at most %3 mm</source>
+        <translation>%1肢，肢距%2 mm，不宜大于%3 mm</translation>
+    </message>
+    <message>
+        <source>drawn %1 mm wide</source>
+        <translation>图上宽%1 mm</translation>
+    </message>
+    <message>
+        <source>Stirrups from 50 mm off the axes, tight over 1.5 h (class 1: 2 h), 500 mm at least; cover as the code&apos;s environment class 1, hooks 10 d.</source>
+        <translation>箍筋距轴线50 mm起布置，加密区1.5h（一级2h）且不小于500 mm；保护层按一类环境，弯钩平直段10d。</translation>
+    </message>
+    <message>
+        <source>spacing %1 mm, at most %2 mm at this depth</source>
+        <translation>间距%1 mm，此梁高不宜大于%2 mm</translation>
+    </message>
+    <message>
+        <source>spacing %1 mm in the tight zone, at most %2 mm</source>
+        <translation>加密区间距%1 mm，不应大于%2 mm</translation>
+    </message>
+    <message>
+        <source>spacing %1 mm, at most twice the tight one: %2 mm</source>
+        <translation>间距%1 mm，不宜大于加密区的2倍：%2 mm</translation>
+    </message>
+    <message>
+        <source>cannot be read; an example: %1</source>
+        <translation>无法识别；例如%1</translation>
+    </message>
+    <message>
         <source>same section</source>
         <translation>截面相同</translation>
     </message>
@@ -886,6 +1150,88 @@
     <message>
         <source>The next annotation with the same text</source>
         <translation>下一个文字相同的标注</translation>
+    </message>
+    <message>
+        <source>Quan&amp;tities...</source>
+        <translation>工程量(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Lists the steel, the concrete and the formwork that the floor takes</source>
+        <translation>列出本层钢筋、混凝土和模板用量</translation>
+    </message>
+    <message>
+        <source>Next pr&amp;oblem</source>
+        <translation>下一个问题(&amp;O)</translation>
+    </message>
+    <message>
+        <source>The next annotation that has a problem</source>
+        <translation>转到下一处有问题的标注</translation>
+    </message>
+    <message>
+        <source>Previous proble&amp;m</source>
+        <translation>上一个问题(&amp;M)</translation>
+    </message>
+    <message>
+        <source>The previous annotation that has a problem</source>
+        <translation>转到上一处有问题的标注</translation>
+    </message>
+    <message>
+        <source>Quantities, an estimate</source>
+        <translation>工程量估算</translation>
+    </message>
+    <message>
+        <source>Sums, and how it was counted</source>
+        <translation>合计与计算说明</translation>
+    </message>
+    <message>
+        <source>The list was not written</source>
+        <translation>清单未写出</translation>
+    </message>
+    <message>
+        <source>Write &amp;CSV...</source>
+        <translation>写出CSV(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Write &amp;PDF...</source>
+        <translation>写出PDF(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>%1 (now %2)</source>
+        <translation>%1（现为%2）</translation>
+    </message>
+    <message>
+        <source>It is several annotations:
+%1</source>
+        <translation>其中有多项标注：
+%1</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>拆分</translation>
+    </message>
+    <message>
+        <source>It fits here:</source>
+        <translation>适合以下标注：</translation>
+    </message>
+    <message>
+        <source>It is no annotation that can be read. Kept as it is it counts as a problem, and proposals do not go by it.</source>
+        <translation>无法识别为任何标注。照原样保留时计为问题，建议不以它为依据。</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>照原样保留</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>%1, %2: &quot;%3&quot; does not belong there.</source>
+        <translation>%1，%2：“%3”不属于此处。</translation>
     </message>
 </context>
 <context>
@@ -1266,6 +1612,68 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     </message>
 </context>
 <context>
+    <name>Desk::ProblemRows</name>
+    <message>
+        <source>Beam</source>
+        <translation>梁</translation>
+    </message>
+    <message>
+        <source>Annotation</source>
+        <translation>标注</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>规则</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::Problems</name>
+    <message>
+        <source>No problems</source>
+        <translation>没有问题</translation>
+    </message>
+    <message>
+        <source>1 problem</source>
+        <translation>1个问题</translation>
+    </message>
+    <message>
+        <source>%1 problems</source>
+        <translation>%1个问题</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第%1个，共%2个</translation>
+    </message>
+    <message>
+        <source>Do not check: %1</source>
+        <translation>不检查：%1</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>规则</translation>
+    </message>
+    <message>
+        <source>Which rules this project is checked by</source>
+        <translation>本工程按哪些规则检查</translation>
+    </message>
+    <message>
+        <source>Shows or hides the list of problems; F8 goes to the next one</source>
+        <translation>显示或隐藏问题列表；F8转到下一个</translation>
+    </message>
+</context>
+<context>
     <name>Desk::ProjectFiles</name>
     <message>
         <source>The project could not be opened</source>
@@ -1473,6 +1881,33 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>%1 of %2</source>
         <translation>第 %1 个，共 %2 个</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::Surface</name>
+    <message>
+        <source>Take</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Left picks and adds a digit, a double click sets it; right or Enter takes, Esc cancels</source>
+        <translation>左键选取并添加数字，双击重设为该数字；右键或回车确认，Esc 取消</translation>
+    </message>
+    <message>
+        <source>Left picks; right, double click or Enter takes, Esc cancels</source>
+        <translation>左键选取；右键、双击或回车确认，Esc 取消</translation>
+    </message>
+    <message>
+        <source>Left picks, right or Enter takes, Esc cancels</source>
+        <translation>左键选取，右键或回车确认，Esc 取消</translation>
+    </message>
+    <message>
+        <source>Not taken yet: take it or cancel?</source>
+        <translation>文字尚未确认：确认还是取消？</translation>
     </message>
 </context>
 </TS>

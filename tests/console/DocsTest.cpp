@@ -72,6 +72,7 @@ TEST_P(Docs, ShowWhatTheProgramsPrint)
     EXPECT_EQ(document, renewed);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Docs, testing::Values("panels.md", "host.md", "drawings.md", "hitrate.md"));
+INSTANTIATE_TEST_SUITE_P(All, Docs,
+                         testing::Values("panels.md", "host.md", "drawings.md", "hitrate.md", "checks.md"));
 
 }  // namespace

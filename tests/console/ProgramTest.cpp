@@ -66,7 +66,7 @@ TEST(Program, AnswersWithStatusZero)
         {"rank stirrups --beam 'KL2(7)' --table",
          {"concrete grade 30", " *     8  A8@100/200(4)", "table"}},
         {"rank elevation", {"\"      \"      -  no elevation: 6 blanks"}},
-        {"rank name --limit 3", {">      1  KL9(7)", "... and 19 more; --limit 0 shows all 22"}},
+        {"rank name --limit 3", {">      1  KL15(7)", "... and 10 more; --limit 0 shows all 13"}},
         {"rank section --beam XL1 --limit 0", {"*", "300x500/350", "what XL1 has now"}},
         {"table bars --width 300 --area 1000 --top 2B16",
          {"on 2B16\n  2B16  5B16\n", "Bottom bars\n  3B20\n"}},

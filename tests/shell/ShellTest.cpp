@@ -209,8 +209,11 @@ TEST_F(Shell, ARightPressIsEatenWholeAndDeliversOnce)
 // Tab into a list, arrows to the row, and a key that stands for the right button.
 TEST_F(Shell, TheKeyboardAlonePicksAndConfirms)
 {
-    const std::pair<Qt::Key, Qt::KeyboardModifiers> confirms[] = {
-        {Qt::Key_Menu, {}}, {Qt::Key_F10, Qt::ShiftModifier}, {Qt::Key_Return, Qt::ControlModifier}};
+    const std::pair<Qt::Key, Qt::KeyboardModifiers> confirms[] = {{Qt::Key_Menu, {}},
+                                                                  {Qt::Key_F10, Qt::ShiftModifier},
+                                                                  {Qt::Key_Return, Qt::ControlModifier},
+                                                                  {Qt::Key_Return, {}},
+                                                                  {Qt::Key_Enter, Qt::KeypadModifier}};
     for (const auto& [key, with] : confirms) {
         Stage stage(Shown::Vertical);
         const auto press = [&](Qt::Key pressed, Qt::KeyboardModifiers held = {}) {
@@ -230,12 +233,198 @@ TEST_F(Shell, TheKeyboardAlonePicksAndConfirms)
         press(Qt::Key_Down);
         tabTo(Diameters);
         press(Qt::Key_End);
-        press(Qt::Key_Return);
         EXPECT_TRUE(stage.item.taken.empty());
         press(key, with);
         EXPECT_EQ(stage.item.taken, std::vector<std::string>{"B32"});
         EXPECT_EQ(stage.panel->IsWindowVisible(), FALSE);
     }
+}
+
+// Of each pop-up a row or key that changes what it holds, and what is taken then.
+struct Change {
+    Shown kind;
+    int id;
+    int row;  // -1: the control is a box or a button of the keypad
+    const char* taken;
+};
+constexpr Change Changes[] = {
+    {Shown::Name, 1316, -1, ""},  // one letter is no name: it stays in the panel's hands
+    {Shown::Section, 1317, 0, "120x600"},  {Shown::Elevation, 1320, -1, "7"},
+    {Shown::Stirrup, 1358, 1, ""},         {Shown::Bars, 1338, 1, "2B10"},
+    {Shown::Horizontal, 1112, 2, "A8@50"}, {Shown::Vertical, 1307, 3, "A14"},
+};
+
+class StripTest : public Shell {
+protected:
+    QWidget& Surface(const Stage& stage) { return *display.WidgetOf(stage.panel->m_hWnd); }
+    template <class Part>
+    Part& Of(const Stage& stage, const char* name)
+    {
+        return *Surface(stage).findChild<Part*>(QLatin1String(name));
+    }
+    void Do(const Change& change, Stage& stage)
+    {
+        QWidget& widget = *display.WidgetOf(stage.panel->GetDlgItem(change.id)->m_hWnd);
+        if (change.row < 0) {
+            widget.setFocus();
+            QTest::keyClicks(&widget, "7");
+            return;
+        }
+        auto& list = dynamic_cast<QListView&>(widget);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                          list.visualRect(list.model()->index(change.row, 0)).center());
+        if (change.kind == Shown::Bars) {  // a piece needs a diameter too
+            Do({Shown::Section, 1340, 0, ""}, stage);
+        }
+    }
+};
+
+// The strip's buttons and Enter do what the right button and Esc do on the panel.
+TEST_F(StripTest, TakesAndCancelsAsTheMouseDoes)
+{
+    const QTimer answers;  // a name without spans brings a message
+    QObject::connect(&answers, &QTimer::timeout, [] {
+        if (QWidget* const box = QApplication::activeModalWidget()) {
+            box->close();
+        }
+    });
+    const_cast<QTimer&>(answers).start(1);
+    for (const Change& change : Changes) {
+        SCOPED_TRACE(static_cast<int>(change.kind));
+        const auto after = [&](const std::function<void(Stage&)>& leave) {
+            Stage stage(change.kind);
+            Do(change, stage);
+            leave(stage);
+            EXPECT_EQ(stage.panel->IsWindowVisible(), FALSE);
+            return stage.item.taken;
+        };
+        const std::vector<std::string> wanted = after([&](Stage& stage) {
+            QTest::mouseClick(&Surface(stage), Qt::RightButton, {}, Surface(stage).rect().bottomLeft());
+        });
+        EXPECT_EQ(wanted.empty() ? "" : wanted.front(), std::string(change.taken));
+        EXPECT_EQ(after([&](Stage& stage) {
+                      QTest::mouseClick(&Of<QPushButton>(stage, "take"), Qt::LeftButton);
+                  }),
+                  wanted);
+        EXPECT_EQ(after([&](Stage& stage) { QTest::keyClick(&Surface(stage), Qt::Key_Return); }), wanted);
+        EXPECT_EQ(
+            after([&](Stage& stage) { QTest::mouseClick(&Of<QLabel>(stage, "hint"), Qt::RightButton); }),
+            wanted);
+        EXPECT_TRUE(after([&](Stage& stage) {
+                        QTest::mouseClick(&Of<QPushButton>(stage, "cancel"), Qt::LeftButton);
+                    }).empty());
+    }
+}
+
+// The whole of it fits on the screen, shows its texts in full, and no part of it covers the panel.
+TEST_F(StripTest, FitsOverEachPanelOnTheScreen)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    for (const double zoom : {1.0, 1.25, 1.5, 2.0}) {
+        display.SetZoom(zoom);
+        for (const Shown kind : AllShown) {
+            SCOPED_TRACE("zoom " + std::to_string(zoom) + ", pop-up " +
+                         std::to_string(static_cast<int>(kind)));
+            Stage stage(kind);
+            for (const QPoint corner : {screen.topLeft(), screen.bottomRight(), screen.center()}) {
+                stage.panel->ShowWindow(SW_HIDE);
+                display.OpenBeside(stage.panel->m_hWnd, QRect(corner, QSize(50, 20)), nullptr,
+                                   "KL1(7)  Stirrups");
+                const QRect all = Surface(stage).geometry();
+                if (all.width() < screen.width() && all.height() < screen.height()) {
+                    EXPECT_TRUE(screen.contains(all));
+                }
+                const auto& panel =
+                    *display.WidgetOf(FindWindowRecord(stage.panel->m_hWnd)->children[0])->parentWidget();
+                const CRect& place = FindWindowRecord(stage.panel->m_hWnd)->place;
+                EXPECT_EQ(panel.mapToGlobal(QPoint()),
+                          QPoint(qRound(place.left * zoom), qRound(place.top * zoom)));
+                EXPECT_EQ(Of<QLabel>(stage, "title").text(), "KL1(7)  Stirrups");
+                for (const char* const name : {"title", "take", "cancel", "hint"}) {
+                    const QWidget& part = Of<QWidget>(stage, name);
+                    EXPECT_TRUE(part.parentWidget()->rect().contains(part.geometry())) << name;
+                    EXPECT_GE(part.height(), part.fontMetrics().height()) << name;
+                }
+            }
+        }
+    }
+}
+
+// A press elsewhere loses nothing that is composed: the panel stays and asks, and the press is nobody's.
+TEST_F(StripTest, WhatIsComposedOutlivesAPressElsewhere)
+{
+    QPushButton other("other");
+    other.show();
+    int clicks = 0;
+    QObject::connect(&other, &QPushButton::clicked, [&clicks] { ++clicks; });
+    for (const Change& change : Changes) {
+        SCOPED_TRACE(static_cast<int>(change.kind));
+        if (change.kind == Shown::Name) {
+            continue;  // a message comes first
+        }
+        Stage stage(change.kind);
+        const QString hint = Of<QLabel>(stage, "hint").text();
+        Do(change, stage);
+        const std::string before = stage.State();
+        clicks = 0;
+        QTest::mouseClick(&other, Qt::LeftButton);
+        QTest::mouseDClick(&other, Qt::LeftButton);
+        QTest::keyClick(&other, Qt::Key_Space);
+        EXPECT_EQ(clicks, 0);
+        EXPECT_EQ(stage.State(), before);
+        EXPECT_NE(Of<QLabel>(stage, "hint").text(), hint) << "asks";
+        QTest::mouseClick(&Surface(stage), Qt::LeftButton, {}, QPoint(1, 1));
+        EXPECT_EQ(Of<QLabel>(stage, "hint").text(), hint) << "goes on";
+        QTest::mouseClick(&Of<QPushButton>(stage, "cancel"), Qt::LeftButton);
+        QTest::mouseClick(&other, Qt::LeftButton);
+        EXPECT_EQ(clicks, 1);
+        EXPECT_TRUE(stage.item.taken.empty());
+    }
+}
+
+// A row is dimmed when a click leaves it unselected, and no other row is; digits are typed, not selected.
+TEST_F(StripTest, DimsTheRowsThatAClickDoesNotChoose)
+{
+    struct State {
+        Shown kind;
+        int barKind;
+        bool whole;  // a text that fills every list
+    };
+    std::size_t dimmed = 0;
+    for (const State& state :
+         {State{Shown::Name, 0, true}, State{Shown::Section, 0, true}, State{Shown::Stirrup, 0, false},
+          State{Shown::Stirrup, 0, true}, State{Shown::Bars, 0, false}, State{Shown::Bars, 0, true},
+          State{Shown::Bars, 3, true}, State{Shown::Horizontal, 0, true},
+          State{Shown::Vertical, 0, true}}) {
+        SCOPED_TRACE("pop-up " + std::to_string(static_cast<int>(state.kind)));
+        const auto open = [&](Stage& stage) {
+            Desk::PanelUse use;
+            use.barKind = state.barKind;
+            use.pieceType = state.barKind;
+            if (state.whole) {
+                use.text = state.kind == Shown::Name      ? "KL1(2)"
+                           : state.kind == Shown::Section ? "300x600"
+                                                          : "A8@200(2)";
+                use.pieces = {"2B25"};
+            }
+            stage.made->Open(use);
+        };
+        Stage first(state.kind);
+        for (const HWND child : FindWindowRecord(first.panel->m_hWnd)->children) {
+            const WindowRecord control = *FindWindowRecord(child);
+            for (int row = 0; control.enabled && row < control.RowCount(); ++row) {
+                Stage stage(state.kind);
+                open(stage);
+                auto& list = dynamic_cast<CListBox&>(*stage.panel->GetDlgItem(control.id));
+                const bool canChoose = Desk::CanChoose(list, row);
+                UserPicksRow(list.m_hWnd, row);
+                const bool isDigit = state.kind == Shown::Name && (control.id == 1062 || control.id == 547);
+                EXPECT_EQ(canChoose, isDigit || list.GetCurSel() == row) << control.id << " row " << row;
+                dimmed += canChoose ? 0 : 1;
+            }
+        }
+    }
+    EXPECT_GT(dimmed, 10U);
 }
 
 TEST_F(Shell, AMessageWaitsForItsAnswerAndLeavesThePanel)

@@ -45,9 +45,9 @@ TEST_F(MainWindowTest, TypingNarrowsAndEnterTakes)
     QTest::keyClick(&typed, Qt::Key_Return);
     EXPECT_EQ(Text(Bars), "7B28") << "what no row holds is taken as typed";
     Trigger("type");
-    QTest::keyClicks(&typed, "2B1");
+    QTest::keyClicks(&typed, "2B10");
     QTest::keyClick(&typed, Qt::Key_Return, Qt::ControlModifier);
-    EXPECT_EQ(Text(Bars), "2B1");
+    EXPECT_EQ(Text(Bars), "2B10");
     // An empty line leaves undo and the steps from beam to beam to the window.
     const auto claims = [&](Qt::Key key) {
         QKeyEvent override(QEvent::ShortcutOverride, key, Qt::ControlModifier);
@@ -60,7 +60,7 @@ TEST_F(MainWindowTest, TypingNarrowsAndEnterTakes)
     EXPECT_TRUE(claims(Qt::Key_Z));
     QTest::keyClick(&typed, Qt::Key_Escape);
     EXPECT_TRUE(typed.text().isEmpty());
-    EXPECT_EQ(Text(Bars), "2B1");
+    EXPECT_EQ(Text(Bars), "2B10");
 }
 
 TEST_F(MainWindowTest, ATextTypedInFullIsTakenBeforeOneThatBeginsWithIt)

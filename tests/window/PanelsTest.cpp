@@ -1,6 +1,7 @@
 // The module's panels and pickers in the desk.
 #include "tests/window/MainWindow.h"
 
+#include "desk/window/FieldNames.h"
 #include "platform/windows/Hands.h"
 
 namespace {
@@ -103,5 +104,28 @@ TEST_F(MainWindowTest, APanelDoesNotOutliveItsProject)
     window.Files().Open(QString());
     EXPECT_FALSE(IsWindow(panel) && CWnd::FromHandle(panel)->IsWindowVisible());
     EXPECT_FALSE(window.Panels().Serving());
+}
+
+// The strip names the annotation; work on it outlives a press on another one.
+TEST_F(MainWindowTest, APressElsewhereAsksForWhatIsComposed)
+{
+    constexpr int Diameter = 1340;
+    const FieldRef other{false, 1, Field::Stirrup};
+    Press(Bars);
+    window.OpenPanel();
+    QWidget& panel = *display.WidgetOf(window.Panels().Window());
+    EXPECT_EQ(panel.findChild<QLabel*>("title")->text(),
+              OwnerName(window.TheDocument().Get(), Bars) + "  " + FieldName(Field::TopBars));
+    const std::string before = Text(Bars);
+    ClickRow(Diameter, "14");
+    const QPoint elsewhere =
+        window.Drawing().viewport()->mapFromGlobal(window.Drawing().OnScreen(other).center());
+    QTest::mouseClick(window.Drawing().viewport(), Qt::LeftButton, {}, elsewhere);
+    EXPECT_EQ(window.Chosen(), Bars);
+    ASSERT_EQ(window.Panels().Serving(), Bars);
+    QTest::mouseClick(panel.findChild<QPushButton*>("take"), Qt::LeftButton);
+    EXPECT_FALSE(window.Panels().Serving());
+    EXPECT_EQ(Text(Bars), "2B14");
+    EXPECT_NE(before, "2B14");
 }
 }  // namespace

@@ -11,6 +11,7 @@
 #include <tuple>
 #include <vector>
 
+#include "desk/project/Generate.h"
 #include "desk/ranking/Proposals.h"
 #include "desk/reading/Bars.h"
 #include "desk/reading/BeamName.h"
@@ -261,11 +262,20 @@ inline Project FloorOf(const std::uint8_t* data, std::size_t size, bool withInPl
     return project;
 }
 
-// How the proposer differs from the yardstick, or from itself after a change or for the text it asks of;
-// empty where it does not.
-inline std::string Differs(const std::vector<std::uint8_t>& bytes, bool withInPlace)
+// A floor as the benchmarks have them, without the steel that would come before the rule.
+inline Project Generated(int beams, unsigned seed)
 {
-    Project project = FloorOf(bytes.data(), bytes.size(), withInPlace);
+    Project project = GenerateProject(beams, seed);
+    for (Beam& beam : project.beams) {
+        beam.area = {};
+    }
+    return project;
+}
+
+// How the proposer differs from the yardstick, where texts go by its rule alone, or from itself after a
+// change or for the text it asks of; empty where it does not.
+inline std::string Differs(const Project& project, bool isByTheRuleAlone)
+{
     Project changed = project;
     Proposer kept(changed);
     for (std::size_t i = 0; i < project.beams.size(); ++i) {
@@ -314,7 +324,7 @@ inline std::string Differs(const std::vector<std::uint8_t>& bytes, bool withInPl
                     return where + ": at place " + std::to_string(place) + ", not " +
                            std::to_string(kept.PlaceOf(ref, known));
                 }
-                if (withInPlace || ref.field == Field::Name) {
+                if (!isByTheRuleAlone || ref.field == Field::Name) {
                     continue;
                 }
                 // Slow: a part of the fields at each beam.

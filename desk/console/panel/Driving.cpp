@@ -19,7 +19,7 @@ namespace Desk::Panels {
 
 namespace {
 
-struct Form {
+struct PanelForm {
     PanelKind kind;
     const char* title;
     const char* name;
@@ -27,7 +27,7 @@ struct Form {
     const char* example;  // what follows "beamdesk panel " or "beamdesk events "
 };
 
-constexpr Form Forms[] = {
+constexpr PanelForm PanelForms[] = {
     {PanelKind::Name, "Beam name panel", "name", "Beam name: type, serial, span count, cantilever mark",
      "name --do \"click 552 KL; click 1062 3; type 1654 2; click 549 A; right\""},
     {PanelKind::Section, "Section panel", "section", "Section: width and height",
@@ -67,7 +67,7 @@ std::vector<Step> StepsOf(const DriveOptions& options)
                         : ReadSteps(ReadAll(file), file == "-" ? "standard input" : file);
 }
 
-void Drive(const Driving& driving, const Form& form, DriveOptions& options, std::ostream& out)
+void Drive(const Driving& driving, const PanelForm& form, DriveOptions& options, std::ostream& out)
 {
     constexpr const char* Routes[] = {", to the property item", ", to the parent window", ", to the host"};
     Setup& setup = options.setup;
@@ -113,7 +113,7 @@ void AddRoute(CLI::App& command, const std::shared_ptr<DriveOptions>& options)
         ->type_name(isName ? "item|parent" : "item|parent|host");
 }
 
-void AddForm(CLI::App& parent, const Driving& driving, const Form& form, std::ostream& out)
+void AddForm(CLI::App& parent, const Driving& driving, const PanelForm& form, std::ostream& out)
 {
     const auto options = std::make_shared<DriveOptions>();
     options->setup.kind = form.kind;
@@ -150,7 +150,7 @@ void AddDriving(CLI::App& program, const Driving& driving, std::ostream& out)
     CLI::App& command = *program.add_subcommand(driving.name, driving.about);
     command.require_subcommand(1);
     std::string examples = "Examples:";
-    for (const Form& form : Forms) {
+    for (const PanelForm& form : PanelForms) {
         AddForm(command, driving, form, out);
         examples += std::string("\n  beamdesk ") + driving.name + " " + form.example;
     }
