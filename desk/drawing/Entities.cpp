@@ -25,9 +25,12 @@ std::string Upper(std::string_view text)
     return upper;
 }
 
-class Reader {
+class EntityReader {
 public:
-    Reader(std::string bytes, const std::string& name) : m_name(name) { m_file.bytes = std::move(bytes); }
+    EntityReader(std::string bytes, const std::string& name) : m_name(name)
+    {
+        m_file.bytes = std::move(bytes);
+    }
 
     DxfFile Read()
     {
@@ -370,7 +373,7 @@ private:
 
 DxfFile ReadEntities(std::string bytes, const std::string& name)
 {
-    return Reader(std::move(bytes), name).Read();
+    return EntityReader(std::move(bytes), name).Read();
 }
 
 std::string ValueOf(const DxfFile& file, const TextEntity& text)
