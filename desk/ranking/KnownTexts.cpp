@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <tuple>
 
 #include "desk/reading/Bars.h"
 #include "desk/reading/Section.h"
@@ -219,10 +220,13 @@ Votes KnownTexts::VotesFor(const FieldRef& ref, int end) const
         const auto same = std::find_if(votes.texts.begin(), votes.texts.end(),
                                        [text](const VotedText& each) { return each.text == text; });
         votes.all += worth;
-        if (same != votes.texts.end()) {
-            same->votes += worth;
-        } else {
-            votes.texts.push_back({text, worth, by, voter, pool.UseOf(text, uses)});
+        if (same == votes.texts.end()) {
+            votes.texts.push_back({text, worth, by, voter, points, pool.UseOf(text, uses)});
+            return;
+        }
+        same->votes += worth;
+        if (points > same->points) {
+            std::tie(same->first, same->beam, same->points) = std::tuple(by, voter, points);
         }
     };
     std::vector<Voter> voters;

@@ -23,6 +23,7 @@ struct VotedText {
     std::int64_t votes = 0;
     VoteOf first = VoteOf::BeamAlike;  // the strongest of its voters
     int beam = 0;                      // that one, where it is a beam alike
+    int points = 0;                    // of that one
     TextUse use;
 };
 
