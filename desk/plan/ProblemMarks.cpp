@@ -40,8 +40,10 @@ void DrawSign(QPainter& painter, const QPolygonF& box, double least, const PlanC
 
 void FloorView::SetProblems(std::vector<FieldRef> refs)
 {
-    m_problems = std::move(refs);
-    viewport()->update();
+    if (refs != m_problems) {
+        m_problems = std::move(refs);
+        viewport()->update();
+    }
 }
 
 void FloorView::drawForeground(QPainter* painter, const QRectF& exposed)
