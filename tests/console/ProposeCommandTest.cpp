@@ -1,8 +1,6 @@
 // beamdesk propose as a person and as a program call it.
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
@@ -11,19 +9,13 @@
 #include "desk/project/Failure.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/project/SafeFile.h"
+#include "tests/console/Shell.h"
 #include "tests/support/Folder.h"
 
 namespace Desk {
 namespace {
 
-std::string Propose(const std::string& line)
-{
-    std::ostringstream out;
-    CLI::App program;
-    AddProposeCommand(program, out);
-    program.parse("propose " + line);
-    return out.str();
-}
+std::string Propose(const std::string& line) { return PrintedBy(AddProposeCommand, "propose " + line); }
 
 TEST(ProposeCommand, TellsTheSameInBothForms)
 {
