@@ -54,6 +54,10 @@ TEST(ProposeCommand, AWholeBeamGetsWhatItLacksInAProjectAndInADrawing)
         const std::string asked = "--project " + file + " --beam " + beam.name;
         const auto told = nlohmann::json::parse(Propose(asked + " --json"));
         ASSERT_FALSE(told["proposals"].empty()) << file;
+        const Answer piped =
+            RunShell("beamdesk propose --project - --json --beam '" + beam.name + "' < '" + file + "'");
+        ASSERT_EQ(piped.status, 0) << piped.out;
+        EXPECT_EQ(nlohmann::json::parse(piped.out)["proposals"], told["proposals"]);
         const auto& texts = told["proposals"][0]["texts"];
         ASSERT_TRUE(texts.contains("stirrup") && texts.contains("bottomBars")) << texts;
         EXPECT_FALSE(texts.contains("topBars")) << "it has them";
