@@ -40,9 +40,10 @@ void DrawSign(QPainter& painter, const QPolygonF& box, double least, const PlanC
 
 void FloorView::SetProblems(std::vector<FieldRef> refs)
 {
-    if (refs != m_problems) {
-        m_problems = std::move(refs);
-        viewport()->update();
+    const bool showsSigns = !m_problems.empty() || !refs.empty();
+    m_problems = std::move(refs);
+    if (showsSigns) {
+        viewport()->update();  // a sign lies beside its text, which may be another now
     }
 }
 
