@@ -202,11 +202,11 @@ private:
             }
             break;
         case EntityType::SeqEnd:
-            if (m_polyline) {
+            if (m_polyline && m_polyline->whole60 == 0) {
                 AddChain(PolylinePoints(m_polyline->vertices, (m_polyline->whole70 & 1) != 0),
                          m_polyline->layer, m_polyline->extrusion < 0);
-                m_polyline.reset();
             }
+            m_polyline.reset();
             break;
         case EntityType::Circle:
             AddChain(ArcPoints(e.at, e.number40, 0.0, 360.0), e.layer, e.extrusion < 0);
