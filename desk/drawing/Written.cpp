@@ -373,7 +373,7 @@ private:
 
     void AddBeside(const OwnerBeam& owner, const TextLine& like, const InPlace& text)
     {
-        constexpr double FromEdge = 150.0;         // mm
+        constexpr double BesideEdge = 150.0;       // mm
         constexpr double AwayFromSupport = 100.0;  // mm
         const double unit = m_parts.file.unitScale;
         const double height = like.place.height;
@@ -389,7 +389,7 @@ private:
             u = (at + owner.supports[static_cast<std::size_t>(number)] - length) / 2.0;
         }
         const bool isAbove = isSupport || text.role == Role::TopSpan;
-        const double side = owner.width / 2.0 + FromEdge * unit;
+        const double side = owner.width / 2.0 + BesideEdge * unit;
         const double v = owner.axis + (isAbove ? side : -side - height);
         const bool isPositioned = text.place.height > 0.0;
         m_splices.AddCopy(like,

@@ -80,7 +80,7 @@ private:
     bool m_isDrawn = false;  // its outline and its leader are among the drawing's own lines
     std::size_t m_index;
     BeamBody m_body;
-    QRectF m_bounds;  // asked for several times at each redraw
+    QRectF m_bounds;   // asked for several times at each redraw
     QPointF m_corner;  // of the block
     std::vector<Label> m_block;
     std::vector<Label> m_fixed;  // in local coordinates
