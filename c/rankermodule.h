@@ -154,7 +154,7 @@ RK_API rk_status RK_CALL rk_context_set_callbacks(rk_context context, const rk_c
 
 /* ---- texts ---- */
 
-/* UTF-8 into GBK bytes (code page 936 without its single byte 0x80) and back. */
+/* UTF-8 into GBK bytes (code page 936) and back. */
 RK_API rk_status RK_CALL rk_gbk_from_utf8(const char* text, size_t text_length, char* buffer, size_t size,
                                           size_t* length);
 RK_API rk_status RK_CALL rk_utf8_from_gbk(const char* text, size_t text_length, char* buffer, size_t size,

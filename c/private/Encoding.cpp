@@ -17,6 +17,9 @@ constexpr unsigned FirstLead = 0x81;
 constexpr unsigned FirstTrail = 0x40;
 constexpr unsigned NoTrail = 0x7F;  // the one trail byte in between that is none
 
+constexpr char16_t Euro = u'\u20AC';  // the one character besides ASCII that has a single byte
+constexpr unsigned EuroByte = 0x80;
+
 unsigned Byte(char ch) { return static_cast<unsigned char>(ch); }
 
 // Where a trail byte's character is in its row.
@@ -36,6 +39,7 @@ const std::vector<std::uint16_t>& BytesByCharacter()
             }
         }
         made[NoCharacter] = 0;
+        made[Euro] = EuroByte;
         return made;
     }();
     return bytes;
@@ -133,11 +137,13 @@ std::optional<std::string> Utf8FromGbk(std::string_view gbk)
             utf8 += gbk[i];
             continue;
         }
-        if (!IsGbkLead(gbk[i]) || i + 1 == gbk.size() || !IsGbkTrail(gbk[i + 1])) {
-            return std::nullopt;
+        char16_t character = NoCharacter;
+        if (Byte(gbk[i]) == EuroByte) {
+            character = Euro;
+        } else if (IsGbkLead(gbk[i]) && i + 1 < gbk.size() && IsGbkTrail(gbk[i + 1])) {
+            const unsigned lead = Byte(gbk[i]);
+            character = GbkRows[lead - FirstLead][ColumnOf(Byte(gbk[++i]))];
         }
-        const unsigned lead = Byte(gbk[i]);
-        const char16_t character = GbkRows[lead - FirstLead][ColumnOf(Byte(gbk[++i]))];
         if (character == NoCharacter) {
             return std::nullopt;
         }

@@ -10,7 +10,7 @@ namespace RankerC {
 // True for a text of ASCII characters without a zero byte, which is the same in both.
 [[nodiscard]] bool IsPlain(std::string_view text) noexcept;
 
-// The two bytes of a character in GBK, lead byte high, or the one of an ASCII character; 0 when it has
+// The two bytes of a character in GBK, lead byte high, or the one byte that it has; 0 when it has
 // none.
 [[nodiscard]] unsigned GbkOf(char32_t character) noexcept;
 

@@ -60,7 +60,7 @@ bool Send(Panel& panel, MSG msg)
 bool SendMouse(Panel& panel, const CWnd& target, std::int32_t message, CPoint inside, int turn)
 {
     constexpr int Farthest = 0x7FFF;  // what half a parameter holds
-    if (std::max(std::abs(inside.x), std::abs(inside.y)) > Farthest) {
+    if (std::min(inside.x, inside.y) < -Farthest || std::max(inside.x, inside.y) > Farthest) {
         throw Refusal{RK_BAD_ARGUMENT, "the position is too far from the control"};
     }
     CPoint onScreen = inside;
@@ -117,9 +117,12 @@ void Click(Panel& panel, std::int32_t control, std::int32_t row, std::int32_t ho
     CPoint point(place.Width() / 2, place.Height() / 2);
     if (row != -1) {
         CListBox& list = NeedListBox(panel, control);
-        list.SetTopIndex(NeedIndex("row", row, list.GetCount()));
         CRect of;
-        list.GetItemRect(row, &of);
+        list.GetItemRect(NeedIndex("row", row, list.GetCount()), &of);
+        if (of.left < 0 || of.top < 0 || of.right > place.right || of.bottom > place.bottom) {
+            list.SetTopIndex(row);
+            list.GetItemRect(row, &of);
+        }
         point = CPoint(of.left + Inside, of.top + Inside);
     }
     if (!IsShown(panel) || target.IsWindowVisible() == FALSE) {
