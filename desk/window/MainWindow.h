@@ -4,9 +4,11 @@
 
 #include <optional>
 #include <set>
+#include <utility>
 
 #include "desk/Toolkit.h"
 #include "desk/shell/QtDisplay.h"
+#include "desk/window/HelpWindow.h"
 #include "desk/window/ImportExport.h"
 #include "desk/window/Languages.h"
 #include "desk/window/Menus.h"
@@ -53,6 +55,10 @@ private:
     void ConnectParts();
     void ConnectCommands();
     void ShowTitle();
+    void ShowSettings();
+    [[nodiscard]] int Setting(const char* key, int usual, std::pair<int, int> range) const;
+
+    static constexpr std::pair<int, int> RecoverySeconds{1, 600};
 
     QSettings m_settings;
     Document m_document;
@@ -70,6 +76,7 @@ private:
     ImportExport* m_exchanges;
     SearchLine* m_search;
     QLabel* m_counts;
+    HelpWindow* m_help;
 };
 
 }  // namespace Desk
