@@ -75,12 +75,19 @@ void MainWindow::ShowSettings()
 {
     auto* const dialog = new SettingsDialog(*this, m_menus->Choices());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->AddNumber("recoverySeconds", QT_TRANSLATE_NOOP("Desk", "&Recovery copy after a change"),
-                      QT_TRANSLATE_NOOP("Desk", "%1 s"), MainWindow::RecoverySeconds,
-                      static_cast<int>(m_document.RecoveryDelay().count()), [this](int seconds) {
-                          m_settings.setValue("recoverySeconds", seconds);
-                          m_document.SetRecoveryDelay(std::chrono::seconds(seconds));
-                      });
+    const auto add = [&](const NumberSetting& setting, const char* caption, const char* unit,
+                         const auto& apply) {
+        dialog->AddNumber(setting.key, caption, unit, setting.range, Get(setting),
+                          [this, setting, apply](int value) {
+                              m_settings.setValue(setting.key, value);
+                              apply(value);
+                          });
+    };
+    add(TextPixels, QT_TRANSLATE_NOOP("Desk", "&Least height of annotations"),
+        QT_TRANSLATE_NOOP("Desk", "%1 pixels"), [this](int pixels) { m_floor->SetLeastTextSize(pixels); });
+    add(RecoverySeconds, QT_TRANSLATE_NOOP("Desk", "&Recovery copy after a change"),
+        QT_TRANSLATE_NOOP("Desk", "%1 s"),
+        [this](int seconds) { m_document.SetRecoveryDelay(std::chrono::seconds(seconds)); });
     dialog->open();
 }
 

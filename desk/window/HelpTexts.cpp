@@ -6,18 +6,20 @@ namespace {
 
 // clang-format off
 constexpr HelpRow OnPlan[] = {
-    {QT_TRANSLATE_NOOP("Desk", "1, 2, 3"), QT_TRANSLATE_NOOP("Desk", "takes the proposal with this number")},
-    {QT_TRANSLATE_NOOP("Desk", "0"), QT_TRANSLATE_NOOP("Desk", "takes the proposal for the whole beam")},
+    {"1, 2, 3", QT_TRANSLATE_NOOP("Desk", "takes the proposal with this number")},
+    {"0", QT_TRANSLATE_NOOP("Desk", "takes the proposal for the whole beam")},
     {QT_TRANSLATE_NOOP("Desk", "Space"), QT_TRANSLATE_NOOP("Desk", "goes to the next annotation that a text is wanted for")},
     {QT_TRANSLATE_NOOP("Desk", "Enter"), QT_TRANSLATE_NOOP("Desk", "goes to the line for a text, where digits are its characters")},
     {QT_TRANSLATE_NOOP("Desk", "any other character"), QT_TRANSLATE_NOOP("Desk", "begins a text and narrows the list")},
-    {QT_TRANSLATE_NOOP("Desk", "Esc"), QT_TRANSLATE_NOOP("Desk", "lets go what is chosen; goes back a step while a beam is drawn")},
+    {"Esc", QT_TRANSLATE_NOOP("Desk", "lets go what is chosen; goes back a step while a beam is drawn")},
     {QT_TRANSLATE_NOOP("Desk", "arrow keys, Page Up, Page Down"), QT_TRANSLATE_NOOP("Desk", "move the plan")},
 };
 constexpr HelpRow OfMouse[] = {
     {QT_TRANSLATE_NOOP("Desk", "click"), QT_TRANSLATE_NOOP("Desk", "chooses an annotation; on a beam or wall itself its name")},
     {QT_TRANSLATE_NOOP("Desk", "Ctrl+click"), QT_TRANSLATE_NOOP("Desk", "chooses one more, or lets it go")},
     {QT_TRANSLATE_NOOP("Desk", "double click"), QT_TRANSLATE_NOOP("Desk", "opens the panel on the annotation")},
+    {QT_TRANSLATE_NOOP("Desk", "right button"), QT_TRANSLATE_NOOP("Desk", "chooses it too, and offers what can be done with it")},
+    {QT_TRANSLATE_NOOP("Desk", "rest on a beam or wall"), QT_TRANSLATE_NOOP("Desk", "tells its name, its texts and the area of their bars")},
     {QT_TRANSLATE_NOOP("Desk", "drag with Shift"), QT_TRANSLATE_NOOP("Desk", "a frame: to the right it chooses the beams in it, to the left those that it touches as well")},
     {QT_TRANSLATE_NOOP("Desk", "drag of bare ground, or with the middle button"), QT_TRANSLATE_NOOP("Desk", "moves the plan")},
     {QT_TRANSLATE_NOOP("Desk", "wheel"), QT_TRANSLATE_NOOP("Desk", "zooms at the pointer")},
@@ -27,12 +29,12 @@ constexpr HelpRow InLine[] = {
     {QT_TRANSLATE_NOOP("Desk", "Up, Down, Page Up, Page Down"), QT_TRANSLATE_NOOP("Desk", "move the mark in the list")},
     {QT_TRANSLATE_NOOP("Desk", "Enter"), QT_TRANSLATE_NOOP("Desk", "takes the marked text")},
     {QT_TRANSLATE_NOOP("Desk", "Ctrl+Enter"), QT_TRANSLATE_NOOP("Desk", "takes the text as typed")},
-    {QT_TRANSLATE_NOOP("Desk", "Esc"), QT_TRANSLATE_NOOP("Desk", "clears the line, then goes back to the plan")},
+    {"Esc", QT_TRANSLATE_NOOP("Desk", "clears the line, then goes back to the plan")},
 };
 constexpr HelpRow InPanel[] = {
     {QT_TRANSLATE_NOOP("Desk", "left button"), QT_TRANSLATE_NOOP("Desk", "picks")},
     {QT_TRANSLATE_NOOP("Desk", "right button, Enter, menu key"), QT_TRANSLATE_NOOP("Desk", "takes the composed text")},
-    {QT_TRANSLATE_NOOP("Desk", "Esc"), QT_TRANSLATE_NOOP("Desk", "leaves the annotation as it was")},
+    {"Esc", QT_TRANSLATE_NOOP("Desk", "leaves the annotation as it was")},
     {QT_TRANSLATE_NOOP("Desk", "Tab, arrow keys"), QT_TRANSLATE_NOOP("Desk", "go from list to list; pick in a list")},
 };
 constexpr HelpRow Typed[] = {
@@ -82,6 +84,7 @@ constexpr HelpRow Reasons[] = {
 constexpr HelpRow Status[] = {
     {QT_TRANSLATE_NOOP("Desk", "at the left"), QT_TRANSLATE_NOOP("Desk", "what was done and why, what is waited for, or what the command under the pointer does")},
     {QT_TRANSLATE_NOOP("Desk", "\u26A0 3 problems"), QT_TRANSLATE_NOOP("Desk", "how many problems the checks find; a press shows and hides their list")},
+    {QT_TRANSLATE_NOOP("Desk", "3 of 41"), QT_TRANSLATE_NOOP("Desk", "which of the annotations or problems found it is")},
     {QT_TRANSLATE_NOOP("Desk", "at the right"), QT_TRANSLATE_NOOP("Desk", "the beams and walls of the project")},
 };
 constexpr HelpRow InSection[] = {

@@ -40,7 +40,7 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
     m_menus->ToolBar().addWidget(m_search);
     statusBar()->addPermanentWidget(&m_problems->Count());
     statusBar()->addPermanentWidget(m_counts);
-    m_document.SetRecoveryDelay(std::chrono::seconds(Setting("recoverySeconds", 2, RecoverySeconds)));
+    m_document.SetRecoveryDelay(std::chrono::seconds(Get(RecoverySeconds)));
     AddSettings();
     ConnectParts();
     ConnectCommands();
@@ -50,14 +50,16 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
     resize(QSize(1440, 900).boundedTo(room));
     restoreGeometry(m_settings.value("geometry").toByteArray());
     resize(size().boundedTo(room));
-    m_floor->SetLeastTextSize(m_settings.value("leastTextSize", 9.0).toDouble());
+    m_floor->SetLeastTextSize(Get(TextPixels));
     restoreState(m_settings.value("state").toByteArray());
     m_floor->setFocus();
 }
 
-int MainWindow::Setting(const char* key, int usual, std::pair<int, int> range) const
+// The settings file may have been changed by hand.
+int MainWindow::Get(const NumberSetting& setting) const
 {
-    return std::clamp(m_settings.value(key, usual).toInt(), range.first, range.second);
+    return std::clamp(m_settings.value(setting.key, setting.usual).toInt(), setting.range.first,
+                      setting.range.second);
 }
 
 // What the View menu sets: which docks show, and one of several each.

@@ -56,9 +56,14 @@ private:
     void ConnectCommands();
     void ShowTitle();
     void ShowSettings();
-    [[nodiscard]] int Setting(const char* key, int usual, std::pair<int, int> range) const;
-
-    static constexpr std::pair<int, int> RecoverySeconds{1, 600};
+    struct NumberSetting {
+        const char* key;
+        int usual;
+        std::pair<int, int> range;
+    };
+    static constexpr NumberSetting RecoverySeconds{"recoverySeconds", 2, {1, 600}};
+    static constexpr NumberSetting TextPixels{"leastTextSize", 9, {6, 24}};
+    [[nodiscard]] int Get(const NumberSetting& setting) const;
 
     QSettings m_settings;
     Document m_document;
