@@ -1881,6 +1881,10 @@
         <source>Ctrl+Enter</source>
         <translation>Ctrl+回车</translation>
     </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>
@@ -2002,6 +2006,14 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>The beams of a drawing are where it has their outlines, which the drawing program changes. Saved as a project they can be changed here.</source>
         <translation>图纸中的梁以图上的轮廓线为准，轮廓线须在绘图程序中修改。另存为工程后可在此修改。</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>正在打开 %1</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>正在保存 %1</translation>
     </message>
 </context>
 <context>
@@ -2195,6 +2207,14 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>The printer takes nothing</source>
         <translation>打印机无法接收</translation>
+    </message>
+    <message>
+        <source>Importing %1</source>
+        <translation>正在导入 %1</translation>
+    </message>
+    <message>
+        <source>Exporting %1</source>
+        <translation>正在导出 %1</translation>
     </message>
 </context>
 <context>
