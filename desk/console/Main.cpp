@@ -5,7 +5,6 @@
 #include <string>
 
 #include <CLI/CLI.hpp>
-#include <QtCore/QCoreApplication>
 
 #include "desk/console/Commands.h"
 #include "desk/console/Print.h"
@@ -84,7 +83,6 @@ int RunDesk(int argc, char** argv)
         "Annotations of reinforced-concrete beams and walls, picked instead of typed: in a window, or "
         "ranked on the command line by what a project already holds.",
         "beamdesk");
-    QCoreApplication::setApplicationVersion(QStringLiteral(BEAMDESK_VERSION));
     program.set_version_flag("--version", "beamdesk " BEAMDESK_VERSION);
     program.set_help_all_flag("--help-all", "Print the help of all commands and exit");
     program.require_subcommand(0, 1);

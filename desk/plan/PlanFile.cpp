@@ -63,7 +63,8 @@ void PaintItems(QPainter& painter, const QGraphicsScene& scene, const QPointF& c
                               QTransform::fromTranslate(corner.x(), corner.y());
     painter.setWorldTransform(toPage * before);
     painter.setClipRect(shown);
-    const QList<QGraphicsItem*> items = scene.items(Qt::AscendingOrder);
+    const QList<QGraphicsItem*> items =
+        scene.items(shown, Qt::IntersectsItemBoundingRect, Qt::AscendingOrder);
     for (qsizetype i = 0; i < items.size(); ++i) {
         TellProgress(static_cast<std::size_t>(i), static_cast<std::size_t>(items.size()));
         QStyleOptionGraphicsItem option;

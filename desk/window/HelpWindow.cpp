@@ -122,7 +122,7 @@ void HelpWindow::Fill()
         paragraph(link("keys", keys) + link("meanings", meanings) + link("version", version)) +
         heading("keys", keys) + TablesOf(KeysBesideMenus(), colors) + OfMenus() +
         heading("meanings", meanings) + TablesOf(Meanings(), colors) + heading("version", version) +
-        paragraph(QStringLiteral("beamdesk ") + QCoreApplication::applicationVersion()) +
+        paragraph(QCoreApplication::applicationVersion()) +
         paragraph(tr(
             "A small drafting desk for the annotations of reinforced-concrete beams and walls: it offers "
             "the texts that you most likely want, and panels that compose them by mouse.")) +
