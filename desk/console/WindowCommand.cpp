@@ -21,7 +21,9 @@ void AddWindowCommand(CLI::App& program)
         .add_option("--report", *report, "Keep a JSON file up to date with what the window shows and where")
         ->type_name("FILE");
     command.footer("Examples:\n  beamdesk window\n  beamdesk window tower.json");
-    command.callback([project, report] { RunWindow(project->c_str(), report->c_str()); });
+    command.callback([&program, project, report] {
+        RunWindow(project->c_str(), report->c_str(), program.version().c_str());
+    });
 }
 
 }  // namespace Desk

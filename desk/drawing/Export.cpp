@@ -8,6 +8,7 @@
 #include "desk/drawing/ExportBoxes.h"
 #include "desk/drawing/ExportFile.h"
 #include "desk/drawing/ExportLayout.h"
+#include "desk/project/Progress.h"
 #include "desk/project/SafeFile.h"
 
 namespace Desk {
@@ -100,6 +101,7 @@ std::string FormatDrawing(const Project& project)
         }
     }
     for (const BeamOnPlan& beam : beams) {
+        TellProgress(static_cast<std::size_t>(&beam - beams.data()), beams.size());
         const char* const layer = beam.isUp ? "BEAM_TEXT_Y" : "BEAM_TEXT_X";
         if (beam.leader) {
             file.Line(layer, *beam.leader);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "desk/drawing/Parts.h"
+#include "desk/project/Progress.h"
 #include "desk/project/ProjectFile.h"
 
 namespace Desk {
@@ -44,13 +45,17 @@ public:
             m_kept = ParseProject(companion, CompanionFile(name).string());
         }
         m_parts->file = ReadEntities(std::move(bytes), name);
+        TellProgress(1, Steps);
         m_parts->placed = PlaceEntities(m_parts->file, name);
+        TellProgress(2, Steps);
         m_parts->found = FindTexts(m_parts->file, m_parts->placed);
+        TellProgress(3, Steps);
     }
 
     std::unique_ptr<Drawing::Parts> Read()
     {
         FindOwners();
+        TellProgress(4, Steps);
         m_parts->project.title = m_kept.title;
         m_parts->project.walls = std::move(m_kept.walls);
         m_parts->project.axesAcross = std::move(m_kept.axesAcross);
@@ -291,6 +296,7 @@ private:
     }
 
     static constexpr std::size_t None = ~std::size_t{0};
+    static constexpr std::size_t Steps = 5;  // of about the same length
 
     std::unique_ptr<Drawing::Parts> m_parts;
     Project m_kept;                     // what the companion holds

@@ -8,6 +8,7 @@
 
 #include "desk/plan/FloorItems.h"
 #include "desk/project/Failure.h"
+#include "desk/project/Progress.h"
 #include "desk/project/SafeFile.h"
 
 namespace Desk {
@@ -52,6 +53,29 @@ QSizeF PaperFor(const QSizeF& plan)
     return needed;
 }
 
+// The scene as its own rendering draws it, item by item so that it can be cut off between two.
+void PaintItems(QPainter& painter, const QGraphicsScene& scene, const QPointF& corner, double dotsAMm,
+                const QRectF& shown)
+{
+    const QTransform before = painter.worldTransform();
+    const QTransform toPage = QTransform::fromTranslate(-shown.left(), -shown.top()) *
+                              QTransform::fromScale(dotsAMm, dotsAMm) *
+                              QTransform::fromTranslate(corner.x(), corner.y());
+    painter.setWorldTransform(toPage * before);
+    painter.setClipRect(shown);
+    const QList<QGraphicsItem*> items =
+        scene.items(shown, Qt::IntersectsItemBoundingRect, Qt::AscendingOrder);
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        TellProgress(static_cast<std::size_t>(i), static_cast<std::size_t>(items.size()));
+        QStyleOptionGraphicsItem option;
+        option.exposedRect = items[i]->boundingRect();
+        painter.save();
+        painter.setWorldTransform(items[i]->sceneTransform(), true);
+        items[i]->paint(&painter, &option, nullptr);
+        painter.restore();
+    }
+}
+
 QString Escaped(const std::string& text) { return QString::fromStdString(text).toHtmlEscaped(); }
 
 void Paint(QPaintDevice& device, QGraphicsScene& scene, const QRectF& shown, const QSizeF& paper,
@@ -60,7 +84,8 @@ void Paint(QPaintDevice& device, QGraphicsScene& scene, const QRectF& shown, con
     QPainter painter(&device);
     const QSizeF size = shown.size() / scale * DotsAMm;
     const QPointF middle(paper.width() / 2.0 * DotsAMm, paper.height() / 2.0 * DotsAMm);
-    scene.render(&painter, QRectF(middle - QPointF(size.width() / 2.0, size.height() / 2.0), size), shown);
+    PaintItems(painter, scene, middle - QPointF(size.width() / 2.0, size.height() / 2.0), DotsAMm / scale,
+               shown);
 }
 
 QByteArray AsPdf(QGraphicsScene& scene, const QRectF& shown, const QSizeF& paper, double scale,
@@ -146,7 +171,7 @@ double PrintPlan(const Project& project, const Backdrop* behind, QPagedPaintDevi
     const QSizeF size = shown.size() / scale * dotsAMm;
     const QPointF corner((painter.viewport().width() - size.width()) / 2.0,
                          (painter.viewport().height() - size.height()) / 2.0);
-    scene.render(&painter, QRectF(corner, size), shown);
+    PaintItems(painter, scene, corner, dotsAMm / scale, shown);
     return scale;
 }
 

@@ -32,6 +32,7 @@ void SectionSketch::SetBeam(const Beam* beam, Field field)
     m_field = field;
     m_layout = beam != nullptr ? LayOutSection(*beam, field) : SectionLayout();
     setToolTip(Warnings().join('\n'));
+    setAccessibleDescription(Spoken());
     update();
 }
 
@@ -164,6 +165,22 @@ void SectionSketch::PaintNotes(QPainter& painter, const QRectF& room, const QRec
         draw(y + LineHeight, SteelOf(note),
              faulty ? Warning() : palette().color(QPalette::PlaceholderText));
     }
+}
+
+// All that is drawn, for who does not see it.
+QString SectionSketch::Spoken() const
+{
+    QStringList parts;
+    if (!m_isEmpty && m_layout.size.width > 0) {
+        parts << QStringLiteral("%1x%2").arg(m_layout.size.width).arg(m_layout.size.height)
+              << Where(m_field);
+    }
+    for (const SectionNote& note : m_layout.notes) {
+        parts << QString::fromStdString(note.text) << SteelOf(note);
+    }
+    parts += m_isEmpty ? QStringList() : Warnings();
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
 }
 
 QStringList SectionSketch::Warnings() const

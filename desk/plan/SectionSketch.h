@@ -24,6 +24,7 @@ private:
     [[nodiscard]] static QString SteelOf(const SectionNote& note);
     [[nodiscard]] int NotesWidth() const;
     void PaintNotes(QPainter& painter, const QRectF& room, const QRectF& section) const;
+    [[nodiscard]] QString Spoken() const;
     [[nodiscard]] QStringList Warnings() const;
     [[nodiscard]] bool IsFaulty(Field field) const;
     [[nodiscard]] QColor Warning() const;

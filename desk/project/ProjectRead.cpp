@@ -6,6 +6,7 @@
 
 #include "desk/project/Encoding.h"
 #include "desk/project/Failure.h"
+#include "desk/project/Progress.h"
 #include "desk/project/ProjectFields.h"
 #include "desk/project/SafeFile.h"
 
@@ -103,6 +104,9 @@ private:
         }
         items.reserve(list->size());
         for (std::size_t i = 0; i < list->size(); ++i) {
+            if constexpr (std::is_same_v<Item, Beam>) {
+                TellProgress(i, list->size());
+            }
             items.push_back(ReadItem<Item>(std::move((*list)[i]), path / i));
         }
         *list = Json::array();  // each item keeps its own

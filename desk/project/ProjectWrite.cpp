@@ -3,8 +3,10 @@
 
 #include <algorithm>
 #include <optional>
+#include <type_traits>
 
 #include "desk/project/Failure.h"
+#include "desk/project/Progress.h"
 #include "desk/project/ProjectFields.h"
 #include "desk/project/SafeFile.h"
 
@@ -128,6 +130,9 @@ void WriteList(const std::vector<Item>& items, Json& list)
 {
     list = Json::array();
     for (const Item& item : items) {
+        if constexpr (std::is_same_v<Item, Beam>) {
+            TellProgress(list.size(), items.size());
+        }
         list.push_back(Written(item));
     }
 }

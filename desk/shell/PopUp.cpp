@@ -1,6 +1,7 @@
 #include "desk/shell/PopUp.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "desk/shell/Panel.h"
 #include "desk/shell/QtDisplay.h"
@@ -184,6 +185,53 @@ QString Shown(const CString& text) { return QString::fromStdString(Texts().utf8F
 int CaretInWidget(const WindowRecord& box)
 {
     return static_cast<int>(Shown(box.text.Left(box.caret)).size());
+}
+
+namespace {
+
+struct LabelName {
+    const char* label;
+    const char* name;
+};
+
+constexpr LabelName LabelNames[] = {
+    {"梁类型", QT_TRANSLATE_NOOP("Desk", "Beam type")},
+    {"序号", QT_TRANSLATE_NOOP("Desk", "Number")},
+    {"跨数", QT_TRANSLATE_NOOP("Desk", "Spans")},
+    {"悬挑", QT_TRANSLATE_NOOP("Desk", "Cantilever")},
+    {"梁宽", QT_TRANSLATE_NOOP("Desk", "Beam width")},
+    {"梁高", QT_TRANSLATE_NOOP("Desk", "Beam height")},
+    {"标高", QT_TRANSLATE_NOOP("Desk", "Elevation")},
+    {"钢筋符", QT_TRANSLATE_NOOP("Desk", "Grade sign")},
+    {"钢筋种类", QT_TRANSLATE_NOOP("Desk", "Steel grade")},
+    {"直径", QT_TRANSLATE_NOOP("Desk", "Diameter")},
+    {"加密间距", QT_TRANSLATE_NOOP("Desk", "Tight spacing")},
+    {"加密肢数", QT_TRANSLATE_NOOP("Desk", "Legs where tight")},
+    {"间距", QT_TRANSLATE_NOOP("Desk", "Spacing")},
+    {"肢数", QT_TRANSLATE_NOOP("Desk", "Legs")},
+    {"钢筋成份", QT_TRANSLATE_NOOP("Desk", "Type of the piece")},
+    {"钢筋数", QT_TRANSLATE_NOOP("Desk", "Number of bars")},
+    {"上下排", QT_TRANSLATE_NOOP("Desk", "Upper and lower row")},
+    {"分隔符", QT_TRANSLATE_NOOP("Desk", "Separator")},
+};
+
+}  // namespace
+
+void NameControls(const WindowRecord& popUp, const std::function<QWidget*(HWND)>& widgetOf)
+{
+    QString name;
+    for (const HWND child : popUp.children) {
+        const WindowRecord& control = *FindWindowRecord(child);
+        if (control.kind == WindowKind::Label) {
+            const QString label = Shown(control.text);
+            const auto isIt = [&](const LabelName& each) { return label == QString::fromUtf8(each.label); };
+            const auto row = std::find_if(std::begin(LabelNames), std::end(LabelNames), isIt);
+            name = row != std::end(LabelNames) ? QCoreApplication::translate("Desk", row->name) : name;
+        } else if (QWidget* const widget = widgetOf(child); widget && control.kind != WindowKind::Button) {
+            widget->setAccessibleName(
+                control.IsMultiColumn() ? QCoreApplication::translate("Desk", "Composed pieces") : name);
+        }
+    }
 }
 
 QWidget* MakeControl(const WindowRecord& control, QWidget* panel)

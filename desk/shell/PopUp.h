@@ -1,6 +1,8 @@
 // The controls of a pop-up, built from their records and kept equal to them.
 #pragma once
 
+#include <functional>
+
 #include "desk/shell/Scale.h"
 #include "platform/windows/Display.h"
 
@@ -33,6 +35,9 @@ private:
 // The text of an edit box as Unicode, and its caret as a position in that.
 [[nodiscard]] QString Shown(const CString& text);
 [[nodiscard]] int CaretInWidget(const WindowRecord& box);
+
+// Accessible names for a pop-up's boxes and lists, of the label before each, in the interface's language.
+void NameControls(const WindowRecord& popUp, const std::function<QWidget*(HWND)>& widgetOf);
 
 // A widget for a control, inside its pop-up's panel, equal to its record.
 [[nodiscard]] QWidget* MakeControl(const WindowRecord& control, QWidget* panel);

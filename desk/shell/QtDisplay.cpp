@@ -146,6 +146,8 @@ void QtDisplay::OpenBeside(HWND popUp, const QRect& field, QWidget* owner, const
         return;
     }
     surface->SetTitle(title);
+    surface->setAccessibleName(title);
+    NameControls(*FindWindowRecord(popUp), [this](HWND control) { return WidgetOf(control); });
     surface->TakePlace(*FindWindowRecord(popUp), m_private->Now());
     constexpr int Gap = 4;
     const QScreen* screen = QGuiApplication::screenAt(field.center());

@@ -75,6 +75,8 @@ void Surface::ShowTexts()
 {
     m_take->setText(tr("Take"));
     m_cancel->setText(tr("Cancel"));
+    m_take->setToolTip(tr("Takes the composed text (Enter)"));
+    m_cancel->setToolTip(tr("Leaves the annotation as it was (Esc)"));
     m_hint->setText(m_asks ? Question() : Hint());
     m_hint->setForegroundRole(m_asks ? QPalette::HighlightedText : QPalette::WindowText);
     m_hint->setBackgroundRole(m_asks ? QPalette::Highlight : QPalette::Window);

@@ -23,14 +23,4 @@ void Tell(QWidget* over, const QString& what, const QString& why)
         {{QCoreApplication::translate("Desk", "OK"), QMessageBox::AcceptRole}});
 }
 
-void ShowAbout(QWidget* over)
-{
-    const QString what = QCoreApplication::translate(
-        "Desk",
-        "A small drafting desk for the annotations of reinforced-concrete beams and walls: it offers "
-        "the texts that you most likely want, and panels that compose them by mouse.");
-    Ask(over, "about", QMessageBox::NoIcon, what, {},
-        {{QCoreApplication::translate("Desk", "OK"), QMessageBox::AcceptRole}});
-}
-
 }  // namespace Desk

@@ -1,4 +1,4 @@
-// Message boxes: questions, what did not work, what the program is.
+// Message boxes: questions, what did not work.
 #pragma once
 
 #include "desk/Toolkit.h"
@@ -17,7 +17,5 @@ int Ask(QWidget* over, const char* name, QMessageBox::Icon icon, const QString& 
 
 // Says over a window what did not work, and why.
 void Tell(QWidget* over, const QString& what, const QString& why);
-
-void ShowAbout(QWidget* over);
 
 }  // namespace Desk

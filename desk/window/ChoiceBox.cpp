@@ -157,13 +157,14 @@ void ChoiceBox::Retranslate()
     m_proposals->Retranslate();
     m_typed->setAccessibleName(tr("Text"));
     m_rows->setAccessibleName(tr("Texts"));
+    setAccessibleName(tr("Texts"));
     m_typed->setToolTip(tr("Enter takes the marked text, Ctrl+Enter the text as typed.\n"
                            "In the drawing 1 to 3 take a proposal and 0 the whole beam's; Enter, Ctrl+T or "
                            "a click here first types a text that begins with such a digit."));
     m_table->setText(tr("&Table rows"));
     m_table->setToolTip(tr("Rows of the reference table for the beam's width and required steel"));
     m_panel->setText(tr("Compose... (F4)"));
-    m_panel->setToolTip(tr("Opens the panel that composes the text by mouse"));
+    m_panel->setToolTip(tr("Opens the panel that composes the text by mouse (F4)"));
     if (m_isEmpty) {
         m_owner->setText(tr("Click an annotation in the drawing"));
     }

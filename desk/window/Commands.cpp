@@ -1,7 +1,7 @@
 // MainWindow: what the commands of its menus do.
-#include "desk/window/Ask.h"
 #include "desk/window/MainWindow.h"
 #include "desk/window/QuantitiesDialog.h"
+#include "desk/window/SettingsDialog.h"
 #include "desk/window/Steps.h"
 
 namespace Desk {
@@ -44,7 +44,9 @@ void MainWindow::ConnectCommands()
     m_menus->On("fit", m_floor, &FloorView::Fit);
     m_menus->On("zoomIn", m_floor, [this] { m_floor->ZoomBy(1.25); });
     m_menus->On("zoomOut", m_floor, [this] { m_floor->ZoomBy(0.8); });
-    m_menus->On("about", this, [this] { ShowAbout(this); });
+    m_menus->On("settings", this, &MainWindow::ShowSettings);
+    m_menus->On("help", m_help, &HelpWindow::Start);
+    m_menus->On("about", this, [this] { m_help->StartAtVersion(); });
     const auto step = [this](const char* command, auto where, int by) {
         m_menus->On(command, m_selection, [this, where, by] {
             m_selection->GoTo(where(m_document.Get(), m_selection->Chosen(), by));
@@ -67,6 +69,26 @@ void MainWindow::ConnectCommands()
         }
     });
     m_menus->On("findPrevious", this, [this] { m_selection->Find(m_search->Wanted(), -1); });
+}
+
+void MainWindow::ShowSettings()
+{
+    auto* const dialog = new SettingsDialog(*this, m_menus->Choices());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    const auto add = [&](const NumberSetting& setting, const char* caption, const char* unit,
+                         const auto& apply) {
+        dialog->AddNumber(setting.key, caption, unit, setting.range, Get(setting),
+                          [this, setting, apply](int value) {
+                              m_settings.setValue(setting.key, value);
+                              apply(value);
+                          });
+    };
+    add(TextPixels, QT_TRANSLATE_NOOP("Desk", "&Least height of annotations"),
+        QT_TRANSLATE_NOOP("Desk", "%1 pixels"), [this](int pixels) { m_floor->SetLeastTextSize(pixels); });
+    add(RecoverySeconds, QT_TRANSLATE_NOOP("Desk", "&Recovery copy after a change"),
+        QT_TRANSLATE_NOOP("Desk", "%1 s"),
+        [this](int seconds) { m_document.SetRecoveryDelay(std::chrono::seconds(seconds)); });
+    dialog->open();
 }
 
 }  // namespace Desk

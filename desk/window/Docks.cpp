@@ -157,6 +157,8 @@ void Docks::Redraw()
     m_propertyDock->setWindowTitle(tr("Properties"));
     m_sketchDock->setWindowTitle(tr("Section"));
     m_choices->Retranslate();
+    m_properties->setAccessibleName(m_propertyDock->windowTitle());
+    m_sketch->setAccessibleName(m_sketchDock->windowTitle());
     m_properties->Show(m_document.Get(), std::nullopt);  // its rows are made anew
     Show(m_chosen, m_together);
 }

@@ -12,7 +12,7 @@ namespace Desk {
 
 namespace {
 
-constexpr int RecoveryDelay = 2000;  // ms from a change to its recovery copy
+constexpr std::chrono::seconds UsualDelay(2);  // from a change to its recovery copy
 
 template <class Owner>
 bool LeavesPlan(const EditsOf<Owner>& edits)
@@ -48,7 +48,7 @@ Document::Document(const QString& recoveryFolder, QObject* parent)
     : QObject(parent), m_recovery(recoveryFolder)
 {
     m_recoverySoon.setSingleShot(true);
-    m_recoverySoon.setInterval(RecoveryDelay);
+    SetRecoveryDelay(UsualDelay);
     connect(&m_recoverySoon, &QTimer::timeout, this, &Document::WriteRecoveryCopy);
 }
 

@@ -2,6 +2,7 @@
 // and its recovery copy.
 #pragma once
 
+#include <chrono>
 #include <map>
 #include <optional>
 #include <string>
@@ -81,6 +82,12 @@ public:
     void DropRecoveryCopy();
     // Writes the recovery copy at once instead of a moment after a change.
     void WriteRecoveryCopy();
+    // From a change to its recovery copy.
+    void SetRecoveryDelay(std::chrono::seconds delay) { m_recoverySoon.setInterval(delay); }
+    [[nodiscard]] std::chrono::seconds RecoveryDelay() const
+    {
+        return std::chrono::duration_cast<std::chrono::seconds>(m_recoverySoon.intervalAsDuration());
+    }
 
 signals:
     void TextChanged(const Desk::FieldRef& ref);                // each text of a step

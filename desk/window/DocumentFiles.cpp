@@ -5,6 +5,7 @@
 #include "desk/project/ProjectFile.h"
 #include "desk/window/Document.h"
 #include "desk/window/Languages.h"
+#include "desk/window/Watched.h"
 
 namespace Desk {
 
@@ -36,7 +37,8 @@ void Document::OpenNew(Project project, bool imported)
 void Document::Open(const QString& file)
 {
     const QString path = QFileInfo(file).absoluteFilePath();
-    Opened opened = OpenFile(path.toStdString());
+    Opened opened = Watched(tr("Opening %1").arg(QFileInfo(path).fileName()),
+                            [&] { return OpenFile(path.toStdString()); });
     Replace(std::move(opened.project), path, std::move(opened.drawing));
 }
 
@@ -75,7 +77,7 @@ void Document::SaveAs(const QString& file)
     const QString path = QFileInfo(file).absoluteFilePath();
     const bool isProject = path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
     const bool asDrawing = IsDrawingName(path) || (m_drawing && !isProject);
-    Write(path.toStdString(), asDrawing);
+    Watched(tr("Saving %1").arg(QFileInfo(path).fileName()), [&] { Write(path.toStdString(), asDrawing); });
     if (asDrawing != m_drawing.has_value()) {
         Open(path);
         return;

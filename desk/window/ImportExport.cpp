@@ -12,6 +12,7 @@
 #include "desk/window/Ask.h"
 #include "desk/window/Languages.h"
 #include "desk/window/MakeDialogs.h"
+#include "desk/window/Watched.h"
 
 namespace Desk {
 
@@ -82,7 +83,9 @@ bool ImportExport::Import(const QString& file, const Choices& choices)
         const std::string name = file.toStdString();
         if (IsDrawing(ReadWholeFile(name))) {
             // As it would be opened from a project file: what only the drawing knows stays there.
-            const Project project = ParseProject(FormatProject(Drawing::Read(name).Get()), name);
+            const Project project = Watched(tr("Importing %1").arg(QFileInfo(file).fileName()), [&] {
+                return ParseProject(FormatProject(Drawing::Read(name).Get()), name);
+            });
             if (project.beams.empty()) {
                 throw Failure(Phrase("Desk", "%1: no beam's label could be read"), name);
             }
@@ -102,6 +105,8 @@ bool ImportExport::Import(const QString& file, const Choices& choices)
             Tell(&m_window, tr("%1 texts were not read").arg(texts.size() - read), Unread(texts));
         }
         return true;
+    } catch (const Cancelled&) {
+        return false;
     } catch (const Failure& failure) {
         Tell(&m_window, tr("Nothing was imported"), Told(failure));
         return false;
@@ -143,6 +148,7 @@ void ImportExport::AskExport()
 
 bool ImportExport::Export(const QString& file, double scale)
 {
+    const QString what = tr("Exporting %1").arg(QFileInfo(file).fileName());
     try {
         const bool isSelf = QFileInfo(file) == QFileInfo(m_document.File()) && QFileInfo::exists(file);
         if (isSelf) {
@@ -151,13 +157,17 @@ bool ImportExport::Export(const QString& file, double scale)
         }
         if (!file.endsWith(QLatin1String(".dxf"), Qt::CaseInsensitive)) {
             const std::optional<Backdrop> behind = Behind();
-            WritePlan(m_document.Get(), behind ? &*behind : nullptr, file.toStdString(), scale);
+            Watched(what, [&] {
+                WritePlan(m_document.Get(), behind ? &*behind : nullptr, file.toStdString(), scale);
+            });
         } else if (m_document.From() != nullptr) {
             throw Failure(Phrase("Desk", "%1: a drawing already; save it under this name"),
                           file.toStdString());
         } else {
-            ExportDrawing(m_document.Get(), file.toStdString());
+            Watched(what, [&] { ExportDrawing(m_document.Get(), file.toStdString()); });
         }
+    } catch (const Cancelled&) {
+        return false;
     } catch (const Failure& failure) {
         Tell(&m_window, tr("Nothing was exported"), Told(failure));
         return false;

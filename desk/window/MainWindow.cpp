@@ -19,7 +19,7 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
       m_files(new ProjectFiles(m_document, *this, m_menus->Recent(),
                                [this] { return m_selection->EndEdit(); })),
       m_exchanges(new ImportExport(m_document, *m_files, *this)), m_search(new SearchLine),
-      m_counts(new QLabel(this))
+      m_counts(new QLabel(this)), m_help(new HelpWindow(*this))
 {
     setObjectName("desk");
     m_counts->setObjectName("counts");
@@ -40,6 +40,7 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
     m_menus->ToolBar().addWidget(m_search);
     statusBar()->addPermanentWidget(&m_problems->Count());
     statusBar()->addPermanentWidget(m_counts);
+    m_document.SetRecoveryDelay(std::chrono::seconds(Get(RecoverySeconds)));
     AddSettings();
     ConnectParts();
     ConnectCommands();
@@ -49,9 +50,16 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
     resize(QSize(1440, 900).boundedTo(room));
     restoreGeometry(m_settings.value("geometry").toByteArray());
     resize(size().boundedTo(room));
-    m_floor->SetLeastTextSize(m_settings.value("leastTextSize", 9.0).toDouble());
+    m_floor->SetLeastTextSize(Get(TextPixels));
     restoreState(m_settings.value("state").toByteArray());
     m_floor->setFocus();
+}
+
+// The settings file may have been changed by hand.
+int MainWindow::Get(const NumberSetting& setting) const
+{
+    return std::clamp(m_settings.value(setting.key, setting.usual).toInt(), setting.range.first,
+                      setting.range.second);
 }
 
 // What the View menu sets: which docks show, and one of several each.
@@ -110,7 +118,8 @@ void MainWindow::ConnectParts()
         statusBar()->showMessage(tr("Saved: %1").arg(file));
     });
     connect(&m_display, &QtDisplay::Shown, this, [this] {
-        statusBar()->showMessage(tr("Panel: left button picks, right button takes the text, Esc leaves"));
+        statusBar()->showMessage(
+            tr("Panel: left button picks, right button or Enter takes the text, Esc leaves"));
     });
     connect(&m_display, &QtDisplay::Hidden, statusBar(), [this] { statusBar()->clearMessage(); });
     connect(&m_document, &Document::Replaced, m_search, [this] { m_search->Complete(m_document.Get()); });
@@ -154,6 +163,9 @@ void MainWindow::SetLanguage(Language language)
     m_problems->Retranslate();
     m_tools->Retranslate();
     m_docks->Redraw();
+    m_selection->Retranslate();
+    m_counts->setToolTip(tr("The beams and walls of the project"));
+    statusBar()->setAccessibleName(tr("Status line"));
     ShowTitle();
 }
 

@@ -4,9 +4,11 @@
 
 #include <optional>
 #include <set>
+#include <utility>
 
 #include "desk/Toolkit.h"
 #include "desk/shell/QtDisplay.h"
+#include "desk/window/HelpWindow.h"
 #include "desk/window/ImportExport.h"
 #include "desk/window/Languages.h"
 #include "desk/window/Menus.h"
@@ -53,6 +55,15 @@ private:
     void ConnectParts();
     void ConnectCommands();
     void ShowTitle();
+    void ShowSettings();
+    struct NumberSetting {
+        const char* key;
+        int usual;
+        std::pair<int, int> range;
+    };
+    static constexpr NumberSetting RecoverySeconds{"recoverySeconds", 2, {1, 600}};
+    static constexpr NumberSetting TextPixels{"leastTextSize", 9, {6, 24}};
+    [[nodiscard]] int Get(const NumberSetting& setting) const;
 
     QSettings m_settings;
     Document m_document;
@@ -70,6 +81,7 @@ private:
     ImportExport* m_exchanges;
     SearchLine* m_search;
     QLabel* m_counts;
+    HelpWindow* m_help;
 };
 
 }  // namespace Desk

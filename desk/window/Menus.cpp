@@ -55,6 +55,8 @@ constexpr Row Rows[] = {
     {"findNext", QT_TRANSLATE_NOOP("Desk", "Find &next"), QT_TRANSLATE_NOOP("Desk", "The next annotation found"), {}, Qt::Key_F3},
     {"findPrevious", QT_TRANSLATE_NOOP("Desk", "Find &previous"), QT_TRANSLATE_NOOP("Desk", "The previous annotation found"), {}, Qt::SHIFT | Qt::Key_F3},
     {"findAlike", QT_TRANSLATE_NOOP("Desk", "Find others with this &text"), QT_TRANSLATE_NOOP("Desk", "The next annotation with the same text"), {}, Qt::CTRL | Qt::SHIFT | Qt::Key_F},
+    Line,
+    {"settings", QT_TRANSLATE_NOOP("Desk", "Settin&gs..."), QT_TRANSLATE_NOOP("Desk", "Language, colours, sizes, how soon a recovery copy is written"), {}, Qt::CTRL | Qt::Key_Comma},
 
     Title(QT_TRANSLATE_NOOP("Desk", "&Draw")),
     {"beam", QT_TRANSLATE_NOOP("Desk", "&Beam"), QT_TRANSLATE_NOOP("Desk", "New beams, each between two positions"), {}, Qt::CTRL | Qt::Key_B},
@@ -88,7 +90,8 @@ constexpr Row Rows[] = {
     Line,
 
     Title(QT_TRANSLATE_NOOP("Desk", "&Help")),
-    {"about", QT_TRANSLATE_NOOP("Desk", "&About beamdesk"), QT_TRANSLATE_NOOP("Desk", "What this program is")},
+    {"help", QT_TRANSLATE_NOOP("Desk", "&Keys and signs"), QT_TRANSLATE_NOOP("Desk", "The keys, and what colours, signs and words mean"), {}, Qt::Key_F1},
+    {"about", QT_TRANSLATE_NOOP("Desk", "&About beamdesk"), QT_TRANSLATE_NOOP("Desk", "What this program is, its version and licences")},
 };
 // clang-format on
 
@@ -170,6 +173,7 @@ void Menus::AddChoice(const char* title, std::initializer_list<const char*> entr
 {
     QMenu* const menu = m_view->addMenu(QString());
     m_titles.push_back({menu, title});
+    m_choices.push_back(menu);
     auto* const group = new QActionGroup(menu);
     int number = 0;
     for (const char* const entry : entries) {
@@ -196,6 +200,9 @@ void Menus::Retranslate()
             texts.action->setToolTip(keys.isEmpty() ? hint : QStringLiteral("%1 (%2)").arg(hint, keys));
         }
     }
+    m_window.menuBar()->setAccessibleName(Translated(QT_TRANSLATE_NOOP("Desk", "Menus")));
+    m_bar->setWindowTitle(Translated(QT_TRANSLATE_NOOP("Desk", "Tool bar")));
+    m_bar->setAccessibleName(m_bar->windowTitle());
     for (const auto& [menu, title] : m_titles) {
         menu->setTitle(Translated(title));
     }

@@ -35,6 +35,9 @@ public:
     void AddChoice(const char* title, std::initializer_list<const char*> entries, int checked,
                    const std::function<void(int)>& chosen);
 
+    // What AddChoice added: titles and entries in the language of now, one entry checked.
+    [[nodiscard]] const QList<QMenu*>& Choices() const { return m_choices; }
+
     // Texts in the language that the application has now.
     void Retranslate();
 
@@ -51,6 +54,7 @@ private:
     QMenu* m_onPlan;
     QMenu* m_recent = nullptr;
     QMenu* m_view = nullptr;
+    QList<QMenu*> m_choices;
     QList<Texts> m_texts;
     QList<std::pair<QMenu*, const char*>> m_titles;
 };

@@ -45,6 +45,9 @@ void OpenTexts::Retranslate()
 {
     setWindowTitle(tr("Open texts"));
     m_rows->setHeaderLabels({tr("Text"), tr("Why it is open")});
+    m_rows->setAccessibleName(windowTitle());
+    m_rows->headerItem()->setToolTip(0, tr("A click on a row shows the text on the plan"));
+    m_rows->headerItem()->setToolTip(1, tr("Why nothing ties the text to a beam for certain"));
     m_point->setText(tr("Point to its beam"));
     m_point->setToolTip(tr("Then press the beam on the plan"));
     Fill();

@@ -37,6 +37,9 @@ QVariant ProblemRows::data(const QModelIndex& index, int role) const
 
 QVariant ProblemRows::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Horizontal && role == Qt::ToolTipRole) {
+        return tr("A click on a row chooses the annotation; its context menu switches the rule off");
+    }
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "desk/project/Failure.h"
+#include "desk/project/Progress.h"
 #include "desk/window/Ask.h"
 #include "desk/window/Folders.h"
 #include "desk/window/Languages.h"
@@ -37,6 +37,8 @@ bool ProjectFiles::Open(const QString& file)
             NoteRecent();
         }
         return true;
+    } catch (const Cancelled&) {
+        return false;
     } catch (const Failure& failure) {
         Tell(&m_window, tr("The project could not be opened"), Told(failure));
         return false;
@@ -145,6 +147,8 @@ bool ProjectFiles::SaveTo(const QString& file)
 {
     try {
         m_document.SaveAs(file);
+    } catch (const Cancelled&) {
+        return false;
     } catch (const Failure& failure) {
         Tell(&m_window, tr("The project could not be saved"), Told(failure));
         return false;

@@ -105,6 +105,9 @@ void PropertyGrid::Fill(int row, const QString& caption, const QString& value)
             item.setText(column, text);
         }
     }
+    if (QWidget* const open = itemWidget(&item, ButtonColumn)) {
+        open->setAccessibleName(tr("Compose: %1").arg(caption));
+    }
 }
 
 std::vector<PropertyGrid::DataLine> PropertyGrid::DataOf(const Project& project, const FieldRef& ref)
@@ -167,6 +170,7 @@ void PropertyGrid::AddText(const FieldRef& ref)
 {
     auto* const row = new QTreeWidgetItem(this);
     row->setFlags(row->flags() | Qt::ItemIsEditable);
+    row->setToolTip(CaptionColumn, tr("F2 or a second click edits the text, F4 composes it"));
     if (PanelOf(ref) == PanelKind::None) {
         return;
     }
@@ -176,7 +180,7 @@ void PropertyGrid::AddText(const FieldRef& ref)
                                                                       : indexOfTopLevelItem(row)));
     open->setAutoRaise(true);
     open->setFocusPolicy(Qt::NoFocus);
-    open->setToolTip(tr("Opens the panel that composes the text by mouse"));
+    open->setToolTip(tr("Opens the panel that composes the text by mouse (F4)"));
     connect(open, &QToolButton::clicked, this, [this, row] {
         setCurrentItem(row, ValueColumn);
         if (const std::optional<FieldRef> asked = RefOf(row)) {
@@ -190,6 +194,7 @@ void PropertyGrid::AddData()
 {
     auto* const row = new QTreeWidgetItem(this);
     row->setFlags(row->flags() | Qt::ItemIsEditable);
+    row->setToolTip(CaptionColumn, tr("F2 or a second click edits it"));
     row->setForeground(CaptionColumn, palette().brush(QPalette::PlaceholderText));
 }
 

@@ -52,6 +52,7 @@ public:
         m_type->setObjectName("type");
         m_rows->setObjectName("hits");
         FillChoices(from);
+        m_rows->setAccessibleName(Caption(QT_TRANSLATE_NOOP("Desk", "Hits")));
         m_rows->setColumnCount(4);
         m_rows->setRootIsDecorated(false);
         m_rows->setUniformRowHeights(true);
@@ -59,6 +60,8 @@ public:
                                  Caption(QT_TRANSLATE_NOOP("Desk", "Annotation")),
                                  Caption(QT_TRANSLATE_NOOP("Desk", "Now")),
                                  Caption(QT_TRANSLATE_NOOP("Desk", "Becomes"))});
+        m_rows->headerItem()->setToolTip(
+            0, Caption(QT_TRANSLATE_NOOP("Desk", "What stays ticked is replaced")));
         auto& rows = *new QFormLayout(this);
         rows.addRow(Caption(QT_TRANSLATE_NOOP("Desk", "Find")), m_what);
         rows.addRow(Caption(QT_TRANSLATE_NOOP("Desk", "Replace by")), m_by);

@@ -44,6 +44,12 @@ void SearchLine::Start()
     selectAll();
 }
 
-void SearchLine::Retranslate() { setPlaceholderText(tr("Find a name or text (Ctrl+F)")); }
+void SearchLine::Retranslate()
+{
+    setPlaceholderText(tr("Find a name or text (Ctrl+F)"));
+    setAccessibleName(tr("Find"));
+    setToolTip(tr("Ctrl+F comes here, Enter goes to the first annotation with the text, F3 to the next, "
+                  "Shift+F3 to the one before"));
+}
 
 }  // namespace Desk

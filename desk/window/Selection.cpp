@@ -126,6 +126,29 @@ void Selection::Show()
     m_floor.SetTogether(m_others);
     m_floor.SetChosen(m_chosen);
     m_docks.Show(m_chosen, m_others.size() + 1);
+    Describe();
+}
+
+void Selection::Retranslate()
+{
+    m_floor.setAccessibleName(tr("Plan"));
+    Describe();
+}
+
+// What a screen reader tells of the plan.
+void Selection::Describe()
+{
+    const Project& project = m_document.Get();
+    if (!m_chosen) {
+        m_floor.setAccessibleDescription(tr("Nothing is chosen"));
+        return;
+    }
+    const QString text = QString::fromStdString(TextAt(project, *m_chosen));
+    const QString one = QStringLiteral("%1, %2: %3")
+                            .arg(OwnerName(project, *m_chosen), FieldName(project, *m_chosen),
+                                 text.isEmpty() ? tr("no text yet") : text);
+    m_floor.setAccessibleDescription(m_others.empty() ? one
+                                                      : tr("%1 and %2 more").arg(one).arg(m_others.size()));
 }
 
 void Selection::Find(const QString& wanted, int by)

@@ -55,6 +55,9 @@ public:
     // Goes to the next annotation that a text is wanted for.
     void GoOn();
 
+    // What is told of the plan to who does not see it, in the language of now.
+    void Retranslate();
+
     // Opens the panel for the chosen annotation, beside its text in the drawing where that is in view.
     void OpenPanel();
     // Takes what an open editor of the properties holds; false when it was refused.
@@ -78,6 +81,7 @@ private:
     void Follow(const Exchanged& exchanged);
     void OpenPanelBeside(const QRect& field);
     void Show();
+    void Describe();
 
     Document& m_document;
     FloorView& m_floor;

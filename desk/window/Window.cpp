@@ -22,7 +22,7 @@ bool IsSet(const char* name)
 
 bool HasScreen() { return IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY") || IsSet("QT_QPA_PLATFORM"); }
 
-int RunWindow(const char* project, const char* report)
+int RunWindow(const char* project, const char* report, const char* version)
 {
     if (!HasScreen()) {
         throw Failure("there is no display to open a window on; beamdesk tour works without one");
@@ -35,6 +35,7 @@ int RunWindow(const char* project, const char* report)
     char* arguments[] = {name, nullptr};
     QApplication application(count, arguments);
     QCoreApplication::setApplicationName(QStringLiteral("beamdesk"));
+    QCoreApplication::setApplicationVersion(QString::fromUtf8(version));
     QCoreApplication::setOrganizationName(QStringLiteral("beamdesk"));
     QtDisplay display{{Utf8FromGbk, GbkFromUtf8}};
     MainWindow window(display);

@@ -7,6 +7,7 @@ namespace Desk {
 [[nodiscard]] bool HasScreen();
 
 // The desk on a project file, the sample for an empty name; report is a file for ScreenReport, or empty.
-int RunWindow(const char* project, const char* report);
+// The version is what the help tells, "beamdesk 0.1.0".
+int RunWindow(const char* project, const char* report, const char* version);
 
 }  // namespace Desk

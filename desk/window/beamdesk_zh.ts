@@ -240,10 +240,6 @@
         <translation>确定</translation>
     </message>
     <message>
-        <source>A small drafting desk for the annotations of reinforced-concrete beams and walls: it offers the texts that you most likely want, and panels that compose them by mouse.</source>
-        <translation>钢筋混凝土梁、墙标注的小型绘图台：按可能性排列候选文字，并可用鼠标在面板中组合标注。</translation>
-    </message>
-    <message>
         <source>Wall %1</source>
         <translation>墙 %1</translation>
     </message>
@@ -454,10 +450,6 @@
     <message>
         <source>&amp;About beamdesk</source>
         <translation>关于 beamdesk(&amp;A)</translation>
-    </message>
-    <message>
-        <source>What this program is</source>
-        <translation>程序说明</translation>
     </message>
     <message>
         <source>%1: the folder cannot be made</source>
@@ -1353,6 +1345,546 @@
         <source>&amp;Copy the text</source>
         <translation>复制文字(&amp;C)</translation>
     </message>
+    <message>
+        <source>Beam type</source>
+        <translation>梁类型</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>序号</translation>
+    </message>
+    <message>
+        <source>Spans</source>
+        <translation>跨数</translation>
+    </message>
+    <message>
+        <source>Cantilever</source>
+        <translation>悬挑</translation>
+    </message>
+    <message>
+        <source>Beam width</source>
+        <translation>梁宽</translation>
+    </message>
+    <message>
+        <source>Beam height</source>
+        <translation>梁高</translation>
+    </message>
+    <message>
+        <source>Elevation</source>
+        <translation>标高</translation>
+    </message>
+    <message>
+        <source>Grade sign</source>
+        <translation>钢筋符</translation>
+    </message>
+    <message>
+        <source>Steel grade</source>
+        <translation>钢筋种类</translation>
+    </message>
+    <message>
+        <source>Diameter</source>
+        <translation>直径</translation>
+    </message>
+    <message>
+        <source>Tight spacing</source>
+        <translation>加密间距</translation>
+    </message>
+    <message>
+        <source>Legs where tight</source>
+        <translation>加密肢数</translation>
+    </message>
+    <message>
+        <source>Spacing</source>
+        <translation>间距</translation>
+    </message>
+    <message>
+        <source>Legs</source>
+        <translation>肢数</translation>
+    </message>
+    <message>
+        <source>Type of the piece</source>
+        <translation>钢筋成份</translation>
+    </message>
+    <message>
+        <source>Number of bars</source>
+        <translation>钢筋数</translation>
+    </message>
+    <message>
+        <source>Upper and lower row</source>
+        <translation>上下排</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>分隔符</translation>
+    </message>
+    <message>
+        <source>Composed pieces</source>
+        <translation>已组成的钢筋</translation>
+    </message>
+    <message>
+        <source>&amp;Least height of annotations</source>
+        <translation>标注最小字高(&amp;L)</translation>
+    </message>
+    <message>
+        <source>%1 pixels</source>
+        <translation>%1 像素</translation>
+    </message>
+    <message>
+        <source>&amp;Recovery copy after a change</source>
+        <translation>修改后写恢复副本(&amp;R)</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒后</translation>
+    </message>
+    <message>
+        <source>takes the proposal with this number</source>
+        <translation>采用该序号的建议</translation>
+    </message>
+    <message>
+        <source>takes the proposal for the whole beam</source>
+        <translation>采用整根梁的建议</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空格键</translation>
+    </message>
+    <message>
+        <source>goes to the next annotation that a text is wanted for</source>
+        <translation>到下一个待填写的标注</translation>
+    </message>
+    <message>
+        <source>goes to the line for a text, where digits are its characters</source>
+        <translation>到文字输入框，此时数字作为文字输入</translation>
+    </message>
+    <message>
+        <source>any other character</source>
+        <translation>其他字符</translation>
+    </message>
+    <message>
+        <source>begins a text and narrows the list</source>
+        <translation>开始输入文字，同时筛选列表</translation>
+    </message>
+    <message>
+        <source>lets go what is chosen; goes back a step while a beam is drawn</source>
+        <translation>取消选择；画梁时退回一步</translation>
+    </message>
+    <message>
+        <source>arrow keys, Page Up, Page Down</source>
+        <translation>方向键、翻页键</translation>
+    </message>
+    <message>
+        <source>move the plan</source>
+        <translation>移动平面图</translation>
+    </message>
+    <message>
+        <source>click</source>
+        <translation>单击</translation>
+    </message>
+    <message>
+        <source>chooses an annotation; on a beam or wall itself its name</source>
+        <translation>选中标注；点在梁或墙上则选中其编号</translation>
+    </message>
+    <message>
+        <source>Ctrl+click</source>
+        <translation>Ctrl+单击</translation>
+    </message>
+    <message>
+        <source>chooses one more, or lets it go</source>
+        <translation>加选一个，或取消加选</translation>
+    </message>
+    <message>
+        <source>double click</source>
+        <translation>双击</translation>
+    </message>
+    <message>
+        <source>opens the panel on the annotation</source>
+        <translation>对该标注打开面板</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>右键</translation>
+    </message>
+    <message>
+        <source>chooses it too, and offers what can be done with it</source>
+        <translation>同样选中，并列出可用的命令</translation>
+    </message>
+    <message>
+        <source>rest on a beam or wall</source>
+        <translation>在梁或墙上停留</translation>
+    </message>
+    <message>
+        <source>tells its name, its texts and the area of their bars</source>
+        <translation>显示编号、各标注及其钢筋面积</translation>
+    </message>
+    <message>
+        <source>drag with Shift</source>
+        <translation>按住 Shift 拖动</translation>
+    </message>
+    <message>
+        <source>a frame: to the right it chooses the beams in it, to the left those that it touches as well</source>
+        <translation>框选：向右拖选中框内的梁，向左拖连同碰到的梁一起选中</translation>
+    </message>
+    <message>
+        <source>drag of bare ground, or with the middle button</source>
+        <translation>拖动空白处，或按住中键拖动</translation>
+    </message>
+    <message>
+        <source>moves the plan</source>
+        <translation>移动平面图</translation>
+    </message>
+    <message>
+        <source>wheel</source>
+        <translation>滚轮</translation>
+    </message>
+    <message>
+        <source>zooms at the pointer</source>
+        <translation>以指针为中心缩放</translation>
+    </message>
+    <message>
+        <source>drag of a handle</source>
+        <translation>拖动夹点</translation>
+    </message>
+    <message>
+        <source>moves an end of the chosen beam or wall</source>
+        <translation>移动选中梁或墙的端点</translation>
+    </message>
+    <message>
+        <source>Up, Down, Page Up, Page Down</source>
+        <translation>上、下方向键，翻页键</translation>
+    </message>
+    <message>
+        <source>move the mark in the list</source>
+        <translation>移动列表中的光标</translation>
+    </message>
+    <message>
+        <source>takes the marked text</source>
+        <translation>采用光标所在的文字</translation>
+    </message>
+    <message>
+        <source>takes the text as typed</source>
+        <translation>按输入的原样采用</translation>
+    </message>
+    <message>
+        <source>clears the line, then goes back to the plan</source>
+        <translation>清空输入框，再按回到平面图</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>左键</translation>
+    </message>
+    <message>
+        <source>picks</source>
+        <translation>点选</translation>
+    </message>
+    <message>
+        <source>right button, Enter, menu key</source>
+        <translation>右键、回车、菜单键</translation>
+    </message>
+    <message>
+        <source>takes the composed text</source>
+        <translation>采用组成的文字</translation>
+    </message>
+    <message>
+        <source>leaves the annotation as it was</source>
+        <translation>标注保持原样</translation>
+    </message>
+    <message>
+        <source>Tab, arrow keys</source>
+        <translation>Tab、方向键</translation>
+    </message>
+    <message>
+        <source>go from list to list; pick in a list</source>
+        <translation>在列表之间切换；在列表中点选</translation>
+    </message>
+    <message>
+        <source>a position, x and y in mm</source>
+        <translation>点的 x、y 坐标，单位 mm</translation>
+    </message>
+    <message>
+        <source>x and y from the position before</source>
+        <translation>相对上一点的 x、y</translation>
+    </message>
+    <message>
+        <source>length and degrees from the position before</source>
+        <translation>相对上一点的长度与角度</translation>
+    </message>
+    <message>
+        <source>a length in the direction of the pointer</source>
+        <translation>沿指针方向的长度</translation>
+    </message>
+    <message>
+        <source>beams, to scale</source>
+        <translation>梁，按比例</translation>
+    </message>
+    <message>
+        <source>walls</source>
+        <translation>墙</translation>
+    </message>
+    <message>
+        <source>axes</source>
+        <translation>轴线</translation>
+    </message>
+    <message>
+        <source>annotations</source>
+        <translation>标注</translation>
+    </message>
+    <message>
+        <source>bars at the ends of a beam</source>
+        <translation>梁端支座钢筋</translation>
+    </message>
+    <message>
+        <source>what is chosen, its handles, and what is being drawn</source>
+        <translation>选中的构件、其夹点，以及正在画的构件</translation>
+    </message>
+    <message>
+        <source>the ground of the chosen annotation</source>
+        <translation>选中标注的底色</translation>
+    </message>
+    <message>
+        <source>after an underlined annotation: it has a problem, which F8 and the list of problems tell</source>
+        <translation>位于带下划线的标注之后：该标注有问题，F8 和问题列表说明原因</translation>
+    </message>
+    <message>
+        <source>around a text of a drawing: nothing ties it to a beam for certain</source>
+        <translation>图纸文字外的方框：不能确定它属于哪根梁</translation>
+    </message>
+    <message>
+        <source>lines of a drawing, which stay as they are</source>
+        <translation>图纸原有的线，保持不变</translation>
+    </message>
+    <message>
+        <source>the grade of the steel, first to fourth</source>
+        <translation>钢筋级别，一级至四级</translation>
+    </message>
+    <message>
+        <source>bars of a layer, those at the corners first; after the stroke the layer below</source>
+        <translation>同一排的钢筋，角筋在前；斜线后为下一排</translation>
+    </message>
+    <message>
+        <source>top bars; bottom bars</source>
+        <translation>上部钢筋；下部钢筋</translation>
+    </message>
+    <message>
+        <source>bars in rows, from the top down</source>
+        <translation>钢筋分排，自上而下</translation>
+    </message>
+    <message>
+        <source>before bars: side bars, that hold the stirrups of a deep beam</source>
+        <translation>钢筋前缀：侧面构造筋</translation>
+    </message>
+    <message>
+        <source>before bars: torsion bars at the sides</source>
+        <translation>钢筋前缀：侧面受扭纵筋</translation>
+    </message>
+    <message>
+        <source>stirrups: spacing near the supports, spacing between, legs; mm</source>
+        <translation>箍筋：加密区间距、非加密区间距、肢数；单位 mm</translation>
+    </message>
+    <message>
+        <source>name: type, number, spans; A a cantilever at one end, B at both</source>
+        <translation>编号：类型、序号、跨数；A 为一端悬挑，B 为两端悬挑</translation>
+    </message>
+    <message>
+        <source>section: width and height in mm</source>
+        <translation>截面：宽、高，单位 mm</translation>
+    </message>
+    <message>
+        <source>the last text that the project supports; of names the first free one</source>
+        <translation>有本工程依据的最后一项；编号则为第一个空号</translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation>粗体</translation>
+    </message>
+    <message>
+        <source>the present text</source>
+        <translation>现有文字</translation>
+    </message>
+    <message>
+        <source>3 x</source>
+        <translation>3 处</translation>
+    </message>
+    <message>
+        <source>how often the project uses it</source>
+        <translation>本工程中使用的次数</translation>
+    </message>
+    <message>
+        <source>In the project</source>
+        <translation>工程已有</translation>
+    </message>
+    <message>
+        <source>what other beams have, the likeliest first; then guesses, and rows of the reference table when they are ticked</source>
+        <translation>其他梁已有的文字，最可能的在前；其后是推荐，勾选后还有参考表的行</translation>
+    </message>
+    <message>
+        <source>as KL3(3): same section</source>
+        <translation>同KL3(3)：截面相同</translation>
+    </message>
+    <message>
+        <source>that beam has the text, and what both beams have in common</source>
+        <translation>该梁有此文字，以及两根梁的相同之处</translation>
+    </message>
+    <message>
+        <source>other texts of this beam say so</source>
+        <translation>由本梁的其他标注得出</translation>
+    </message>
+    <message>
+        <source>gives 982 of 900 mm²</source>
+        <translation>实配982，需900 mm²</translation>
+    </message>
+    <message>
+        <source>the steel that it gives, and the steel required; a new one is used by no beam yet</source>
+        <translation>实配与所需的钢筋面积；“新配”为尚无梁使用</translation>
+    </message>
+    <message>
+        <source>60 % of the votes</source>
+        <translation>得票 60 %</translation>
+    </message>
+    <message>
+        <source>its share in what the beams most like this one have</source>
+        <translation>在与本梁最相似的梁中所占的份额</translation>
+    </message>
+    <message>
+        <source>at the left</source>
+        <translation>左侧</translation>
+    </message>
+    <message>
+        <source>what was done and why, what is waited for, or what the command under the pointer does</source>
+        <translation>做了什么及原因、正在等待什么，或指针所指命令的用途</translation>
+    </message>
+    <message>
+        <source>⚠ 3 problems</source>
+        <translation>⚠ 3个问题</translation>
+    </message>
+    <message>
+        <source>how many problems the checks find; a press shows and hides their list</source>
+        <translation>校核发现的问题数；单击可显示或隐藏问题列表</translation>
+    </message>
+    <message>
+        <source>3 of 41</source>
+        <translation>第 3 个，共 41 个</translation>
+    </message>
+    <message>
+        <source>which of the annotations or problems found it is</source>
+        <translation>在找到的标注或问题中是第几个</translation>
+    </message>
+    <message>
+        <source>at the right</source>
+        <translation>右侧</translation>
+    </message>
+    <message>
+        <source>the beams and walls of the project</source>
+        <translation>本工程的梁和墙</translation>
+    </message>
+    <message>
+        <source>982 of 900 mm²</source>
+        <translation>982 / 需 900 mm²</translation>
+    </message>
+    <message>
+        <source>the steel that the annotation gives, and the steel required</source>
+        <translation>标注的实配面积与所需面积</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>红色</translation>
+    </message>
+    <message>
+        <source>cannot be read, does not fit, or is too little steel</source>
+        <translation>无法识别、排不下或钢筋不足</translation>
+    </message>
+    <message>
+        <source>On the plan</source>
+        <translation>在平面图上</translation>
+    </message>
+    <message>
+        <source>By mouse on the plan</source>
+        <translation>平面图上的鼠标操作</translation>
+    </message>
+    <message>
+        <source>While a text is typed</source>
+        <translation>输入文字时</translation>
+    </message>
+    <message>
+        <source>In a panel</source>
+        <translation>在面板中</translation>
+    </message>
+    <message>
+        <source>Typed positions</source>
+        <translation>键入坐标</translation>
+    </message>
+    <message>
+        <source>The plan</source>
+        <translation>平面图</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>标注</translation>
+    </message>
+    <message>
+        <source>The lists of texts</source>
+        <translation>文字列表</translation>
+    </message>
+    <message>
+        <source>Reasons of proposals</source>
+        <translation>建议的理由</translation>
+    </message>
+    <message>
+        <source>The section</source>
+        <translation>截面</translation>
+    </message>
+    <message>
+        <source>The status line</source>
+        <translation>状态栏</translation>
+    </message>
+    <message>
+        <source>Settin&amp;gs...</source>
+        <translation>设置(&amp;G)...</translation>
+    </message>
+    <message>
+        <source>Language, colours, sizes, how soon a recovery copy is written</source>
+        <translation>语言、颜色、大小，以及多久写恢复副本</translation>
+    </message>
+    <message>
+        <source>&amp;Keys and signs</source>
+        <translation>按键与符号(&amp;K)</translation>
+    </message>
+    <message>
+        <source>The keys, and what colours, signs and words mean</source>
+        <translation>按键，以及颜色、符号和用语的含义</translation>
+    </message>
+    <message>
+        <source>What this program is, its version and licences</source>
+        <translation>本程序的用途、版本与许可</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>Tool bar</source>
+        <translation>工具栏</translation>
+    </message>
+    <message>
+        <source>Hits</source>
+        <translation>匹配项</translation>
+    </message>
+    <message>
+        <source>What stays ticked is replaced</source>
+        <translation>只替换勾选的项</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>回车</translation>
+    </message>
+    <message>
+        <source>Ctrl+Enter</source>
+        <translation>Ctrl+回车</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>
@@ -1381,10 +1913,6 @@
         <translation>组合... (F4)</translation>
     </message>
     <message>
-        <source>Opens the panel that composes the text by mouse</source>
-        <translation>打开鼠标组合面板</translation>
-    </message>
-    <message>
         <source>Enter to type, 1 to 3 take a proposal</source>
         <translation>回车后键入，1 至 3 采用建议</translation>
     </message>
@@ -1401,6 +1929,10 @@
 In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T or a click here first types a text that begins with such a digit.</source>
         <translation>回车采用选中的文字，Ctrl+回车采用键入的文字。
 在图中按 1 至 3 采用建议，按 0 采用整根梁的建议；要键入以这些数字开头的文字，先按回车、Ctrl+T 或单击此处。</translation>
+    </message>
+    <message>
+        <source>Opens the panel that composes the text by mouse (F4)</source>
+        <translation>打开面板，用鼠标组成文字（F4）</translation>
     </message>
 </context>
 <context>
@@ -1474,6 +2006,14 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>The beams of a drawing are where it has their outlines, which the drawing program changes. Saved as a project they can be changed here.</source>
         <translation>图纸中的梁以图上的轮廓线为准，轮廓线须在绘图程序中修改。另存为工程后可在此修改。</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>正在打开 %1</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>正在保存 %1</translation>
     </message>
 </context>
 <context>
@@ -1556,6 +2096,57 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     </message>
 </context>
 <context>
+    <name>Desk::HelpWindow</name>
+    <message>
+        <source>Menu %1</source>
+        <translation>“%1”菜单</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Keys, signs, version and licences</source>
+        <translation>按键、符号、版本与许可</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>What things mean</source>
+        <translation>含义</translation>
+    </message>
+    <message>
+        <source>Version and licences</source>
+        <translation>版本与许可</translation>
+    </message>
+    <message>
+        <source>A small drafting desk for the annotations of reinforced-concrete beams and walls: it offers the texts that you most likely want, and panels that compose them by mouse.</source>
+        <translation>钢筋混凝土梁、墙标注的小型绘图台：按可能性排列候选文字，并可用鼠标在面板中组合标注。</translation>
+    </message>
+    <message>
+        <source>It uses</source>
+        <translation>使用了以下软件</translation>
+    </message>
+    <message>
+        <source>Qt %1, as shared libraries, under the GNU Lesser General Public License, version 3</source>
+        <translation>Qt %1，以共享库方式使用，许可：GNU Lesser General Public License 第 3 版</translation>
+    </message>
+    <message>
+        <source>nlohmann/json by Niels Lohmann, under the MIT License</source>
+        <translation>nlohmann/json（Niels Lohmann），许可：MIT License</translation>
+    </message>
+    <message>
+        <source>CLI11 by the University of Cincinnati, under the BSD 3-Clause License</source>
+        <translation>CLI11（University of Cincinnati），许可：BSD 3-Clause License</translation>
+    </message>
+</context>
+<context>
     <name>Desk::ImportExport</name>
     <message>
         <source>An empty floor. Draw beams with Ctrl+B</source>
@@ -1617,16 +2208,20 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <source>The printer takes nothing</source>
         <translation>打印机无法接收</translation>
     </message>
+    <message>
+        <source>Importing %1</source>
+        <translation>正在导入 %1</translation>
+    </message>
+    <message>
+        <source>Exporting %1</source>
+        <translation>正在导出 %1</translation>
+    </message>
 </context>
 <context>
     <name>Desk::MainWindow</name>
     <message>
         <source>Saved: %1</source>
         <translation>已保存：%1</translation>
-    </message>
-    <message>
-        <source>Panel: left button picks, right button takes the text, Esc leaves</source>
-        <translation>面板：左键选取，右键确认，Esc 取消</translation>
     </message>
     <message>
         <source>Sample project</source>
@@ -1639,6 +2234,18 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>New floor</source>
         <translation>新建楼层</translation>
+    </message>
+    <message>
+        <source>Panel: left button picks, right button or Enter takes the text, Esc leaves</source>
+        <translation>面板：左键选取，右键或回车确认，Esc 取消</translation>
+    </message>
+    <message>
+        <source>The beams and walls of the project</source>
+        <translation>本工程的梁和墙</translation>
+    </message>
+    <message>
+        <source>Status line</source>
+        <translation>状态栏</translation>
     </message>
 </context>
 <context>
@@ -1678,6 +2285,14 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>There is no beam that could take %1; press another position, or Esc</source>
         <translation>此处没有 %1 可归属的梁，请另选位置或按 Esc</translation>
+    </message>
+    <message>
+        <source>A click on a row shows the text on the plan</source>
+        <translation>单击一行，在平面图上显示该文字</translation>
+    </message>
+    <message>
+        <source>Why nothing ties the text to a beam for certain</source>
+        <translation>为何不能确定该文字属于哪根梁</translation>
     </message>
 </context>
 <context>
@@ -1760,6 +2375,10 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>Rule</source>
         <translation>规则</translation>
+    </message>
+    <message>
+        <source>A click on a row chooses the annotation; its context menu switches the rule off</source>
+        <translation>单击一行选中该标注；右键菜单可关闭该规则</translation>
     </message>
 </context>
 <context>
@@ -1903,8 +2522,20 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
 <context>
     <name>Desk::PropertyGrid</name>
     <message>
-        <source>Opens the panel that composes the text by mouse</source>
-        <translation>打开鼠标组合面板</translation>
+        <source>Compose: %1</source>
+        <translation>用面板组成：%1</translation>
+    </message>
+    <message>
+        <source>F2 or a second click edits the text, F4 composes it</source>
+        <translation>F2 或再次单击编辑文字，F4 用面板组成</translation>
+    </message>
+    <message>
+        <source>Opens the panel that composes the text by mouse (F4)</source>
+        <translation>打开面板，用鼠标组成文字（F4）</translation>
+    </message>
+    <message>
+        <source>F2 or a second click edits it</source>
+        <translation>F2 或再次单击编辑</translation>
     </message>
 </context>
 <context>
@@ -1943,6 +2574,14 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>Find a name or text (Ctrl+F)</source>
         <translation>查找编号或文字 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>Ctrl+F comes here, Enter goes to the first annotation with the text, F3 to the next, Shift+F3 to the one before</source>
+        <translation>Ctrl+F 转到此处，回车到第一个含该文字的标注，F3 到下一个，Shift+F3 到上一个</translation>
     </message>
 </context>
 <context>
@@ -2050,6 +2689,33 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <source>%1 of %2</source>
         <translation>第 %1 个，共 %2 个</translation>
     </message>
+    <message>
+        <source>Plan</source>
+        <translation>平面图</translation>
+    </message>
+    <message>
+        <source>Nothing is chosen</source>
+        <translation>未选中任何标注</translation>
+    </message>
+    <message>
+        <source>no text yet</source>
+        <translation>尚无标注</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 等，另有 %2 处</translation>
+    </message>
+</context>
+<context>
+    <name>Desk::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
 </context>
 <context>
     <name>Desk::Surface</name>
@@ -2076,6 +2742,14 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>Not taken yet: take it or cancel?</source>
         <translation>文字尚未确认：确认还是取消？</translation>
+    </message>
+    <message>
+        <source>Takes the composed text (Enter)</source>
+        <translation>采用组成的文字（回车）</translation>
+    </message>
+    <message>
+        <source>Leaves the annotation as it was (Esc)</source>
+        <translation>标注保持原样（Esc）</translation>
     </message>
 </context>
 </TS>
