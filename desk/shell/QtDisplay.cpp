@@ -173,6 +173,17 @@ void QtDisplay::OpenBeside(HWND popUp, const QRect& field, QWidget* owner, const
     window->ShowWindow(SW_SHOW);
 }
 
+bool QtDisplay::MayHide(HWND popUp)
+{
+    auto* const surface = qobject_cast<Surface*>(WidgetOf(popUp));
+    const bool asks =
+        surface != nullptr && surface->isVisible() && surface->IsUnfinished(*FindWindowRecord(popUp));
+    if (asks) {
+        surface->Ask(true);
+    }
+    return !asks;
+}
+
 QWidget* QtDisplay::WidgetOf(HWND hWnd) const { return m_private->Find(hWnd); }
 
 void QtDisplay::WindowCreated(const WindowRecord& window) { m_private->Make(window); }

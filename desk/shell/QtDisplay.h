@@ -39,6 +39,9 @@ public:
     // stays and asks, and the press is nobody's.
     void OpenBeside(HWND popUp, const QRect& field, QWidget* owner, const QString& title = {});
 
+    // False where an open pop-up has composed something that is neither taken nor given up: then it asks.
+    [[nodiscard]] bool MayHide(HWND popUp);
+
     [[nodiscard]] const TextCodec& Codec() const { return m_codec; }
 
     // The widget of a window or control; null for an unknown handle.

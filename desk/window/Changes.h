@@ -17,13 +17,7 @@ public:
     TextsChange(Document& document, std::map<FieldRef, std::string> texts)
         : m_document(document), m_others(std::move(texts))
     {
-        const FieldRef& first = m_others.begin()->first;
-        const FieldRef& last = m_others.rbegin()->first;
-        const QString what = m_others.size() == 1
-                                 ? FieldName(document.Get(), first)
-                                 : QCoreApplication::translate("Desk", "%1 texts").arg(m_others.size());
-        const bool isOneOwner = first.isWall == last.isWall && first.index == last.index;
-        setText(isOneOwner ? QStringLiteral("%1: %2").arg(OwnerName(document.Get(), first), what) : what);
+        setText(ChangeName(document.Get(), m_others));
     }
 
     void undo() override { m_document.SwapTexts(m_others); }
@@ -40,7 +34,9 @@ public:
     PointChange(Document& document, std::string handle, Drawing::Pointed pointed, const PlanPoint& at)
         : m_document(document), m_handle(std::move(handle)), m_pointed(std::move(pointed)), m_at(at)
     {
-        setText(OwnerName(document.Get(), m_pointed.ref));
+        const Beam& beam = m_pointed.as;
+        setText(QCoreApplication::translate("Desk", "a text pointed to %1")
+                    .arg(QString::fromStdString(beam.name)));
     }
 
     void undo() override

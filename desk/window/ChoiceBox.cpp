@@ -98,8 +98,10 @@ bool ChoiceBox::IsForWindow(const QKeyEvent& key) const
 {
     const bool stepsByBeam =
         key.modifiers() == Qt::ControlModifier && (key.key() == Qt::Key_Left || key.key() == Qt::Key_Right);
+    const bool clears =
+        key.key() == Qt::Key_Delete && (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     return m_typed->text().isEmpty() &&
-           (stepsByBeam || key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo));
+           (stepsByBeam || clears || key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo));
 }
 
 bool ChoiceBox::eventFilter(QObject* watched, QEvent* event)

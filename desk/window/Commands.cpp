@@ -18,6 +18,17 @@ void MainWindow::ConnectCommands()
     m_menus->On("saveAs", m_files, &ProjectFiles::SaveUnderNewName);
     m_menus->On("quit", this, &QWidget::close);
     m_menus->Undoes(m_document.Changes());
+    QUndoStack& changes = m_document.Changes();
+    m_menus->On("undo", this, [this, &changes] {
+        const QString what = changes.undoText();
+        changes.undo();
+        statusBar()->showMessage(tr("Undone: %1").arg(what));
+    });
+    m_menus->On("redo", this, [this, &changes] {
+        const QString what = changes.redoText();
+        changes.redo();
+        statusBar()->showMessage(tr("Redone: %1").arg(what));
+    });
     const auto draw = [this](const char* command, PlanTools::Tool tool) {
         m_menus->On(command, m_tools, [this, tool] { m_tools->Start(tool); });
     };

@@ -15,10 +15,12 @@
 #include "desk/drawing/Drawing.h"
 #include "desk/project/Edits.h"
 #include "desk/project/Fields.h"
+#include "desk/window/HeldFile.h"
 #include "desk/window/RecoveryCopy.h"
 
 namespace Desk {
 
+// Each step on the stack of changes has as its text what it does: "KL1(7) bottom bars 2B16 to 2B25".
 class Document : public QObject {
     Q_OBJECT
 
@@ -34,6 +36,8 @@ public:
     // Empty for the sample and for a project that was never saved.
     [[nodiscard]] QString File() const { return m_file; }
     [[nodiscard]] bool IsSample() const { return m_isSample; }
+    // What a person calls it: its file without the folder, its title, "New floor".
+    [[nodiscard]] QString Name() const;
 
     // The drawing that the project was read from; null for a project file and for the sample.
     [[nodiscard]] const Drawing* From() const { return m_drawing ? &*m_drawing : nullptr; }
@@ -52,10 +56,16 @@ public:
 
     // A name that ends in .dxf or .json says what is written, else it is what was opened. A project that
     // becomes a drawing, or the other way, is opened from the new file. Throws Failure and leaves the old
-    // file when it cannot be done.
+    // file when it cannot be done, or when another desk has it open.
     void SaveAs(const QString& file);
-    // Another program has written the file since it was read or saved here.
-    [[nodiscard]] bool IsFileNewer() const;
+    // Another desk had the file open first, so that this one does not write it.
+    [[nodiscard]] bool IsReadOnly() const { return m_held.IsOthers(); }
+    // Asks whether the other desk still has it; the file can be written from here when it has not.
+    void TryToHold();
+    // The file, to look for what another program wrote into it since it was read or saved here.
+    [[nodiscard]] HeldFile& Held() { return m_held; }
+    // What the file holds now is known and not wanted: the project is unsaved, and saving replaces it.
+    void KeepInsteadOfFile();
 
     // The annotation that is set where a person sets this one: a beam of a drawing that has only a name
     // takes part in the one that is written out.
@@ -108,15 +118,16 @@ private:
     void SwapTexts(std::map<FieldRef, std::string>& others);
     void Changed(const std::vector<FieldRef>& refs);
     void WriteCopySoon();
-    void Replace(Project project, const QString& file, std::optional<Drawing> drawing = std::nullopt);
+    // The content is what the file had before it was read.
+    void Replace(Project project, const QString& file = {}, const QByteArray& content = {},
+                 std::optional<Drawing> drawing = std::nullopt);
     void Write(const std::string& file, bool asDrawing) const;
-    void NoteFileTime();
 
     Project m_project;
     std::optional<Drawing> m_drawing;
     QString m_file;
     bool m_isSample = false;
-    QDateTime m_fileTime;
+    HeldFile m_held;
     QUndoStack m_changes;
     RecoveryCopy m_recovery;
     QTimer m_recoverySoon;

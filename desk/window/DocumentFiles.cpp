@@ -20,14 +20,14 @@ bool IsDrawingName(const QString& file)
 
 void Document::OpenSample()
 {
-    Replace(SampleProject(), QString());
+    Replace(SampleProject());
     m_isSample = true;
     emit FileChanged();
 }
 
 void Document::OpenNew(Project project, bool imported)
 {
-    Replace(std::move(project), QString());
+    Replace(std::move(project));
     if (imported) {
         m_changes.resetClean();
         WriteRecoveryCopy();
@@ -37,34 +37,32 @@ void Document::OpenNew(Project project, bool imported)
 void Document::Open(const QString& file)
 {
     const QString path = QFileInfo(file).absoluteFilePath();
+    const QByteArray content = HeldFile::ContentOf(path);
     Opened opened = Watched(tr("Opening %1").arg(QFileInfo(path).fileName()),
                             [&] { return OpenFile(path.toStdString()); });
-    Replace(std::move(opened.project), path, std::move(opened.drawing));
+    Replace(std::move(opened.project), path, content, std::move(opened.drawing));
 }
 
 bool Document::OpenLost(const LostWork& lost)
 {
     Project copy = ReadProject(lost.copy.toStdString());
-    const QFileInfo file(lost.file);
     bool fits = true;
     if (IsDrawingName(lost.file)) {
         std::optional<Drawing> drawing;
         std::optional<Project> onDrawing;
-        if (file.exists() && file.lastModified() == lost.fileTime) {
+        if (!lost.content.isEmpty() && HeldFile::ContentOf(lost.file) == lost.content) {
             drawing = OpenFile(lost.file.toStdString()).drawing;
             onDrawing = drawing ? OntoDrawing(*drawing, copy) : std::nullopt;
         }
         fits = onDrawing.has_value();
         if (fits) {
-            Replace(std::move(*onDrawing), lost.file, std::move(drawing));
+            Replace(std::move(*onDrawing), lost.file, lost.content, std::move(drawing));
         } else {
-            Replace(std::move(copy), QString());
+            Replace(std::move(copy));
         }
     } else {
-        Replace(std::move(copy), lost.file);
+        Replace(std::move(copy), lost.file, lost.content);  // saving asks about what was saved since
     }
-    m_fileTime = fits ? lost.fileTime
-                      : QDateTime();  // what another program saved since is not in the copy: saving asks
     m_changes.resetClean();
     if (!m_recovery.TakeOver(lost)) {
         WriteRecoveryCopy();
@@ -77,14 +75,27 @@ void Document::SaveAs(const QString& file)
     const QString path = QFileInfo(file).absoluteFilePath();
     const bool isProject = path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
     const bool asDrawing = IsDrawingName(path) || (m_drawing && !isProject);
+    const bool isHeld = m_held.Is(path);
+    HeldFile other(isHeld ? QString() : path);
+    if (isHeld) {
+        TryToHold();
+    }
+    if ((isHeld ? m_held : other).IsOthers()) {
+        throw Failure(Phrase("Desk", "%1: cannot be saved: %2"), path.toStdString(),
+                      Phrase("Desk", "another desk has it open"));
+    }
     Watched(tr("Saving %1").arg(QFileInfo(path).fileName()), [&] { Write(path.toStdString(), asDrawing); });
     if (asDrawing != m_drawing.has_value()) {
+        other = HeldFile();
         Open(path);
         return;
     }
+    if (!isHeld) {
+        m_held = std::move(other);
+    }
+    m_held.KnowPresent();
     m_file = path;
     m_isSample = false;
-    NoteFileTime();
     m_changes.setClean();
     DropRecoveryCopy();
     emit FileChanged();
@@ -101,9 +112,28 @@ void Document::Write(const std::string& file, bool asDrawing) const
     }
 }
 
-bool Document::IsFileNewer() const
+QString Document::Name() const
 {
-    return !m_file.isEmpty() && QFileInfo::exists(m_file) && QFileInfo(m_file).lastModified() != m_fileTime;
+    const QString title = QString::fromStdString(m_project.title);
+    return m_isSample          ? tr("Sample project")
+           : !m_file.isEmpty() ? QFileInfo(m_file).fileName()
+           : title.isEmpty()   ? tr("New floor")
+                               : title;
+}
+
+void Document::KeepInsteadOfFile()
+{
+    m_held.KnowPresent();
+    m_changes.resetClean();
+    WriteCopySoon();
+}
+
+void Document::TryToHold()
+{
+    if (m_held.IsOthers()) {
+        m_held.TryAgain();
+        emit FileChanged();
+    }
 }
 
 void Document::DropRecoveryCopy()
@@ -116,30 +146,30 @@ void Document::WriteRecoveryCopy()
 {
     m_recoverySoon.stop();
     try {
-        m_recovery.Write(m_project, m_file, m_fileTime);
+        m_recovery.Write(m_project, m_file, m_held.Known());
     } catch (const Failure& failure) {
         emit RecoveryFailed(tr("There is no recovery copy: %1").arg(Told(failure)));
     }
 }
 
-void Document::Replace(Project project, const QString& file, std::optional<Drawing> drawing)
+void Document::Replace(Project project, const QString& file, const QByteArray& content,
+                       std::optional<Drawing> drawing)
 {
     DropRecoveryCopy();
     m_project = std::move(project);
     m_drawing = std::move(drawing);
     m_file = file;
     m_isSample = false;
-    NoteFileTime();
+    if (!m_held.Is(file)) {
+        m_held = HeldFile();  // lets go of the file before
+        m_held = HeldFile(file);
+    }
+    m_held.Know(content);
     m_changes.clear();
     emit Replaced();
     emit ChecksOffChanged();
     emit OpenTextsChanged();
     emit FileChanged();
-}
-
-void Document::NoteFileTime()
-{
-    m_fileTime = m_file.isEmpty() ? QDateTime() : QFileInfo(m_file).lastModified();
 }
 
 }  // namespace Desk

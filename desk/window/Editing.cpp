@@ -51,14 +51,14 @@ void Editing::AddBeam(const PlanPoint& start, const PlanPoint& end)
     Beam beam;
     beam.start = start;
     beam.end = end;
-    AddNamed(std::move(beam), tr("New beam %1"));
+    AddNamed(std::move(beam), tr("%1 added"));
 }
 
 void Editing::AddLabel(const PlanPoint& at)
 {
     const Drawing* const from = m_document.From();
     if (std::optional<Beam> beam = from != nullptr ? from->LabelFor(m_document.Get(), at) : std::nullopt) {
-        AddNamed(std::move(*beam), tr("New label %1"));
+        AddNamed(std::move(*beam), tr("Label %1 added"));
     } else {
         emit Said(tr("There is no outline of one beam without a label"));
     }
@@ -95,7 +95,7 @@ void Editing::AddWall(const PlanPoint& start, const PlanPoint& end)
     const QString name = QString::fromStdString(wall.name);
     Edits edits;
     edits.walls.added.push_back(std::move(wall));
-    if (Do(tr("New wall %1").arg(name), std::move(edits))) {
+    if (Do(tr("Wall %1 added").arg(name), std::move(edits))) {
         m_selection.Choose(FieldRef{true, m_document.Get().walls.size() - 1, Field::HorizontalBars});
     }
 }
@@ -189,8 +189,14 @@ void Editing::Remove()
 
 void Editing::SetEnd(const FieldRef& owner, bool isStart, const PlanPoint& to)
 {
+    const Project& project = m_document.Get();
+    const auto isThere = [&](const auto& each) { return IsSame(isStart ? each.start : each.end, to); };
+    if (owner.isWall ? isThere(project.walls[owner.index]) : isThere(project.beams[owner.index])) {
+        emit Said(tr("%1 is there already").arg(Name({owner})));
+        return;
+    }
     const auto set = [&](auto& each) { SetEnds(each, isStart ? to : each.start, isStart ? each.end : to); };
-    ChangeEach(isStart ? tr("Start of %1") : tr("End of %1"), {owner}, set, set);
+    ChangeEach(isStart ? tr("start of %1 moved") : tr("end of %1 moved"), {owner}, set, set);
 }
 
 }  // namespace Desk

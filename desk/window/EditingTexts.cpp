@@ -17,11 +17,19 @@ namespace Desk {
 void Editing::SetData(const FieldRef& owner, Datum datum, const QString& text)
 {
     std::optional<Message> refusal;
+    QString what = OwnerName(m_document.Get(), owner);
     bool isSame = false;
     const auto set = [&](auto& each) {
-        const std::string before = DatumText(each, datum);
+        const QString before = QString::fromStdString(DatumText(each, datum));
         refusal = SetDatum(each, datum, text.trimmed().toStdString());
-        isSame = DatumText(each, datum) == before;
+        const QString now = QString::fromStdString(DatumText(each, datum));
+        isSame = now == before;
+        for (const DatumRow& row : DataOf(each)) {
+            if (row.datum == datum) {
+                what += QStringLiteral(", ") + QString::fromUtf8(IsChinese() ? row.chinese : row.english);
+            }
+        }
+        what = isSame ? tr("%1: %2 already").arg(what, now) : tr("%1: %2 to %3").arg(what, before, now);
     };
     Edits edits;
     if (owner.isWall) {
@@ -32,8 +40,11 @@ void Editing::SetData(const FieldRef& owner, Datum datum, const QString& text)
     if (refusal) {
         Tell(&m_window, tr("The value was not taken"), Told(*refusal));
     }
-    if (isSame || !Do(tr("Data of %1").arg(OwnerName(m_document.Get(), owner)), std::move(edits))) {
+    if (isSame || !Do(what, std::move(edits))) {
         m_selection.Choose(m_selection.Chosen());  // the value shows as it was
+    }
+    if (isSame && !refusal) {
+        emit Said(what);
     }
 }
 
@@ -49,7 +60,8 @@ void Editing::AddInPlace()
         const int number = static_cast<int>(beam.inPlace.size());
         Edits edits;
         (edits.beams.changed[chosen->index] = beam).inPlace.push_back(*text);
-        if (Do(tr("Text in place of %1").arg(OwnerName(m_document.Get(), *chosen)), std::move(edits))) {
+        if (Do(tr("text in place of %1 added").arg(OwnerName(m_document.Get(), *chosen)),
+               std::move(edits))) {
             m_selection.Choose(FieldRef{false, chosen->index, RowOf(text->role).field, number});
         }
     }
@@ -64,11 +76,17 @@ void Editing::Clear()
     const std::set<FieldRef> all = m_selection.All();
     const QString one = QStringLiteral("%1, %2").arg(OwnerName(m_document.Get(), *chosen),
                                                      FieldName(m_document.Get(), *chosen));
-    const QString told = tr("%1 removed").arg(all.size() == 1 ? one : tr("%1 annotations").arg(all.size()));
+    const QString what = all.size() == 1 ? one : tr("%1 annotations").arg(all.size());
+    const QString told = tr("%1 removed").arg(what);
+    const bool isEmpty = std::all_of(all.begin(), all.end(), [this](const FieldRef& ref) {
+        return TextAt(m_document.Get(), m_document.Target(ref)).empty();
+    });
     const bool hasInPlace =
         std::any_of(all.begin(), all.end(), [](const FieldRef& ref) { return ref.inPlace >= 0; });
     if (chosen->field == Field::Name && m_document.From() != nullptr) {
         emit Said(tr("A label needs its name; deleting the beam removes the whole label"));
+    } else if (isEmpty && (!hasInPlace || m_document.From() != nullptr)) {
+        emit Said(tr("%1: no text already").arg(what));
     } else if (hasInPlace && m_document.From() == nullptr) {
         Edits edits;
         for (auto ref = all.rbegin(); ref != all.rend(); ++ref) {  // the last text in place first

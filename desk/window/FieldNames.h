@@ -1,6 +1,9 @@
 // What a person calls the annotations and the beams and walls that they belong to.
 #pragma once
 
+#include <map>
+#include <string>
+
 #include <QtCore>
 
 #include "desk/project/Fields.h"
@@ -16,6 +19,9 @@ namespace Desk {
 // "KL1(7)", "Wall Q1", or "Beam 12" counted from 1 when it has no name. The beam or wall must exist.
 [[nodiscard]] QString OwnerName(const Project& project, const FieldRef& ref);
 
+// What other texts are as a change: "KL1(7) bottom bars 2B16 to 2B25", "bottom bars of 10 beams to 2B25",
+// "4 texts of KL1(7)". The annotations must exist and have other texts; there is one at least.
+[[nodiscard]] QString ChangeName(const Project& project, const std::map<FieldRef, std::string>& texts);
 // What a beam or wall is called and all its texts, with the area of bars, as rich text; the given one
 // stands out.
 [[nodiscard]] QString OwnerTip(const Project& project, const FieldRef& ref);

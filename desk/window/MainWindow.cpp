@@ -104,6 +104,8 @@ void MainWindow::ConnectParts()
     connect(m_exchanges, &ImportExport::Said, statusBar(),
             [this](const QString& text) { statusBar()->showMessage(text); });
     connect(m_docks, &Docks::DataEdited, m_editing, &Editing::SetData);
+    connect(m_files, &ProjectFiles::Said, statusBar(),
+            [this](const QString& text) { statusBar()->showMessage(text); });
     connect(m_search, &SearchLine::Asked, this, [this] {
         m_floor->setFocus();  // where a character typed begins to narrow the texts
         m_selection->Find(m_search->Wanted(), 1);
@@ -135,12 +137,8 @@ void MainWindow::ConnectParts()
 
 void MainWindow::ShowTitle()
 {
-    const QString title = QString::fromStdString(m_document.Get().title);
-    const QString name = m_document.IsSample()          ? tr("Sample project")
-                         : !m_document.File().isEmpty() ? QFileInfo(m_document.File()).fileName()
-                         : title.isEmpty()              ? tr("New floor")
-                                                        : title;
-    setWindowTitle(QStringLiteral("%1[*] - beamdesk").arg(name));
+    const QString name = m_document.IsReadOnly() ? tr("%1 (read only)") : QStringLiteral("%1");
+    setWindowTitle(QStringLiteral("%1[*] - beamdesk").arg(name.arg(m_document.Name())));
     setWindowModified(m_document.IsChanged());
     const Project& project = m_document.Get();
     m_counts->setText(tr("%1 beams, %2 walls").arg(project.beams.size()).arg(project.walls.size()));
@@ -211,13 +209,22 @@ void MainWindow::dropEvent(QDropEvent* event)
     m_files->OpenSoon(ProjectFiles::Dragged(*event->mimeData()));
 }
 
+// Back from another program, which may have written the file.
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        QMetaObject::invokeMethod(m_files, &ProjectFiles::LookAtFile, Qt::QueuedConnection);
+    }
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    m_panels.Close();
     if (!m_files->MayLeave()) {
         event->ignore();
         return;
     }
+    m_panels.Close();
     m_document.DropRecoveryCopy();
     m_settings.setValue("geometry", saveGeometry());
     m_settings.setValue("state", saveState());

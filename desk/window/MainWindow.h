@@ -45,6 +45,7 @@ public:
     [[nodiscard]] QtDisplay& Display() { return m_display; }
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;  // of a file

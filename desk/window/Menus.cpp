@@ -160,8 +160,6 @@ QAction& Menus::Command(const char* name) const
 
 void Menus::Undoes(QUndoStack& changes)
 {
-    On("undo", &changes, &QUndoStack::undo);
-    On("redo", &changes, &QUndoStack::redo);
     connect(&changes, &QUndoStack::canUndoChanged, &Command("undo"), &QAction::setEnabled);
     connect(&changes, &QUndoStack::canRedoChanged, &Command("redo"), &QAction::setEnabled);
     Command("undo").setEnabled(changes.canUndo());

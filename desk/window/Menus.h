@@ -22,7 +22,7 @@ public:
     {
         connect(&Command(name), &QAction::triggered, receiver, slot);
     }
-    // The commands that take changes back and make them again; enabled while the stack has some.
+    // The commands that take changes back and make them again are enabled while the stack has some.
     void Undoes(QUndoStack& changes);
 
     [[nodiscard]] QToolBar& ToolBar() { return *m_bar; }

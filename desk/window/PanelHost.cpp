@@ -77,6 +77,8 @@ void PanelHost::Close()
     }
 }
 
+bool PanelHost::MayClose() { return m_open == nullptr || m_display.MayHide(m_open); }
+
 std::optional<FieldRef> PanelHost::Serving() const
 {
     return m_open != nullptr ? std::optional(m_place) : std::nullopt;

@@ -29,6 +29,8 @@ public:
               QWidget* owner);
     // Hides an open panel; what it had not confirmed is given up.
     void Close();
+    // False where an open panel has composed something that is not taken: then it asks, and stays open.
+    [[nodiscard]] bool MayClose();
     // The place that an open panel serves.
     [[nodiscard]] std::optional<FieldRef> Serving() const;
     // The window of the open panel, null when none is open.

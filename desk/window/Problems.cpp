@@ -181,7 +181,8 @@ void Problems::Switch(const Rule& rule, bool on)
     if (!on) {
         off.emplace_back(rule.key);
     }
-    m_document.SetChecksOff(std::move(off), Told(Message(rule.title)));
+    m_document.SetChecksOff(std::move(off),
+                            (on ? tr("rule on: %1") : tr("rule off: %1")).arg(Told(Message(rule.title))));
 }
 
 void Problems::ShowRowMenu(const QPoint& at)

@@ -24,23 +24,27 @@ ProjectFiles::ProjectFiles(Document& document, QWidget& window, QMenu& recent,
     FillRecent();
 }
 
-bool ProjectFiles::Open(const QString& file)
+bool ProjectFiles::Open(const QString& file) { return MayLeave() && OpenAnyhow(file); }
+
+bool ProjectFiles::OpenAnyhow(const QString& file)
 {
-    if (!MayLeave()) {
-        return false;
-    }
     try {
         if (file.isEmpty()) {
             m_document.OpenSample();
         } else {
             m_document.Open(file);
             NoteRecent();
+            if (m_document.IsReadOnly()) {
+                emit Said(tr("%1 is open in another desk: here it is read only, and saving asks for "
+                             "another name")
+                              .arg(m_document.Name()));
+            }
         }
         return true;
     } catch (const Cancelled&) {
         return false;
     } catch (const Failure& failure) {
-        Tell(&m_window, tr("The project could not be opened"), Told(failure));
+        Tell(&m_window, tr("%1 could not be opened").arg(QFileInfo(file).fileName()), Told(failure));
         return false;
     }
 }
@@ -97,67 +101,6 @@ void ProjectFiles::OpenSoon(const QString& file)
         this, [this, file] { Open(file); }, Qt::QueuedConnection);
 }
 
-bool ProjectFiles::Save()
-{
-    if (!m_endEdit()) {
-        return false;
-    }
-    if (m_document.File().isEmpty()) {
-        return SaveUnderNewName();
-    }
-    if (m_document.IsFileNewer()) {
-        enum { Overwrite, NewName };
-        switch (Ask(&m_window, "newer", QMessageBox::Warning,
-                    tr("Another program has written %1 since it was opened here.").arg(m_document.File()),
-                    {},
-                    {{tr("Overwrite"), QMessageBox::DestructiveRole},
-                     {tr("Save as..."), QMessageBox::AcceptRole},
-                     {tr("Cancel"), QMessageBox::RejectRole}})) {
-        case Overwrite: break;
-        case NewName: return SaveUnderNewName();
-        default: return false;
-        }
-    }
-    return SaveTo(m_document.File());
-}
-
-bool ProjectFiles::SaveUnderNewName()
-{
-    if (!m_endEdit()) {
-        return false;
-    }
-    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    const QString start = m_document.File().isEmpty()
-                              ? (documents.exists() ? documents : QDir::home()).filePath("project.json")
-                              : m_document.File();
-    const bool drawing = m_document.From() != nullptr;
-    const QString drawings = tr("Drawings (*.dxf)");
-    const QString projects = tr("Projects (*.json)");
-    QFileDialog dialog(&m_window, tr("Save as"), start);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters({drawing ? drawings : projects, drawing ? projects : drawings});
-    dialog.setDefaultSuffix(drawing ? "dxf" : "json");
-    connect(&dialog, &QFileDialog::filterSelected, &dialog,
-            [&](const QString& filter) { dialog.setDefaultSuffix(filter == drawings ? "dxf" : "json"); });
-    dialog.selectFile(start);
-    return dialog.exec() == QDialog::Accepted && SaveTo(dialog.selectedFiles().constFirst());
-}
-
-bool ProjectFiles::SaveTo(const QString& file)
-{
-    try {
-        m_document.SaveAs(file);
-    } catch (const Cancelled&) {
-        return false;
-    } catch (const Failure& failure) {
-        Tell(&m_window, tr("The project could not be saved"), Told(failure));
-        return false;
-    }
-    NoteRecent();
-    emit Saved(m_document.File());
-    return true;
-}
-
 bool ProjectFiles::MayLeave()
 {
     if (!m_endEdit()) {
@@ -167,11 +110,11 @@ bool ProjectFiles::MayLeave()
         return true;
     }
     enum { SaveFirst, Leave };
-    const int answer =
-        Ask(&m_window, "unsaved", QMessageBox::Question, tr("The project has unsaved changes."), {},
-            {{tr("Save"), QMessageBox::AcceptRole},
-             {tr("Leave without saving"), QMessageBox::DestructiveRole},
-             {tr("Stay"), QMessageBox::RejectRole}});
+    const int answer = Ask(&m_window, "unsaved", QMessageBox::Question,
+                           tr("%1 has unsaved changes.").arg(m_document.Name()), {},
+                           {{tr("Save"), QMessageBox::AcceptRole},
+                            {tr("Leave without saving"), QMessageBox::DestructiveRole},
+                            {tr("Stay"), QMessageBox::RejectRole}});
     return answer == SaveFirst ? Save() : answer == Leave;
 }
 

@@ -33,12 +33,20 @@ public:
     bool SaveUnderNewName();
     // Asks about unsaved changes; false when the person wants to stay.
     bool MayLeave();
+    // Asks when another program has written the file, once for each such content; takes the file over when
+    // the other desk that had it open is gone.
+    void LookAtFile();
 
 signals:
     void Saved(const QString& file);
+    void Said(const QString& text);  // for the status bar
 
 private:
+    enum class Other { Reload, KeepMine, SaveAs, Cancel };
     bool SaveTo(const QString& file);
+    bool OpenAnyhow(const QString& file);
+    Other AskOther(bool isSaving);
+    void CompareWithFile();
     void NoteRecent();
     void FillRecent();
 
@@ -47,6 +55,7 @@ private:
     QMenu& m_recent;
     std::function<bool()> m_endEdit;
     QSettings m_settings;
+    QByteArray m_asked;  // the file's content that was asked about last
 };
 
 }  // namespace Desk

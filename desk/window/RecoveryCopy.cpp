@@ -47,9 +47,7 @@ QList<LostWork> FindLostWork(const QString& folder)
             const QByteArray told = from.readAll();
             const qsizetype end = told.lastIndexOf('\n');
             lost.file = QString::fromUtf8(told.left(end));
-            bool isTime = false;
-            const qint64 time = told.mid(end + 1).toLongLong(&isTime);
-            lost.fileTime = isTime ? QDateTime::fromMSecsSinceEpoch(time) : QDateTime();
+            lost.content = QByteArray::fromHex(told.mid(end + 1));
         }
         found.push_back(lost);
     }
@@ -150,7 +148,7 @@ RecoveryCopy::RecoveryCopy(QString folder)
 
 RecoveryCopy::~RecoveryCopy() = default;
 
-void RecoveryCopy::Write(const Project& project, const QString& file, const QDateTime& fileTime)
+void RecoveryCopy::Write(const Project& project, const QString& file, const QByteArray& content)
 {
     if (m_folder.isEmpty()) {
         return;
@@ -159,8 +157,7 @@ void RecoveryCopy::Write(const Project& project, const QString& file, const QDat
         throw Failure(Phrase("Desk", "%1: the folder cannot be made"), m_folder.toStdString());
     }
     Lock();
-    const QByteArray time = fileTime.isValid() ? QByteArray::number(fileTime.toMSecsSinceEpoch()) : "";
-    ReplaceFile(Path(FromSuffix).toStdString(), (file.toUtf8() + '\n' + time).toStdString());
+    ReplaceFile(Path(FromSuffix).toStdString(), (file.toUtf8() + '\n' + content.toHex()).toStdString());
     SaveProject(project, Path(CopySuffix).toStdString());
 }
 

@@ -15,7 +15,7 @@ struct LostWork {
     QString copy;  // the file that holds the project
     QString file;  // where the project came from, empty for one that was never saved
     QDateTime time;
-    QDateTime fileTime;  // of the file when the project was read from it or saved to it; null for none
+    QByteArray content;  // of the file when the project was read from it or saved to it; empty for none
 };
 
 // Copies in the folder whose program has ended, the latest first.
@@ -26,7 +26,7 @@ void DropLostWork(const LostWork& lost);
 [[nodiscard]] std::optional<Project> OntoDrawing(const Drawing& drawing, const Project& copy);
 
 // The copy of one document: NAME.json with the project; NAME.from with the name of its file and, in the
-// next line, the file's time in ms since 1970; NAME.lock, held for as long as this program runs.
+// next line, a number for the file's content; NAME.lock, held for as long as this program runs.
 class RecoveryCopy {
 public:
     // An empty folder name: no copy is kept.
@@ -36,7 +36,7 @@ public:
     RecoveryCopy& operator=(const RecoveryCopy&) = delete;
 
     // Throws Failure when it cannot be written.
-    void Write(const Project& project, const QString& file, const QDateTime& fileTime);
+    void Write(const Project& project, const QString& file, const QByteArray& content);
     void Drop();
     // Goes on with a copy that another session left, in place of an own one. False when another
     // program has taken it over.

@@ -184,6 +184,9 @@ void Selection::OpenPanelBeside(const QRect& field)
 
 bool Selection::EndEdit()
 {
+    if (!m_panels.MayClose()) {
+        return false;
+    }
     m_isRefused = false;
     m_docks.CommitEdit();
     return !m_isRefused;
@@ -230,7 +233,8 @@ bool Selection::TakeAll(const Texts& asked, const QString& reason)
         last.texts.emplace_back(each.field, text);
     }
     m_last = std::move(last);
-    if (m_document.Changes().index() == steps) {
+    const bool isSame = m_document.Changes().index() == steps;
+    if (isSame) {
         Show();  // a change has shown itself
     }
     QStringList now;
@@ -241,8 +245,11 @@ bool Selection::TakeAll(const Texts& asked, const QString& reason)
     const QString what = texts.size() > asked.size() ? tr("%1 annotations").arg(texts.size())
                          : texts.size() == 1 ? owner + QStringLiteral(", ") + FieldName(project, ref)
                                              : owner;
-    m_told = QStringLiteral("%1: %2").arg(what, now.join(QStringLiteral(", "))) +
-             (reason.isEmpty() ? QString() : QStringLiteral(" - ") + reason);
+    now.removeAll(QString());
+    const QString text = now.isEmpty() ? tr("no text") : now.join(QStringLiteral(", "));
+    m_told = isSame ? tr("%1: %2 already").arg(what, text)
+                    : QStringLiteral("%1: %2").arg(what, text) +
+                          (reason.isEmpty() ? QString() : QStringLiteral(" - ") + reason);
     emit Said(m_told);
     return true;
 }

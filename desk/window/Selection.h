@@ -60,7 +60,8 @@ public:
 
     // Opens the panel for the chosen annotation, beside its text in the drawing where that is in view.
     void OpenPanel();
-    // Takes what an open editor of the properties holds; false when it was refused.
+    // Takes what an open editor of the properties holds; false when it was refused, and when an open panel
+    // has composed something that is not taken: then it asks.
     bool EndEdit();
 
 signals:
@@ -77,6 +78,7 @@ private:
     [[nodiscard]] Texts ForAll(const Texts& asked) const;
     void Pick(const FieldRef& ref);
     void Give(const Copied& copied, const FieldRef& to);
+    [[nodiscard]] std::optional<Texts> Read(Texts texts) const;
     void SayChosen();
     void Follow(const Exchanged& exchanged);
     void OpenPanelBeside(const QRect& field);

@@ -6,6 +6,7 @@
 #include "desk/window/ReplaceDialog.h"
 #include "desk/window/Selection.h"
 #include "desk/window/Steps.h"
+#include "desk/window/Typed.h"
 
 namespace Desk {
 
@@ -168,10 +169,13 @@ void Selection::StartMatching()
 void Selection::Replace()
 {
     if (EndEdit()) {
-        if (const Texts texts = AskReplace(m_window, m_document.Get(), m_chosen); !texts.empty()) {
+        const Texts asked = AskReplace(m_window, m_document.Get(), m_chosen);
+        if (const auto read = asked.empty() ? std::nullopt : Read(asked)) {
+            const Texts& texts = *read;
             const Copied last = m_last;
             m_others.clear();
-            if (TakeAll(texts)) {
+            const int steps = m_document.Changes().index();
+            if (TakeAll(texts) && m_document.Changes().index() != steps) {
                 emit Said(tr("%1 texts replaced").arg(texts.size()));
             }
             m_last = last;
@@ -184,9 +188,18 @@ void Selection::Give(const Copied& copied, const FieldRef& to)
     const Texts texts = TextsAt(to, copied);
     if (texts.empty()) {
         emit Said(tr("Beams and walls do not take the same texts"));
-    } else {
-        TakeAll(texts);
+    } else if (const std::optional<Texts> read = Read(texts)) {
+        TakeAll(*read);
     }
+}
+
+// Texts that come from elsewhere are read as typed ones are.
+std::optional<NewTexts> Selection::Read(Texts texts) const
+{
+    for (auto& [ref, text] : texts) {
+        ref = m_document.Target(ref);
+    }
+    return AskGiven(m_document.Get(), texts, &m_window);
 }
 
 }  // namespace Desk

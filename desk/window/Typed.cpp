@@ -1,6 +1,7 @@
 #include "desk/window/Typed.h"
 
 #include <algorithm>
+#include <map>
 
 #include "desk/reading/Understand.h"
 #include "desk/window/Ask.h"
@@ -84,6 +85,48 @@ std::optional<TypedTexts> AskTyped(const Project& project, const FieldRef& at, c
     }
     return InWindow(!read.parts.empty() ? read.parts
                                         : std::vector{read.instead[static_cast<std::size_t>(answer)]});
+}
+
+std::optional<TypedTexts> AskGiven(const Project& project, const TypedTexts& texts, QWidget* over)
+{
+    constexpr qsizetype MostLines = 8;
+    if (texts.size() == 1) {
+        return AskTyped(project, texts.front().first, texts.front().second, over);
+    }
+    std::map<std::pair<Field, QString>, bool> known;  // the same text goes to many
+    TypedTexts fitting;
+    QStringList others;
+    for (const auto& [at, text] : texts) {
+        const auto [fits, isNew] = known.try_emplace({at.field, text});
+        if (isNew) {
+            fits->second = Understand(project, at, text.trimmed().toStdString()).fits;
+        }
+        if (fits->second) {
+            fitting.emplace_back(at, text);
+        } else {
+            others
+                << QStringLiteral("%1, %2: %3").arg(OwnerName(project, at), FieldName(project, at), text);
+        }
+    }
+    if (others.isEmpty()) {
+        return texts;
+    }
+    const QString what =
+        Worded(QT_TRANSLATE_NOOP("Desk", "%1 of %2 texts do not belong where they would go."))
+            .arg(others.size())
+            .arg(texts.size());
+    if (others.size() > MostLines) {
+        others = others.mid(0, MostLines) << QStringLiteral("...");
+    }
+    enum { Keep, LeaveOut };
+    switch (Ask(over, "typed-question", QMessageBox::Question, what, others.join('\n'),
+                {{Worded(QT_TRANSLATE_NOOP("Desk", "Keep them")), QMessageBox::DestructiveRole},
+                 {Worded(QT_TRANSLATE_NOOP("Desk", "Leave them out")), QMessageBox::AcceptRole},
+                 {Worded(QT_TRANSLATE_NOOP("Desk", "Cancel")), QMessageBox::RejectRole}})) {
+    case Keep: return texts;
+    case LeaveOut: return fitting.empty() ? std::nullopt : std::optional(fitting);
+    default: return std::nullopt;
+    }
 }
 
 }  // namespace Desk

@@ -16,4 +16,9 @@ namespace Desk {
 [[nodiscard]] std::optional<std::vector<std::pair<FieldRef, QString>>>
 AskTyped(const Project& project, const FieldRef& at, const QString& text, QWidget* over);
 
+// The same for texts that come from elsewhere, one or more: of several, those that are none of their
+// annotations' are kept or left out together.
+[[nodiscard]] std::optional<std::vector<std::pair<FieldRef, QString>>>
+AskGiven(const Project& project, const std::vector<std::pair<FieldRef, QString>>& texts, QWidget* over);
+
 }  // namespace Desk

@@ -932,10 +932,6 @@
         <translation>新配，实配%1，需%2 mm²</translation>
     </message>
     <message>
-        <source>%1 texts</source>
-        <translation>%1 处标注</translation>
-    </message>
-    <message>
         <source>Next &amp;without a text</source>
         <translation>下一处空标注(&amp;W)</translation>
     </message>
@@ -1882,6 +1878,94 @@
         <translation>Ctrl+回车</translation>
     </message>
     <message>
+        <source>a text pointed to %1</source>
+        <translation>文字指定给 %1</translation>
+    </message>
+    <message>
+        <source>is there</source>
+        <translation>有</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Compare with %1</source>
+        <translation>与 %1 比较</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>本窗口</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>文件中</translation>
+    </message>
+    <message>
+        <source>All annotations and data are the same.</source>
+        <translation>全部标注和数据相同。</translation>
+    </message>
+    <message>
+        <source>%1 differences</source>
+        <translation>%1 处不同</translation>
+    </message>
+    <message>
+        <source>another desk has it open</source>
+        <translation>另一个 beamdesk 已打开此文件</translation>
+    </message>
+    <message>
+        <source>%1 %2 added</source>
+        <translation>%1 新增 %2</translation>
+    </message>
+    <message>
+        <source>%1 %2 removed</source>
+        <translation>%1 清除 %2</translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3</source>
+        <translation>%1 %2 改为 %3</translation>
+    </message>
+    <message>
+        <source>%1 texts of %2</source>
+        <translation>%2 的 %1 处标注</translation>
+    </message>
+    <message>
+        <source>%1 beams</source>
+        <translation>%1 根梁</translation>
+    </message>
+    <message>
+        <source>%1 walls</source>
+        <translation>%1 道墙</translation>
+    </message>
+    <message>
+        <source>%1 beams and walls</source>
+        <translation>%1 个构件</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2的%1</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 已清除</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 改为 %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 texts do not belong where they would go.</source>
+        <translation>%2 处标注中有 %1 处不属于该项。</translation>
+    </message>
+    <message>
+        <source>Keep them</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Leave them out</source>
+        <translation>略去</translation>
+    </message>
+    <message>
         <source>cancelled</source>
         <translation>已取消</translation>
     </message>
@@ -2012,6 +2096,14 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <translation>正在打开 %1</translation>
     </message>
     <message>
+        <source>Sample project</source>
+        <translation>示例工程</translation>
+    </message>
+    <message>
+        <source>New floor</source>
+        <translation>新建楼层</translation>
+    </message>
+    <message>
         <source>Saving %1</source>
         <translation>正在保存 %1</translation>
     </message>
@@ -2023,20 +2115,8 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <translation>无法执行：%1</translation>
     </message>
     <message>
-        <source>New beam %1</source>
-        <translation>新梁 %1</translation>
-    </message>
-    <message>
-        <source>New label %1</source>
-        <translation>新标注 %1</translation>
-    </message>
-    <message>
         <source>There is no outline of one beam without a label</source>
         <translation>此处没有未标注的单根梁轮廓</translation>
-    </message>
-    <message>
-        <source>New wall %1</source>
-        <translation>新墙 %1</translation>
     </message>
     <message>
         <source>%1 beams and walls</source>
@@ -2059,28 +2139,12 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <translation>%1 已删除</translation>
     </message>
     <message>
-        <source>Start of %1</source>
-        <translation>%1 的起点</translation>
-    </message>
-    <message>
-        <source>End of %1</source>
-        <translation>%1 的终点</translation>
-    </message>
-    <message>
         <source>The value was not taken</source>
         <translation>数值未被采用</translation>
     </message>
     <message>
-        <source>Data of %1</source>
-        <translation>%1 的数据</translation>
-    </message>
-    <message>
         <source>Choose a beam first</source>
         <translation>请先选择一根梁</translation>
-    </message>
-    <message>
-        <source>Text in place of %1</source>
-        <translation>%1 的原位标注</translation>
     </message>
     <message>
         <source>A label needs its name; deleting the beam removes the whole label</source>
@@ -2093,6 +2157,46 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>%1 annotations</source>
         <translation>%1 处标注</translation>
+    </message>
+    <message>
+        <source>%1 added</source>
+        <translation>新增 %1</translation>
+    </message>
+    <message>
+        <source>Label %1 added</source>
+        <translation>新增标注 %1</translation>
+    </message>
+    <message>
+        <source>Wall %1 added</source>
+        <translation>新增墙 %1</translation>
+    </message>
+    <message>
+        <source>%1 is there already</source>
+        <translation>%1 已在此处</translation>
+    </message>
+    <message>
+        <source>start of %1 moved</source>
+        <translation>%1 的起点移动</translation>
+    </message>
+    <message>
+        <source>end of %1 moved</source>
+        <translation>%1 的终点移动</translation>
+    </message>
+    <message>
+        <source>%1: %2 already</source>
+        <translation>%1：已是 %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 to %3</source>
+        <translation>%1：%2 改为 %3</translation>
+    </message>
+    <message>
+        <source>text in place of %1 added</source>
+        <translation>新增 %1 的原位标注</translation>
+    </message>
+    <message>
+        <source>%1: no text already</source>
+        <translation>%1：本来就没有标注</translation>
     </message>
 </context>
 <context>
@@ -2224,16 +2328,20 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <translation>已保存：%1</translation>
     </message>
     <message>
-        <source>Sample project</source>
-        <translation>示例工程</translation>
-    </message>
-    <message>
         <source>%1 beams, %2 walls</source>
         <translation>梁 %1 根，墙 %2 道</translation>
     </message>
     <message>
-        <source>New floor</source>
-        <translation>新建楼层</translation>
+        <source>Undone: %1</source>
+        <translation>已撤销：%1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>已重做：%1</translation>
+    </message>
+    <message>
+        <source>%1 (read only)</source>
+        <translation>%1（只读）</translation>
     </message>
     <message>
         <source>Panel: left button picks, right button or Enter takes the text, Esc leaves</source>
@@ -2419,13 +2527,17 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <source>Shows or hides the list of problems; F8 goes to the next one</source>
         <translation>显示或隐藏问题列表；F8转到下一个</translation>
     </message>
+    <message>
+        <source>rule on: %1</source>
+        <translation>启用规则：%1</translation>
+    </message>
+    <message>
+        <source>rule off: %1</source>
+        <translation>停用规则：%1</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ProjectFiles</name>
-    <message>
-        <source>The project could not be opened</source>
-        <translation>工程无法打开</translation>
-    </message>
     <message>
         <source>a project that was never saved</source>
         <translation>未保存过的工程</translation>
@@ -2459,24 +2571,12 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
         <translation>打开之后，%1 已被其他程序改写。</translation>
     </message>
     <message>
-        <source>Overwrite</source>
-        <translation>覆盖</translation>
-    </message>
-    <message>
         <source>Save as...</source>
         <translation>另存为...</translation>
     </message>
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
-    </message>
-    <message>
-        <source>The project could not be saved</source>
-        <translation>工程无法保存</translation>
-    </message>
-    <message>
-        <source>The project has unsaved changes.</source>
-        <translation>工程有未保存的修改。</translation>
     </message>
     <message>
         <source>Save</source>
@@ -2517,6 +2617,66 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>Save as</source>
         <translation>另存为</translation>
+    </message>
+    <message>
+        <source>%1 is open in another desk: here it is read only, and saving asks for another name</source>
+        <translation>%1 已在另一个 beamdesk 中打开：此处只读，保存时须另取文件名</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened</source>
+        <translation>%1 无法打开</translation>
+    </message>
+    <message>
+        <source>%1 has unsaved changes.</source>
+        <translation>%1 有未保存的修改。</translation>
+    </message>
+    <message>
+        <source>%1 is open in another desk.</source>
+        <translation>%1 已在另一个 beamdesk 中打开。</translation>
+    </message>
+    <message>
+        <source>Saved under another name nothing of it is lost.</source>
+        <translation>另存为其他文件名，修改不会丢失。</translation>
+    </message>
+    <message>
+        <source>It is on the computer %1. Saved under another name nothing of it is lost.</source>
+        <translation>打开它的计算机是 %1。另存为其他文件名，修改不会丢失。</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>重新载入</translation>
+    </message>
+    <message>
+        <source>Save mine over it</source>
+        <translation>以本窗口的内容覆盖</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>保留本窗口的内容</translation>
+    </message>
+    <message>
+        <source>Compare...</source>
+        <translation>比较...</translation>
+    </message>
+    <message>
+        <source>Reloading gives up what was changed here and not saved.</source>
+        <translation>重新载入将放弃此处未保存的修改。</translation>
+    </message>
+    <message>
+        <source>Nothing was changed here since.</source>
+        <translation>此处没有未保存的修改。</translation>
+    </message>
+    <message>
+        <source>%1 could not be compared</source>
+        <translation>%1 无法比较</translation>
+    </message>
+    <message>
+        <source>The other desk has closed %1: it can be saved here</source>
+        <translation>另一个 beamdesk 已关闭 %1：此处可以保存</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved</source>
+        <translation>%1 无法保存</translation>
     </message>
 </context>
 <context>
@@ -2704,6 +2864,14 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>%1 and %2 more</source>
         <translation>%1 等，另有 %2 处</translation>
+    </message>
+    <message>
+        <source>no text</source>
+        <translation>无标注</translation>
+    </message>
+    <message>
+        <source>%1: %2 already</source>
+        <translation>%1：已是 %2</translation>
     </message>
 </context>
 <context>

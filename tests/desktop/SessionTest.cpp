@@ -16,6 +16,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <nlohmann/json.hpp>
+
 #include "desk/drawing/Drawing.h"
 #include "desk/drawing/Export.h"
 #include "desk/project/ProjectFile.h"

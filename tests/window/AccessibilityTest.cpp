@@ -178,7 +178,8 @@ TEST_F(AccessibilityTest, HelpTellsEveryKeyInTheLanguageOfTheWindow)
     window.SetLanguage(Language::Chinese);
     QCoreApplication::processEvents();
     static const QRegularExpression english("\\b(the|of|and|a|with)\\b");
-    EXPECT_EQ(english.match(text.toPlainText().remove("University of Cincinnati")).captured().toStdString(), "");
+    EXPECT_EQ(english.match(text.toPlainText().remove("University of Cincinnati")).captured().toStdString(),
+              "");
     Trigger("about");
     EXPECT_TRUE(text.toPlainText().contains("nlohmann/json"));
     EXPECT_GT(text.verticalScrollBar()->value(), 0);

@@ -96,7 +96,7 @@ TEST_F(DocumentTest, SavesAndOpensAndKeepsWhatFails)
     document.SetText(Section, "999x999");
     document.SaveAs(File("a.json"));
     EXPECT_FALSE(document.IsChanged());
-    EXPECT_FALSE(document.IsFileNewer());
+    EXPECT_FALSE(document.Held().IsOther());
     EXPECT_EQ(ReadProject(File("a.json").toStdString()).beams[0].section, "999x999");
     document.SetText(Section, "888x888");
     EXPECT_THROW(document.SaveAs(File("no/such/folder.json")), Failure);
@@ -104,13 +104,17 @@ TEST_F(DocumentTest, SavesAndOpensAndKeepsWhatFails)
     EXPECT_TRUE(document.IsChanged());
     EXPECT_EQ(document.Get().beams[0].section, "888x888");
     EXPECT_EQ(document.File(), File("a.json"));
-    QFile other(File("a.json"));
-    ASSERT_TRUE(other.open(QIODevice::Append));
-    other.write("\n");
-    other.flush();  // what is written later would take the time along
-    other.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime);
-    other.close();
-    EXPECT_TRUE(document.IsFileNewer());
+    for (const bool writes : {false, true}) {
+        QFile other(File("a.json"));
+        ASSERT_TRUE(other.open(QIODevice::Append));
+        other.write(writes ? "\n" : "");
+        other.flush();  // what is written later would take the time along
+        other.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime);
+        other.close();
+        EXPECT_EQ(document.Held().IsOther(true), writes) << "a touch is no other content";
+    }
+    ASSERT_TRUE(QFile::remove(File("a.json")));
+    EXPECT_FALSE(document.Held().IsOther()) << "there is nothing that saving would replace";
 }
 
 TEST_F(DocumentTest, LeavesACopyThatTheNextSessionFinds)
@@ -134,14 +138,14 @@ TEST_F(DocumentTest, LeavesACopyThatTheNextSessionFinds)
     EXPECT_TRUE(next.IsChanged());
     EXPECT_EQ(next.File(), File("work.json"));
     EXPECT_TRUE(FindLostWork(Recovery()).isEmpty()) << "taken over";
-    EXPECT_FALSE(next.IsFileNewer());
+    EXPECT_FALSE(next.Held().IsOther());
     QFile saved(next.File());
     ASSERT_TRUE(saved.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(saved.setFileTime(lost[0].time.addSecs(-60), QFileDevice::FileModificationTime));
+    saved.write(" ");  // in place of the bracket, by a program that does not look
     saved.close();
     Document late(Recovery());
     late.OpenLost(lost[0]);
-    EXPECT_TRUE(late.IsFileNewer()) << "saved by another program before the copy was written";
+    EXPECT_TRUE(late.Held().IsOther()) << "saved by another program before the copy was written";
     EXPECT_EQ(QDir(Recovery()).entryList({"*.json"}).size(), 2) << "each program has one of its own";
     late.DropRecoveryCopy();
     next.SaveAs(next.File());

@@ -49,7 +49,7 @@ TEST_F(DrawingTest, SavesWhatWasReadAndChangesOnlyWhatWasSet)
     const std::string before = Bytes(file);
     document.SaveAs(file);
     EXPECT_EQ(Bytes(file), before);
-    EXPECT_FALSE(document.IsFileNewer());
+    EXPECT_FALSE(document.Held().IsOther());
     ASSERT_TRUE(document.SetText(Stirrup, "A10@100(4)").isEmpty());
     document.SaveAs(file);
     EXPECT_NE(Bytes(file), before);

@@ -46,7 +46,6 @@ protected:
         QApplication::sendEvent(&view, &move);
         QTest::mouseRelease(&view, Qt::LeftButton, Qt::ShiftModifier, to);
     }
-    QString Told() { return window.statusBar()->currentMessage(); }
     int Steps() { return document.Changes().index(); }
 };
 

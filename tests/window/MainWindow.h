@@ -1,6 +1,8 @@
 // The desk on the sample, and what a person does to it.
 #pragma once
 
+#include <ostream>
+
 #include <QtTest/QtTest>
 
 #include <gtest/gtest.h>
@@ -9,6 +11,9 @@
 #include "desk/project/ProjectFile.h"
 #include "desk/window/MainWindow.h"
 
+// Legible where a test fails.
+inline void PrintTo(const QString& text, std::ostream* to) { *to << text.toStdString(); }
+
 namespace Desk {
 
 class MainWindowTest : public testing::Test {
@@ -16,6 +21,8 @@ protected:
     MainWindowTest()
     {
         QSettings().clear();
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QObject::connect(&asker, &QTimer::timeout, &asker, [this] { AnswerOne(); });
         window.SetLanguage(Language::English);
         window.Files().Open(QString());
         window.resize(1440, 900);  // whatever the screen's size and scale
@@ -78,8 +85,57 @@ protected:
         QTest::mouseClick(&Control(id), Qt::LeftButton, {}, list.visualRect(found[0]).center());
     }
 
+    QString Told() { return window.statusBar()->currentMessage(); }
+    // From now on questions and dialogs are answered in this order: a question by a button's text, a file
+    // dialog by a file. What was asked, in one text each.
+    void Answer(const QStringList& answers)
+    {
+        prepared = answers;
+        questions.clear();
+        asker.start(1);
+    }
+
     QtDisplay display{{Utf8FromGbk, GbkFromUtf8}};
     MainWindow window{display};
+    QStringList questions;
+
+private:
+    void AnswerOne()
+    {
+        QWidget* const modal = QApplication::activeModalWidget();
+        if (modal == nullptr) {
+            return;
+        }
+        const QString answer = prepared.isEmpty() ? QString() : prepared.takeFirst();
+        if (auto* const box = qobject_cast<QMessageBox*>(modal)) {
+            questions << box->text() + '\n' + box->informativeText();
+            for (QAbstractButton* const each : box->buttons()) {
+                if (each->text().remove(QLatin1Char('&')) == answer) {
+                    each->click();
+                    return;
+                }
+            }
+            ADD_FAILURE() << answer.toStdString() << " is no answer to " << questions.last().toStdString();
+        } else if (qobject_cast<QFileDialog*>(modal) != nullptr) {
+            modal->findChild<QLineEdit*>("fileNameEdit")->setText(answer);
+            // Later, since it may ask in its turn, and a timer does not fire within itself.
+            QMetaObject::invokeMethod(modal, answer.isEmpty() ? "reject" : "accept", Qt::QueuedConnection);
+            return;
+        } else if (auto* const rows = modal->findChild<QTreeWidget*>("differences")) {
+            for (int i = 0; i < rows->topLevelItemCount(); ++i) {
+                QStringList cells;
+                for (int column = 0; column < rows->columnCount(); ++column) {
+                    cells << rows->topLevelItem(i)->text(column);
+                }
+                questions << cells.join('|');
+            }
+            prepared.prepend(answer);
+        }
+        QTest::keyClick(modal, Qt::Key_Escape);
+    }
+
+    QStringList prepared;
+    QTimer asker;
 };
 
 inline constexpr FieldRef Bars{false, 0, Field::TopBars};

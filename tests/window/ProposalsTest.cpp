@@ -23,7 +23,6 @@ protected:
         window.Choose(Of(*fields.begin(), beam));
     }
     void Key(char key) { QTest::keyClick(&window.Drawing(), key); }
-    QString Told() { return window.statusBar()->currentMessage(); }
     QString Lead(int row)
     {
         const QAbstractItemModel& rows = *Find<QListView>("proposals").model();
