@@ -15,10 +15,15 @@ foreach(library platform griditem bartext RankerModule)
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN")
   target_include_directories(${library} PUBLIC $<INSTALL_INTERFACE:${headers_dir}>)
   target_compile_features(${library} PUBLIC cxx_std_20)
+  if(WIN32)
+    set_target_properties(${library} PROPERTIES PREFIX "")
+  endif()
 endforeach()
 
 install(TARGETS platform griditem bartext RankerModule EXPORT RankerModule
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT module NAMELINK_COMPONENT module)
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT module NAMELINK_COMPONENT module
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT module
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT module)
 install(FILES RankerModule.h DESTINATION ${headers_dir} COMPONENT module)
 foreach(room platform griditem bartext host tables rankers panels pickers geometry)
   install(DIRECTORY ${room} DESTINATION ${headers_dir} COMPONENT module FILES_MATCHING PATTERN "*.h"
