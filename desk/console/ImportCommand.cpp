@@ -83,7 +83,7 @@ bool IsDrawingFile(const Input& input)
         return BeginsAsDrawing(in);
     }
     const std::string kind = LowerCaseExtension(input.name);
-    std::ifstream in(input.name);
+    std::ifstream in{fs::path(input.name)};
     return kind == ".dxf" || kind == ".dwg" || BeginsAsDrawing(in);
 }
 

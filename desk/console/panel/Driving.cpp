@@ -1,6 +1,7 @@
 // A subcommand for each panel.
 #include "desk/console/panel/Driving.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -50,7 +51,7 @@ std::string ReadAll(const std::string& file)
     if (file == "-") {
         return {std::istreambuf_iterator<char>(std::cin), {}};
     }
-    std::ifstream in(file, std::ios::binary);
+    std::ifstream in(std::filesystem::path(file), std::ios::binary);
     std::ostringstream text;
     if (in.peek() != std::ifstream::traits_type::eof()) {
         text << in.rdbuf();
