@@ -35,6 +35,7 @@ void FloorView::Exchange(const Exchanged& exchanged)
                                                     m_shown.height()));
     }
     SetContent(m_shown, m_readingScale);
+    Scaled();
 }
 
 std::vector<OwnerItem*> FloorView::ItemsAround(const OwnerItem& item) const

@@ -10,7 +10,6 @@ namespace Desk {
 
 namespace {
 
-constexpr double BodyReach = 4.0;    // pixels beside a beam that still count as on it
 constexpr int ViewMargin = 30;       // pixels around an annotation that is brought into view
 constexpr double GoodHeight = 16.0;  // pixels of a text that is read with ease
 
@@ -35,6 +34,7 @@ void FloorView::SetProject(const Project* project, const Backdrop* behind)
     m_lit = nullptr;
     m_hovered = nullptr;
     m_marks = nullptr;
+    m_small = nullptr;
     m_sketch = nullptr;
     m_drag.reset();
     m_frameFrom.reset();
@@ -53,6 +53,10 @@ void FloorView::SetProject(const Project* project, const Backdrop* behind)
     m_covering = floor.covering;
     m_shown = floor.shown;
     m_readingScale = GoodHeight / floor.textHeight;
+    m_small = new SmallTexts;
+    m_small->SetColors(&ColorsFor(m_isDark));
+    m_all.push_back(m_small);
+    scene()->addItem(m_small);
     const QRectF all = scene()->itemsBoundingRect() | m_shown;
     scene()->setSceneRect(all.adjusted(-all.width(), -all.height(), all.width(), all.height()));
     SetContent(m_shown, m_readingScale);
@@ -67,6 +71,7 @@ void FloorView::Refresh(const FieldRef& ref)
 {
     if (OwnerItem* const item = ItemOf(ref)) {
         item->Take(*m_project);
+        m_isStale = true;  // the text may have another length
     }
 }
 
@@ -74,12 +79,14 @@ void FloorView::SetChosen(std::optional<FieldRef> ref)
 {
     if (m_lit != nullptr) {
         m_lit->SetLit(std::nullopt);
+        m_small->SetLit(nullptr, std::nullopt);
     }
     m_lit = ref ? ItemOf(*ref) : nullptr;
     m_chosen = m_lit != nullptr ? ref : std::nullopt;
     ShowHandles();
     if (m_lit != nullptr) {
         m_lit->SetLit(m_chosen);
+        m_small->SetLit(m_lit, m_chosen);
         BringIntoView(mapFromScene(m_lit->mapToScene(m_lit->BoxOf(*m_chosen))).boundingRect());
     }
 }
@@ -105,6 +112,35 @@ void FloorView::BringIntoView(const QRect& inView)
     const QRect room = viewport()->rect().adjusted(ViewMargin, ViewMargin, -ViewMargin, -ViewMargin);
     if (!room.intersects(inView)) {
         PanBy(room.center() - inView.center());
+    }
+}
+
+void FloorView::BringClose(const FieldRef& ref)
+{
+    const OwnerItem* const item = ItemOf(ref);
+    if (item == nullptr) {
+        return;
+    }
+    const auto inView = [&] { return mapFromScene(item->mapToScene(item->BoxOf(ref))).boundingRect(); };
+    if (const double height = item->OwnHeight(ref) * transform().m11(); height < m_leastTextSize) {
+        ZoomAbout(inView().center(), std::max(GoodHeight, m_leastTextSize) / height);
+    }
+    if (!viewport()->rect().contains(inView())) {
+        PanBy(viewport()->rect().center() - inView().center());
+    }
+}
+
+void FloorView::SetLeastTextSize(double pixels)
+{
+    m_leastTextSize = pixels;
+    Scaled();
+}
+
+void FloorView::Scaled()
+{
+    m_isStale = false;
+    if (m_small != nullptr) {
+        m_small->Choose(m_items, m_leastTextSize / transform().m11());
     }
 }
 
@@ -154,12 +190,16 @@ void FloorView::LightMark(std::optional<std::size_t> mark)
 
 void FloorView::ZoomBy(double factor)
 {
-    QPoint at = viewport()->rect().center();
-    if (m_chosen) {
-        const QPoint chosen = viewport()->mapFromGlobal(OnScreen(*m_chosen).center());
-        at = viewport()->rect().contains(chosen) ? chosen : at;
+    const QPoint middle = viewport()->rect().center();
+    const auto chosen = [&] {
+        return m_chosen ? viewport()->mapFromGlobal(OnScreen(*m_chosen).center()) : middle;
+    };
+    const QPoint before = chosen();
+    const bool isInView = viewport()->rect().contains(before);
+    ZoomAbout(isInView ? before : middle, factor);
+    if (isInView) {
+        PanBy(before - chosen());  // a small text does not grow
     }
-    ZoomAbout(at, factor);
 }
 
 void FloorView::SetDark(bool dark)
@@ -180,149 +220,17 @@ OwnerItem* FloorView::ItemOf(const FieldRef& ref) const
     return m_items[ref.index + (ref.isWall ? m_project->beams.size() : 0)];
 }
 
-// An annotation before a mark, both before a beam, and of two beams the one on top.
-FloorView::Hit FloorView::HitAt(const QPoint& inView) const
+void FloorView::Settle()
 {
-    const QPointF at = mapToScene(inView);
-    const double scale = transform().m11();
-    const double reach = BodyReach / scale;
-    Hit body;
-    for (QGraphicsItem* const each :
-         scene()->items(QRectF(at.x() - reach, at.y() - reach, 2 * reach, 2 * reach),
-                        Qt::IntersectsItemBoundingRect)) {
-        auto* const item = qgraphicsitem_cast<OwnerItem*>(each);
-        if (item == nullptr) {
-            continue;
-        }
-        const QPointF local = item->mapFromScene(at);
-        if (const std::optional<FieldRef> text = item->RefAt(local, scale)) {
-            return {item, text};
-        }
-        if (body.item == nullptr && item->IsOnBody(local, reach)) {
-            body.item = item;
-        }
-    }
-    if (const auto mark = m_marks != nullptr ? m_marks->MarkAt(at, scale) : std::nullopt) {
-        return {nullptr, std::nullopt, mark};
-    }
-    return body;
-}
-
-void FloorView::Hover(const Hit& hit)
-{
-    if (m_hovered != nullptr && m_hovered != hit.item) {
-        m_hovered->SetHovered(std::nullopt);
-    }
-    m_hovered = hit.item;
-    if (hit.item != nullptr) {
-        hit.item->SetHovered(hit.text);
-    }
-    const bool isThing = hit.item != nullptr || hit.mark;
-    viewport()->setCursor(IsPointing() ? Qt::CrossCursor
-                          : isThing    ? Qt::PointingHandCursor
-                                       : Qt::ArrowCursor);
-}
-
-void FloorView::Pick(const Hit& hit)
-{
-    if (hit.mark) {
-        emit MarkPicked(*hit.mark);
-    } else if (hit.item != nullptr) {
-        emit Picked(hit.Ref());
+    if (m_isStale) {
+        Scaled();
     }
 }
 
-void FloorView::mousePressEvent(QMouseEvent* event)
+void FloorView::paintEvent(QPaintEvent* event)
 {
-    const QPoint inView = event->position().toPoint();
-    const QPointF at = mapToScene(inView);
-    const bool left = event->button() == Qt::LeftButton;
-    const Hit hit = HitAt(inView);
-    const auto handle = m_sketch != nullptr ? m_sketch->HandleAt(at, transform().m11()) : std::nullopt;
-    if (left && IsPointing()) {
-        const TakePoint pressed = m_pressed;  // which may end the pointing
-        pressed({at.x(), -at.y()});
-    } else if (left && event->modifiers().testFlag(Qt::ShiftModifier)) {
-        m_frameFrom = inView;
-    } else if (left && event->modifiers().testFlag(Qt::ControlModifier) && hit.item != nullptr) {
-        emit Joined(hit.Ref());
-    } else if (left && handle) {
-        m_drag = Drag{*handle, inView, false, {}};
-    } else if (left && (hit.mark || hit.item != nullptr)) {
-        Pick(hit);
-    } else {
-        PanView::mousePressEvent(event);
-    }
-}
-
-void FloorView::mouseMoveEvent(QMouseEvent* event)
-{
-    const QPoint inView = event->position().toPoint();
-    if (m_frameFrom) {
-        m_frame->setGeometry(QRect(*m_frameFrom, inView).normalized());
-        m_frame->show();
-    } else if (m_drag) {
-        DragHandle(inView);
-    } else if (!MayPan()) {
-        Hover(HitAt(inView));
-        if (const QPointF at = mapToScene(inView); m_moved) {
-            m_moved({at.x(), -at.y()});
-        }
-    }
-    PanView::mouseMoveEvent(event);
-}
-
-void FloorView::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (m_frameFrom && event->button() == Qt::LeftButton) {
-        EndFrame(event->position().toPoint());
-        return;
-    }
-    if (!m_drag || event->button() != Qt::LeftButton) {
-        PanView::mouseReleaseEvent(event);
-        return;
-    }
-    const Drag drag = *std::exchange(m_drag, std::nullopt);
-    SetSketch({}, std::nullopt);
-    if (!drag.hasMoved) {
-        Pick(HitAt(drag.pressed));
-    } else if (m_chosen) {
-        emit EndDragged(*m_chosen, drag.handle == 0, drag.to);
-    }
-}
-
-void FloorView::EndFrame(const QPoint& inView)
-{
-    const QPoint from = *std::exchange(m_frameFrom, std::nullopt);
-    m_frame->hide();
-    if ((inView - from).manhattanLength() < QApplication::startDragDistance()) {
-        if (const Hit hit = HitAt(from); hit.item != nullptr) {
-            emit Joined(hit.Ref());
-        }
-        return;
-    }
-    const QRectF frame = QRectF(from, inView).normalized();
-    std::vector<FieldRef> owners;
-    for (const OwnerItem* const item : m_items) {
-        const QPolygonF body = mapFromScene(item->mapToScene(item->Body()));
-        if (frame.contains(body.boundingRect()) ||
-            (inView.x() < from.x() && QPolygonF(frame).intersects(body))) {
-            owners.push_back(item->NameRef());
-        }
-    }
-    emit Framed(owners);
-}
-
-void FloorView::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    if (IsPointing() || event->modifiers().testAnyFlags(Qt::ControlModifier | Qt::ShiftModifier)) {
-        mousePressEvent(event);
-        return;
-    }
-    const Hit hit = HitAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && hit.item != nullptr) {
-        emit PanelAsked(hit.Ref());
-    }
+    Settle();
+    PanView::paintEvent(event);
 }
 
 }  // namespace Desk

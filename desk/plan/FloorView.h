@@ -11,6 +11,7 @@
 #include "desk/plan/OwnerItem.h"
 #include "desk/plan/PanView.h"
 #include "desk/plan/SketchItem.h"
+#include "desk/plan/SmallTexts.h"
 #include "desk/project/Edits.h"
 
 namespace Desk {
@@ -40,6 +41,10 @@ public:
 
     // Texts that wait for a person, drawn apart from the others, by numbers from 0.
     void SetMarks(std::vector<PlanMark> marks);
+    // Makes an annotation as large as is read with ease, where it is not, and the middle of the view where
+    // it is out of it.
+    void BringClose(const FieldRef& ref);
+
     // Lights up a mark and brings it into view; nothing for none. Does not signal.
     void LightMark(std::optional<std::size_t> mark);
     // Annotations that have problems get a sign; one that is not there has none.
@@ -66,12 +71,18 @@ public:
 
     void ZoomBy(double factor);  // about the chosen annotation where it is in view, or else the middle
     void SetDark(bool dark);
+    // Pixels of the lowest texts of annotations.
+    void SetLeastTextSize(double pixels);
+    // What is drawn at the least size at this scale, and where, on the sheet.
+    [[nodiscard]] const SmallTexts* Small() const { return m_small; }
 
 signals:
     // A press on an annotation; on a beam or wall itself: its name.
     void Picked(const Desk::FieldRef& ref);
-    void Joined(const Desk::FieldRef& ref);      // the same with Ctrl or Shift
-    void PanelAsked(const Desk::FieldRef& ref);  // a double click
+    void Joined(const Desk::FieldRef& ref);                            // the same with Ctrl or Shift
+    void PanelAsked(const Desk::FieldRef& ref);                        // a double click
+    void TipAsked(const Desk::FieldRef& ref, const QPoint& onScreen);  // the pointer rests there
+    void MenuAsked(const QPoint& onScreen);  // after a pick where an annotation is there
     // A drag with Shift: to the right the beams and walls in the frame, to the left those it touches as
     // well, by their names.
     void Framed(const std::vector<Desk::FieldRef>& owners);
@@ -79,6 +90,10 @@ signals:
     void EndDragged(const Desk::FieldRef& owner, bool isStart, const Desk::PlanPoint& to);
 
 protected:
+    void Scaled() override;
+    void paintEvent(QPaintEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -94,7 +109,8 @@ private:
         [[nodiscard]] FieldRef Ref() const { return text.value_or(item->NameRef()); }
     };
 
-    [[nodiscard]] Hit HitAt(const QPoint& inView) const;
+    [[nodiscard]] Hit HitAt(const QPoint& inView);
+    void Settle();  // once for all texts that changed
     [[nodiscard]] OwnerItem* ItemOf(const FieldRef& ref) const;
     void Hover(const Hit& hit);
     void Pick(const Hit& hit);
@@ -121,7 +137,8 @@ private:
     double m_readingScale = 1.0;
     std::vector<PlanItem*> m_all;     // the scene owns them
     std::vector<OwnerItem*> m_items;  // beams, then walls
-    std::ptrdiff_t m_walls = 0;       // among them
+    SmallTexts* m_small = nullptr;
+    std::ptrdiff_t m_walls = 0;  // among them
     MarksItem* m_marks = nullptr;
     std::vector<FieldRef> m_problems;
     SketchItem* m_sketch = nullptr;
@@ -129,6 +146,9 @@ private:
     std::optional<FieldRef> m_chosen;
     OwnerItem* m_lit = nullptr;  // that of the chosen annotation
     OwnerItem* m_hovered = nullptr;
+    std::optional<FieldRef> m_hoveredText;
+    double m_leastTextSize = 9.0;
+    bool m_isStale = false;  // which small texts have room
     TakePoint m_pressed;
     TakePoint m_moved;
     std::optional<Drag> m_drag;

@@ -31,7 +31,7 @@ QRectF OwnerItem::boundingRect() const
 {
     const double reach = m_isDrawn ? m_body.width : LeaderReach;
     QRectF all = Body().adjusted(0, -reach, 0, reach);
-    for (const Label& label : AllLabels()) {
+    for (const Label& label : LabelsAsTheyAre()) {
         all |= label.Outline().boundingRect();
     }
     return all;
@@ -61,6 +61,7 @@ void OwnerItem::Take(const Project& project)
         m_fixed = TextsBeside(beam, m_body);
         for (Label& label : PlacedTexts(beam)) {
             label.box.moveBottomLeft(mapFromScene(label.box.bottomLeft()));
+            label.anchor = mapFromScene(label.anchor);
             label.turn = label.turn.value_or(0.0) - rotation();
             m_fixed.push_back(std::move(label));
         }
@@ -85,12 +86,12 @@ void OwnerItem::Lie(const PlanPoint& start, const PlanPoint& end)
     setRotation(DegreesOf(dx, dy));
 }
 
-std::vector<QPointF> OwnerItem::BlockPositions() const
+std::vector<QPointF> OwnerItem::BlockPositions(double away) const
 {
     const QSizeF size = BlockSize();
     const double length = m_body.length;
-    const double above = -m_body.width / 2.0 - BlockGap - TextHeight - LineStep - size.height();
-    const double below = m_body.width / 2.0 + BlockGap;
+    const double above = -m_body.width / 2.0 - BlockGap - TextHeight - LineStep - size.height() - away;
+    const double below = m_body.width / 2.0 + BlockGap + away;
     std::vector<QPointF> positions;
     for (const double top : {below, above}) {
         for (const double part : {0.5, 0.35, 0.65, 0.2, 0.8, 0.1, 0.9, 0.42, 0.58, 0.28, 0.72}) {
@@ -108,20 +109,50 @@ void OwnerItem::SetBlock(const QPointF& corner)
     m_corner = corner;
 }
 
-std::vector<Label> OwnerItem::AllLabels() const
+std::vector<Label> OwnerItem::LabelsAsTheyAre() const
 {
     std::vector<Label> all = m_fixed;
-    for (Label label : m_block) {
-        label.box.translate(m_corner);
-        all.push_back(std::move(label));
+    all.reserve(m_fixed.size() + m_block.size());
+    const QPointF anchor =
+        m_corner.y() > 0.0 ? m_corner : m_corner + QPointF(0.0, SizeOf(m_block).height());
+    for (const Label& label : m_block) {
+        all.push_back(label);
+        all.back().box.translate(m_corner);
+        all.back().anchor = anchor;
     }
     return all;
 }
 
-std::optional<FieldRef> OwnerItem::RefAt(const QPointF& local, double scale) const
+std::vector<Label> OwnerItem::Labels() const
 {
-    for (const Label& label : AllLabels()) {
-        if (!label.text.isEmpty() && IsReadable(label.box.height(), scale) &&
+    std::vector<Label> all = LabelsAsTheyAre();
+    for (Label& label : all) {
+        label.Grow(m_leastHeight);
+    }
+    return all;
+}
+
+bool OwnerItem::HasSmallTexts() const
+{
+    const auto isSmall = [this](const Label& label) { return IsSmall(label); };
+    return std::any_of(m_block.begin(), m_block.end(), isSmall) ||
+           std::any_of(m_fixed.begin(), m_fixed.end(), isSmall);
+}
+
+double OwnerItem::OwnHeight(const FieldRef& ref) const
+{
+    for (const Label& label : LabelsAsTheyAre()) {
+        if (RefOf(label) == ref) {
+            return label.box.height();
+        }
+    }
+    return TextHeight;
+}
+
+std::optional<FieldRef> OwnerItem::RefAt(const QPointF& local) const
+{
+    for (const Label& label : LabelsAsTheyAre()) {
+        if (!label.text.isEmpty() && !IsSmall(label) &&
             label.Outline().containsPoint(local, Qt::OddEvenFill)) {
             return RefOf(label);
         }
@@ -136,7 +167,7 @@ bool OwnerItem::IsOnBody(const QPointF& local, double reach) const
 
 QPolygonF OwnerItem::BoxOf(const FieldRef& ref) const
 {
-    for (const Label& label : AllLabels()) {
+    for (const Label& label : Labels()) {
         if (RefOf(label) == ref) {
             return label.Turned().map(QPolygonF(label.box));
         }
@@ -184,12 +215,9 @@ void OwnerItem::SetHovered(const std::optional<FieldRef>& ref)
 void OwnerItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/, QWidget* /*widget*/)
 {
     PaintBody(*painter);
-    const double scale = QStyleOptionGraphicsItem::levelOfDetailFromTransform(painter->worldTransform());
-    if (!m_isDrawn && IsReadable(TextHeight, scale)) {
-        PaintLeader(*painter);
-    }
-    for (const Label& label : AllLabels()) {
-        if (IsReadable(label.box.height(), scale)) {
+    for (const Label& label : LabelsAsTheyAre()) {
+        if (!IsSmall(label)) {
+            PaintLeader(*painter, label);
             PaintText(*painter, label);
         }
     }
@@ -221,17 +249,18 @@ void OwnerItem::PaintBody(QPainter& painter) const
     painter.drawLine(body.topRight(), body.bottomRight());
 }
 
-// From the beam along the left of the block's lines.
-void OwnerItem::PaintLeader(QPainter& painter) const
+// At the left of the block, by lines that continue each other.
+void OwnerItem::PaintLeader(QPainter& painter, const Label& label) const
 {
-    const QSizeF size = BlockSize();
-    if (size.isEmpty()) {
+    const bool isInBlock =
+        !label.turn && label.inPlace < 0 && label.field != Field::LeftEnd && label.field != Field::RightEnd;
+    if (!isInBlock || label.text.isEmpty() || label.box.x() > label.anchor.x()) {
         return;
     }
     painter.setPen(LinePen(Colors(), IsChosen() ? Colors().chosen : Colors().beam));
-    const double x = m_corner.x() - FieldLeader;
-    const double far = m_corner.y() > 0.0 ? m_corner.y() + size.height() : m_corner.y();
-    painter.drawLine(QPointF(x, 0.0), QPointF(x, far));
+    const double x = label.anchor.x() - FieldLeader * label.box.height() / TextHeight;
+    const bool isBelow = m_corner.y() > 0.0;
+    painter.drawLine(QPointF(x, 0.0), QPointF(x, isBelow ? label.box.bottom() : label.box.top()));
 }
 
 void OwnerItem::PaintText(QPainter& painter, const Label& label) const

@@ -25,13 +25,31 @@ public:
     // Others before it came or went.
     void SetIndex(std::size_t index) { m_index = index; }
 
-    // Positions of the block's upper left corner beside the beam, the best first.
-    [[nodiscard]] std::vector<QPointF> BlockPositions() const;
+    // Positions of the block's upper left corner beside the beam, the best first; so many mm further away
+    // than the nearest ones.
+    [[nodiscard]] std::vector<QPointF> BlockPositions(double away = 0.0) const;
     [[nodiscard]] QSizeF BlockSize() const { return SizeOf(m_block); }
     void SetBlock(const QPointF& corner);
     [[nodiscard]] QPointF Block() const { return m_corner; }
 
-    [[nodiscard]] std::optional<FieldRef> RefAt(const QPointF& local, double scale) const;
+    // Texts lower than this, in mm, are drawn so high where there is room, and not by this item.
+    void SetLeastHeight(double height) { m_leastHeight = height; }
+    [[nodiscard]] bool HasSmallTexts() const;
+    // All its labels, with a text and without, as high as they are drawn; those of a line one by one.
+    [[nodiscard]] std::vector<Label> Labels() const;
+    // Also of a label that has grown.
+    [[nodiscard]] bool IsSmall(const Label& label) const
+    {
+        return label.box.height() <= 1.000001 * m_leastHeight;
+    }
+    void PaintText(QPainter& painter, const Label& label) const;
+    // From the beam along a line of the block; nothing for other texts.
+    void PaintLeader(QPainter& painter, const Label& label) const;
+    // As the project has the text.
+    [[nodiscard]] double OwnHeight(const FieldRef& ref) const;
+
+    // Of the texts that it draws itself.
+    [[nodiscard]] std::optional<FieldRef> RefAt(const QPointF& local) const;
     [[nodiscard]] bool IsOnBody(const QPointF& local, double reach) const;
     // Around an annotation's text, drawn or not.
     [[nodiscard]] QPolygonF BoxOf(const FieldRef& ref) const;
@@ -39,6 +57,10 @@ public:
     // Rectangles of the texts that are not in the block.
     [[nodiscard]] std::vector<QRectF> FixedBoxes() const;
 
+    [[nodiscard]] FieldRef RefOf(const Label& label) const
+    {
+        return {m_isWall, m_index, label.field, label.inPlace};
+    }
     [[nodiscard]] FieldRef NameRef() const { return {m_isWall, m_index, Field::Name}; }
     // Each an annotation of this beam or wall, or nothing.
     void SetLit(const std::optional<FieldRef>& ref);
@@ -47,16 +69,10 @@ public:
     void SetHovered(const std::optional<FieldRef>& ref);
 
 private:
-    [[nodiscard]] FieldRef RefOf(const Label& label) const
-    {
-        return {m_isWall, m_index, label.field, label.inPlace};
-    }
     void Lie(const PlanPoint& start, const PlanPoint& end);
     [[nodiscard]] bool IsChosen() const { return m_lit || !m_together.empty(); }
-    [[nodiscard]] std::vector<Label> AllLabels() const;
+    [[nodiscard]] std::vector<Label> LabelsAsTheyAre() const;
     void PaintBody(QPainter& painter) const;
-    void PaintLeader(QPainter& painter) const;
-    void PaintText(QPainter& painter, const Label& label) const;
 
     bool m_isWall;
     bool m_isDrawn = false;  // its outline and its leader are among the drawing's own lines
@@ -65,6 +81,7 @@ private:
     QPointF m_corner;  // of the block
     std::vector<Label> m_block;
     std::vector<Label> m_fixed;  // in local coordinates
+    double m_leastHeight = 0.0;
     std::optional<FieldRef> m_lit;
     std::vector<FieldRef> m_together;
     std::optional<FieldRef> m_hovered;

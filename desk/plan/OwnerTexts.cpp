@@ -135,6 +135,7 @@ private:
             const double next = joined ? m_right : m_right + FieldGap * unit;
             x = x - next < MostGap * unit ? next : x;
         }
+        m_anchor = after ? m_anchor : QPointF(x, line.at.y());
         Add(line.field, drawn, {x, line.at.y()}, line.place.height, line.place.angle);
         m_right = !text.empty() ? x + TextWidth(drawn, line.place.height) : follows ? m_right : 0.0;
         m_lowest = std::max(m_lowest, line.at.y());
@@ -148,11 +149,13 @@ private:
             const QString text = QString::fromStdString(m_beam.*RowOf(field).ofBeam);
             if (!text.isEmpty()) {
                 y += m_pitch;
+                m_anchor = {0.0, y};
                 Add(field, field == Field::Erection ? '(' + text + ')' : text, {0.0, y}, height,
                     m_name.angle);
             }
         }
         double x = 0.0;
+        m_anchor = {0.0, y + m_pitch};
         for (const Field field : fields) {
             if ((m_beam.*RowOf(field).ofBeam).empty()) {
                 Add(field, QString(), {x, y + m_pitch}, height, m_name.angle);
@@ -165,8 +168,8 @@ private:
     {
         const QPointF corner = m_toSheet.map(inFrame);
         const double width = text.isEmpty() ? EmptyWidth / TextHeight * height : TextWidth(text, height);
-        m_labels.push_back(
-            {field, text, QRectF(corner.x(), corner.y() - height, width, height), -1, -angle});
+        m_labels.push_back({field, text, QRectF(corner.x(), corner.y() - height, width, height), -1, -angle,
+                            m_toSheet.map(m_anchor)});
     }
 
     const Beam& m_beam;
@@ -175,6 +178,7 @@ private:
     QTransform m_toFrame;
     std::vector<Label> m_labels;
     double m_right = 0.0;  // where the text before in the line ends
+    QPointF m_anchor;      // where its line begins
     double m_lowest = 0.0;
     double m_pitch = 1.3 * m_name.height;
 };
@@ -194,6 +198,14 @@ std::vector<double> SupportsOf(const Beam& beam, double length)
 }
 
 }  // namespace
+
+void Label::Grow(double height)
+{
+    const double times = height / box.height();
+    if (times > 1.0 && std::isfinite(times)) {
+        box = QRectF(anchor + times * (box.topLeft() - anchor), times * box.size());
+    }
+}
 
 QTransform Label::Turned() const
 {
@@ -274,7 +286,7 @@ std::vector<Label> PlacedTexts(const Beam& beam)
             const QPointF corner = OnSheet(text.place.at);
             labels.push_back({RowOf(text.role).field, drawn,
                               QRectF(corner.x(), corner.y() - height, std::max(width, height), height),
-                              number, -text.place.angle});
+                              number, -text.place.angle, corner});
         }
         ++number;
     }
@@ -295,14 +307,18 @@ std::vector<Label> TextsBeside(const Beam& beam, const BeamBody& body)
         const double width = drawn.isEmpty() ? EmptyWidth * unit : TextWidth(drawn, height);
         const double middle = (body.isReversed ? -1.0 : 1.0) * (at - body.length / 2.0);
         double x = middle - width / 2.0;
+        double fixed = middle;
         if (const double reach = body.length / 2.0; atSupport && std::abs(middle) > reach * 0.99) {
             const double inset = std::min(EndInset * unit, std::max(0.0, reach - width));
             x = middle < 0.0 ? middle + inset : middle - inset - width;
+            fixed = middle < 0.0 ? x : x + width;
         }
         const int line = drawn.isEmpty() ? 0 : lines[{above, std::round(middle)}]++;
-        const double step = TextGap * unit + line * LineStep * unit;
-        const double y = above ? -body.width / 2.0 - step - height : body.width / 2.0 + step;
-        labels.push_back({field, drawn, QRectF(x, y, width, height), inPlace});
+        const double gap = TextGap * unit;
+        const double edge = above ? -body.width / 2.0 - gap : body.width / 2.0 + gap;
+        const double y = above ? edge - line * LineStep * unit - height : edge + line * LineStep * unit;
+        labels.push_back(
+            {field, drawn, QRectF(x, y, width, height), inPlace, std::nullopt, QPointF(fixed, edge)});
     };
     if (PlaceOf(beam, Field::LeftEnd) == nullptr) {
         add(Field::LeftEnd, -1, beam.leftEnd, true, body.isReversed ? body.length : 0.0, true);

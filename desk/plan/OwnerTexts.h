@@ -17,7 +17,10 @@ struct Label {
     // Where the drawing has the text: turned by degrees clockwise about the box's lower left corner, and
     // drawn as drawings have it.
     std::optional<double> turn = std::nullopt;
+    QPointF anchor = {};  // stays where it is when the text is drawn larger
 
+    // Makes it so high if it is lower.
+    void Grow(double height);
     // From the text as it is read to where it is.
     [[nodiscard]] QTransform Turned() const;
     // The box with some room around it, turned.

@@ -38,6 +38,7 @@ void PanView::Fit()
 {
     fitInView(m_content, Qt::KeepAspectRatio);
     m_isFitted = true;
+    Scaled();
 }
 
 double PanView::FittingScale() const
@@ -53,6 +54,7 @@ void PanView::ZoomAbout(const QPoint& inView, double factor)
     const double most = std::max(MostTimes * m_readingScale, FittingScale());
     const double by = std::clamp(now * factor, std::min(least, now), std::max(most, now)) / now;
     scale(by, by);
+    Scaled();
     PanBy(inView - mapFromScene(before));
 }
 

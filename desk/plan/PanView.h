@@ -23,6 +23,7 @@ protected:
     // What is at a point of the view stays there.
     void ZoomAbout(const QPoint& inView, double factor);
     void PanBy(const QPoint& pixels);
+    virtual void Scaled() {}  // the scale has changed
     // A drag may have begun, so that the pointer points at nothing.
     [[nodiscard]] bool MayPan() const { return m_mayPan; }
 

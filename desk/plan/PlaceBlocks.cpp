@@ -14,6 +14,7 @@ constexpr double Clear = 100.0;         // mm around a block
 constexpr double OnText = 100.0;        // what covering a text weighs against covering a beam
 constexpr double MostCells = 10'000.0;  // of a rectangle that is kept by its cells
 constexpr double MostPieces = 100.0;    // of a body
+constexpr double MostLines = 30.0;      // that a block is moved away for want of room
 
 class Ground {
 public:
@@ -106,19 +107,22 @@ bool PlaceOne(Ground& ground, OwnerItem& item)
 {
     double least = std::numeric_limits<double>::max();
     QPointF best;
-    for (const QPointF& corner : item.BlockPositions()) {
-        const double covered = ground.Covered(BlockRect(item, corner), least);
-        if (covered < least) {
-            least = covered;
-            best = corner;
-        }
-        if (least <= 0.0) {
-            break;
+    const auto coversText = [&] { return least >= OnText * Clear * Clear; };
+    for (double line = 0.0; line <= MostLines && coversText(); line += 1.0) {
+        for (const QPointF& corner : item.BlockPositions(line * LineStep)) {
+            const double covered = ground.Covered(BlockRect(item, corner), least);
+            if (covered < least) {
+                least = covered;
+                best = corner;
+            }
+            if (least <= 0.0) {
+                break;
+            }
         }
     }
     item.SetBlock(best);
     ground.Occupy(BlockRect(item, best), OnText);
-    return least >= OnText * Clear * Clear;
+    return coversText();
 }
 
 }  // namespace

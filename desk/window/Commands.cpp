@@ -47,7 +47,7 @@ void MainWindow::ConnectCommands()
     m_menus->On("about", this, [this] { ShowAbout(this); });
     const auto step = [this](const char* command, auto where, int by) {
         m_menus->On(command, m_selection, [this, where, by] {
-            m_selection->Choose(where(m_document.Get(), m_selection->Chosen(), by));
+            m_selection->GoTo(where(m_document.Get(), m_selection->Chosen(), by));
         });
     };
     m_menus->On("nextProblem", m_problems, [this] { m_problems->Go(1); });
@@ -59,6 +59,13 @@ void MainWindow::ConnectCommands()
     step("nextOwner", &StepOwner, 1);
     step("previousOwner", &StepOwner, -1);
     m_menus->On("findNext", this, [this] { m_selection->Find(m_search->Wanted(), 1); });
+    m_menus->On("findAlike", this, [this] {
+        if (Chosen() && !TextAt(m_document.Get(), *Chosen()).empty()) {
+            m_search->setText(
+                QStringLiteral("\"%1\"").arg(QString::fromStdString(TextAt(m_document.Get(), *Chosen()))));
+            m_selection->Find(m_search->Wanted(), 1);
+        }
+    });
     m_menus->On("findPrevious", this, [this] { m_selection->Find(m_search->Wanted(), -1); });
 }
 

@@ -16,4 +16,8 @@ namespace Desk {
 // "KL1(7)", "Wall Q1", or "Beam 12" counted from 1 when it has no name. The beam or wall must exist.
 [[nodiscard]] QString OwnerName(const Project& project, const FieldRef& ref);
 
+// What a beam or wall is called and all its texts, with the area of bars, as rich text; the given one
+// stands out.
+[[nodiscard]] QString OwnerTip(const Project& project, const FieldRef& ref);
+
 }  // namespace Desk

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "desk/window/FieldNames.h"
 #include "desk/window/Folders.h"
 
 namespace Desk {
@@ -22,7 +23,10 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
 {
     setObjectName("desk");
     m_counts->setObjectName("counts");
-    setMinimumSize(640, 420);  // the tool bar with its search, and something of the drawing
+    // The tool bar with its search, and something of the drawing, on any screen and below a title bar.
+    const QSize room =
+        screen()->availableSize() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    setMinimumSize(QSize(640, 420).boundedTo(room));
     m_floor->setObjectName("drawing");
     setCentralWidget(m_floor);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
@@ -42,8 +46,10 @@ MainWindow::MainWindow(QtDisplay& display, QWidget* parent)
     m_display.SetZoom(m_settings.value("panelZoom", 1.25).toDouble());
     SetAppearance(static_cast<Appearance>(m_settings.value("appearance", 0).toInt()));
     SetLanguage(static_cast<Language>(m_settings.value("language", 0).toInt()));
-    resize(QSize(1440, 900).boundedTo(screen()->availableSize()));
+    resize(QSize(1440, 900).boundedTo(room));
     restoreGeometry(m_settings.value("geometry").toByteArray());
+    resize(size().boundedTo(room));
+    m_floor->SetLeastTextSize(m_settings.value("leastTextSize", 9.0).toDouble());
     restoreState(m_settings.value("state").toByteArray());
     m_floor->setFocus();
 }
@@ -90,7 +96,15 @@ void MainWindow::ConnectParts()
     connect(m_exchanges, &ImportExport::Said, statusBar(),
             [this](const QString& text) { statusBar()->showMessage(text); });
     connect(m_docks, &Docks::DataEdited, m_editing, &Editing::SetData);
-    connect(m_search, &SearchLine::Asked, this, [this] { m_selection->Find(m_search->Wanted(), 1); });
+    connect(m_search, &SearchLine::Asked, this, [this] {
+        m_floor->setFocus();  // where a character typed begins to narrow the texts
+        m_selection->Find(m_search->Wanted(), 1);
+    });
+    connect(m_floor, &FloorView::MenuAsked, this,
+            [this](const QPoint& at) { m_menus->OnPlan().popup(at); });
+    connect(m_floor, &FloorView::TipAsked, this, [this](const FieldRef& ref, const QPoint& at) {
+        QToolTip::showText(at, OwnerTip(m_document.Get(), ref), m_floor->viewport());
+    });
     connect(m_files, &ProjectFiles::Saved, this, [this](const QString& file) {
         ShowTitle();
         statusBar()->showMessage(tr("Saved: %1").arg(file));

@@ -41,7 +41,7 @@ constexpr Row Rows[] = {
     {"undo", QT_TRANSLATE_NOOP("Desk", "&Undo"), QT_TRANSLATE_NOOP("Desk", "Takes the last change back"), QKeySequence::Undo},
     {"redo", QT_TRANSLATE_NOOP("Desk", "&Redo"), QT_TRANSLATE_NOOP("Desk", "Makes the change again"), QKeySequence::Redo},
     Line,
-    {"copyText", QT_TRANSLATE_NOOP("Desk", "&Copy"), QT_TRANSLATE_NOOP("Desk", "Copies the chosen annotation"), QKeySequence::Copy},
+    {"copyText", QT_TRANSLATE_NOOP("Desk", "&Copy the text"), QT_TRANSLATE_NOOP("Desk", "Copies the chosen annotation"), QKeySequence::Copy},
     {"copyTexts", QT_TRANSLATE_NOOP("Desk", "Copy all texts of the &beam"), QT_TRANSLATE_NOOP("Desk", "Copies all annotations of the chosen beam or wall but its name"), {}, Qt::CTRL | Qt::SHIFT | Qt::Key_C},
     {"paste", QT_TRANSLATE_NOOP("Desk", "&Paste"), QT_TRANSLATE_NOOP("Desk", "Gives what was copied to all chosen annotations"), QKeySequence::Paste},
     {"repeat", QT_TRANSLATE_NOOP("Desk", "Repeat the &last"), QT_TRANSLATE_NOOP("Desk", "Gives the text that was taken last to all chosen annotations"), {}, Qt::Key_Period},
@@ -54,6 +54,7 @@ constexpr Row Rows[] = {
     {"find", QT_TRANSLATE_NOOP("Desk", "&Find..."), QT_TRANSLATE_NOOP("Desk", "Finds annotations"), QKeySequence::Find},
     {"findNext", QT_TRANSLATE_NOOP("Desk", "Find &next"), QT_TRANSLATE_NOOP("Desk", "The next annotation found"), {}, Qt::Key_F3},
     {"findPrevious", QT_TRANSLATE_NOOP("Desk", "Find &previous"), QT_TRANSLATE_NOOP("Desk", "The previous annotation found"), {}, Qt::SHIFT | Qt::Key_F3},
+    {"findAlike", QT_TRANSLATE_NOOP("Desk", "Find others with this &text"), QT_TRANSLATE_NOOP("Desk", "The next annotation with the same text"), {}, Qt::CTRL | Qt::SHIFT | Qt::Key_F},
 
     Title(QT_TRANSLATE_NOOP("Desk", "&Draw")),
     {"beam", QT_TRANSLATE_NOOP("Desk", "&Beam"), QT_TRANSLATE_NOOP("Desk", "New beams, each between two positions"), {}, Qt::CTRL | Qt::Key_B},
@@ -91,6 +92,11 @@ constexpr Row Rows[] = {
 };
 // clang-format on
 
+// On the plan, null for a line.
+constexpr const char* PlanMenu[] = {
+    "panel",     "type",  "edit",  "inPlace", "clear",     nullptr,     "copyText", "paste",
+    "repeat",    "match", nullptr, "allSame", "allLike",   "findAlike", nullptr,    "nextField",
+    "nextOwner", nullptr, "copy",  "move",    "turnRound", "delete",    nullptr,    "fit"};
 constexpr const char* OnBar[] = {"open", "save", "undo", "redo", "panel", "fit"};
 
 QString Translated(const char* text) { return QCoreApplication::translate("Desk", text); }
@@ -104,7 +110,8 @@ QString OnToolBar(QString text)
 
 }  // namespace
 
-Menus::Menus(QMainWindow& window) : QObject(&window), m_window(window), m_bar(window.addToolBar(QString()))
+Menus::Menus(QMainWindow& window)
+    : QObject(&window), m_window(window), m_bar(window.addToolBar(QString())), m_onPlan(new QMenu(&window))
 {
     QMenu* menu = nullptr;
     for (const Row& row : Rows) {
@@ -131,6 +138,13 @@ Menus::Menus(QMainWindow& window) : QObject(&window), m_window(window), m_bar(wi
     m_bar->setMovable(false);
     m_bar->toggleViewAction()->setEnabled(false);  // the search is in it
     m_bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    for (const char* const command : PlanMenu) {
+        if (command != nullptr) {
+            m_onPlan->addAction(&Command(command));
+        } else {
+            m_onPlan->addSeparator();
+        }
+    }
     for (const char* const command : OnBar) {
         m_bar->addAction(&Command(command));
     }

@@ -26,6 +26,8 @@ public:
     void Undoes(QUndoStack& changes);
 
     [[nodiscard]] QToolBar& ToolBar() { return *m_bar; }
+    // What the plan offers at the pointer.
+    [[nodiscard]] QMenu& OnPlan() { return *m_onPlan; }
     [[nodiscard]] QMenu& Recent() { return *m_recent; }
     [[nodiscard]] QMenu& View() { return *m_view; }
     // A submenu of View, one of whose entries is checked; chosen gets the number of an entry. The texts
@@ -46,6 +48,7 @@ private:
 
     QMainWindow& m_window;
     QToolBar* m_bar;
+    QMenu* m_onPlan;
     QMenu* m_recent = nullptr;
     QMenu* m_view = nullptr;
     QList<Texts> m_texts;

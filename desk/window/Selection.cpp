@@ -113,6 +113,14 @@ void Selection::Choose(const std::optional<FieldRef>& ref)
     Show();
 }
 
+void Selection::GoTo(const std::optional<FieldRef>& ref)
+{
+    Choose(ref);
+    if (m_chosen) {
+        m_floor.BringClose(*m_chosen);
+    }
+}
+
 void Selection::Show()
 {
     m_floor.SetTogether(m_others);
@@ -125,8 +133,9 @@ void Selection::Find(const QString& wanted, int by)
     if (wanted.isEmpty()) {
         return;
     }
-    if (const std::optional<FieldRef> found = FindText(m_document.Get(), m_chosen, by, wanted)) {
-        Choose(found);
+    if (const auto found = FindText(m_document.Get(), m_chosen, by, wanted)) {
+        GoTo(found->ref);
+        emit Said(tr("%1 of %2").arg(found->number).arg(found->count));
     } else {
         emit Said(tr("No annotation contains \"%1\"").arg(wanted));
     }
@@ -232,7 +241,7 @@ void Selection::TakeFromList(const Texts& asked, const QString& reason)
     }
     if (next) {
         const QString told = m_told;
-        Choose(next);
+        GoTo(next);
         emit Said(told);
     }
 }

@@ -25,6 +25,8 @@ public:
     // Chooses an annotation; nothing for none. Those chosen together go along to another annotation of the
     // same beam, and are let go for another beam.
     void Choose(const std::optional<FieldRef>& ref);
+    // Chooses it and makes it as large as is read with ease.
+    void GoTo(const std::optional<FieldRef>& ref);
     [[nodiscard]] const std::optional<FieldRef>& Chosen() const { return m_chosen; }
     // All that are chosen.
     [[nodiscard]] std::set<FieldRef> All() const;
@@ -46,7 +48,8 @@ public:
     // Asks what to replace in all texts; one step.
     void Replace();
 
-    // Chooses the next text that contains the wanted one, or the previous one.
+    // Goes to the next text that contains the wanted one, or the previous one, and says which of how many
+    // it is.
     void Find(const QString& wanted, int by);
 
     // Goes to the next annotation that a text is wanted for.

@@ -74,30 +74,31 @@ std::optional<FieldRef> StepOwner(const Project& project, const std::optional<Fi
     return from && from->isWall == next.isWall ? Alike(project, next, *from) : next;
 }
 
-std::optional<FieldRef> FindText(const Project& project, const std::optional<FieldRef>& from, int by,
-                                 const QString& wanted)
+std::optional<FoundText> FindText(const Project& project, const std::optional<FieldRef>& from, int by,
+                                  const QString& wanted)
 {
-    const std::size_t count = OwnerCount(project);
-    if (count == 0) {
+    const bool whole =
+        wanted.size() > 2 && wanted.startsWith(QLatin1Char('"')) && wanted.endsWith(QLatin1Char('"'));
+    const QString part = whole ? wanted.mid(1, wanted.size() - 2) : wanted;
+    std::vector<FieldRef> found;
+    std::size_t before = 0;  // how many of them are in front of the one to start from
+    std::size_t upTo = 0;    // and with it
+    for (std::size_t number = 0; number < OwnerCount(project); ++number) {
+        for (const FieldRef& ref : RefsOf(project, OwnerAt(project, number))) {
+            const bool isStart = from == ref;
+            before = isStart ? found.size() : before;
+            const QString text = QString::fromStdString(TextAt(project, ref));
+            if (whole ? text == part : text.contains(part, Qt::CaseInsensitive)) {
+                found.push_back(ref);
+            }
+            upTo = isStart ? found.size() : upTo;
+        }
+    }
+    if (found.empty()) {
         return std::nullopt;
     }
-    FieldRef ref = from.value_or(Start(project, by));
-    std::vector<FieldRef> refs = RefsOf(project, ref);
-    std::size_t place = from ? PlaceOf(refs, ref) : by > 0 ? refs.size() - 1 : 0;
-    const FieldRef start = refs[place];
-    do {
-        if (place == (by > 0 ? refs.size() - 1 : 0)) {
-            refs = RefsOf(project, OwnerAt(project, Around(NumberOf(project, ref), by, count)));
-            place = by > 0 ? 0 : refs.size() - 1;
-        } else {
-            place = Around(place, by, refs.size());
-        }
-        ref = refs[place];
-        if (QString::fromStdString(TextAt(project, ref)).contains(wanted, Qt::CaseInsensitive)) {
-            return ref;
-        }
-    } while (ref != start);
-    return std::nullopt;
+    const std::size_t at = by > 0 ? upTo % found.size() : (before + found.size() - 1) % found.size();
+    return FoundText{found[at], static_cast<int>(at) + 1, static_cast<int>(found.size())};
 }
 
 }  // namespace Desk

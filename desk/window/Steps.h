@@ -24,9 +24,15 @@ namespace Desk {
 // that at the same support or span, else the field that serves it.
 [[nodiscard]] std::optional<FieldRef> StepOwner(const Project& project, const std::optional<FieldRef>& from,
                                                 int by);
-// Another text that contains the wanted one in any case of letters, the one that is left at last; nothing
-// when there is none.
-[[nodiscard]] std::optional<FieldRef> FindText(const Project& project, const std::optional<FieldRef>& from,
-                                               int by, const QString& wanted);
+// One of the texts that were wanted.
+struct FoundText {
+    FieldRef ref;
+    int number = 0;  // among all, from 1
+    int count = 0;
+};
+// Another text that contains the wanted one in any case of letters, or, where the wanted one is in quotes,
+// is the same; the one that is left at last. Nothing when there is none.
+[[nodiscard]] std::optional<FoundText> FindText(const Project& project, const std::optional<FieldRef>& from,
+                                                int by, const QString& wanted);
 
 }  // namespace Desk

@@ -1144,6 +1144,14 @@
         <translation>清除选中的标注</translation>
     </message>
     <message>
+        <source>Find others with this &amp;text</source>
+        <translation>查找相同标注(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The next annotation with the same text</source>
+        <translation>下一个文字相同的标注</translation>
+    </message>
+    <message>
         <source>Quan&amp;tities...</source>
         <translation>工程量(&amp;T)...</translation>
     </message>
@@ -1340,6 +1348,10 @@
     <message>
         <source>%1 hits, %2 ticked</source>
         <translation>找到 %1 处，已勾选 %2 处</translation>
+    </message>
+    <message>
+        <source>&amp;Copy the text</source>
+        <translation>复制文字(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -2033,6 +2045,10 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>%1 texts replaced</source>
         <translation>已替换 %1 处标注</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第 %1 个，共 %2 个</translation>
     </message>
 </context>
 <context>

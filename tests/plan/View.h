@@ -45,6 +45,7 @@ struct View : FloorView {
     {
         return viewport()->mapFromGlobal(OnScreen(ref).center());
     }
+    using FloorView::PanBy;
     std::vector<FieldRef> picked;
     int nothing = 0;
     void Press(const QPoint& at) { QTest::mouseClick(viewport(), Qt::LeftButton, {}, at); }

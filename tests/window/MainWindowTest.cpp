@@ -1,6 +1,7 @@
 // The desk as a person uses it, by the toolkit's own events.
 #include "tests/window/MainWindow.h"
 
+#include "desk/window/FieldNames.h"
 #include "desk/window/ScreenReport.h"
 #include "platform/windows/Hands.h"
 
@@ -165,6 +166,41 @@ TEST_F(MainWindowTest, ACompletedNameIsSearchedForOnce)
     EXPECT_EQ(window.Chosen(), first);
     EXPECT_EQ(first.index, 0U) << "the first beam holds it";
     EXPECT_EQ(first.field, Field::TopBars);
+}
+
+TEST_F(MainWindowTest, TheSearchTellsHowManyThereAreAndGoesBackToTheDrawing)
+{
+    auto& search = Find<QLineEdit>("search");
+    window.Drawing().ZoomBy(0.2);
+    search.setFocus();
+    search.setText("wkl");
+    emit search.returnPressed();
+    QCoreApplication::processEvents();
+    const QString said = window.statusBar()->currentMessage();
+    EXPECT_TRUE(said.startsWith("1 of ")) << said.toStdString();
+    const QSize shown = window.Drawing().OnScreen(*window.Chosen()).size();
+    EXPECT_NEAR(std::min(shown.width(), shown.height()), 16, 2);
+    EXPECT_EQ(window.focusWidget(), &window.Drawing());
+    Trigger("findPrevious");
+    EXPECT_EQ(window.statusBar()->currentMessage(), said.mid(5) + " of " + said.mid(5)) << "the last one";
+    window.Choose(Bars);
+    Trigger("findAlike");
+    EXPECT_EQ(Text(*window.Chosen()), Text(Bars));
+    EXPECT_TRUE(window.statusBar()->currentMessage().startsWith("2 of "));
+    const QString tip = OwnerTip(window.TheDocument().Get(), {false, 0, Field::TopBars});
+    EXPECT_TRUE(tip.contains("<b>Top through bars: ")) << tip.toStdString();
+    EXPECT_TRUE(tip.contains(" mm²)"));
+    bool isOffered = false;
+    QTimer::singleShot(0, [&] {
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        isOffered = menu != nullptr && menu->actions().contains(&Find<QAction>("findAlike"));
+        if (menu != nullptr) {
+            menu->close();
+        }
+    });
+    emit window.Drawing().MenuAsked(QPoint(100, 100));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(isOffered);
 }
 
 TEST_F(MainWindowTest, KeysGoFromAnnotationToAnnotationAndTheSearchFinds)
