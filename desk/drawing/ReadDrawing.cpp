@@ -6,6 +6,7 @@
 
 #include "desk/drawing/Parts.h"
 #include "desk/project/ProjectFile.h"
+#include "desk/project/SafeFile.h"
 
 namespace Desk {
 
@@ -41,7 +42,7 @@ public:
         : m_parts(std::make_unique<Drawing::Parts>())
     {
         if (!companion.empty()) {
-            m_kept = ParseProject(companion, CompanionFile(name).string());
+            m_kept = ParseProject(companion, CompanionFile(PathOf(name)).string());
         }
         m_parts->file = ReadEntities(std::move(bytes), name);
         m_parts->placed = PlaceEntities(m_parts->file, name);
