@@ -15,9 +15,6 @@ foreach(library platform griditem bartext RankerModule)
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN")
   target_include_directories(${library} PUBLIC $<INSTALL_INTERFACE:${headers_dir}>)
   target_compile_features(${library} PUBLIC cxx_std_20)
-  if(WIN32)
-    set_target_properties(${library} PROPERTIES PREFIX "")
-  endif()
 endforeach()
 
 # The C library has a version of its own, and its header a folder of its own, for C compilers.
@@ -52,6 +49,8 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/RankerModule.pc ${CMAKE_CURRENT_BINARY
 if(TARGET beamdesk)
   set_target_properties(beamdesk PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
   install(TARGETS beamdesk RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT desk)
+endif()
+if(TARGET beamdesk AND UNIX)
   install(FILES docs/beamdesk.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT desk)
   install(FILES desk/beamdesk.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
           RENAME beamdesk COMPONENT desk)
