@@ -23,7 +23,9 @@ target_include_directories(ranker_c INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTAL
 install(FILES c/rankermodule.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/RankerC COMPONENT module)
 
 install(TARGETS platform griditem bartext RankerModule ranker_c EXPORT RankerModule
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT module NAMELINK_COMPONENT module)
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT module NAMELINK_COMPONENT module
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT module
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT module)
 install(FILES RankerModule.h DESTINATION ${headers_dir} COMPONENT module)
 foreach(room platform griditem bartext host tables rankers panels pickers geometry)
   install(DIRECTORY ${room} DESTINATION ${headers_dir} COMPONENT module FILES_MATCHING PATTERN "*.h"
@@ -47,6 +49,8 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/RankerModule.pc ${CMAKE_CURRENT_BINARY
 if(TARGET beamdesk)
   set_target_properties(beamdesk PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
   install(TARGETS beamdesk RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT desk)
+endif()
+if(TARGET beamdesk AND UNIX)
   install(FILES docs/beamdesk.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT desk)
   install(FILES desk/beamdesk.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
           RENAME beamdesk COMPONENT desk)

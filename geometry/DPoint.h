@@ -1,7 +1,16 @@
 // A small point in the plane for the host; the module itself does not use it.
 #pragma once
 
-struct __attribute__((visibility("default"))) DPoint {
+// As RANKER_API, which this room does not know.
+#if !defined(_WIN32)
+#define GEOMETRY_API __attribute__((visibility("default")))
+#elif defined(RankerModule_EXPORTS)
+#define GEOMETRY_API __declspec(dllexport)
+#else
+#define GEOMETRY_API __declspec(dllimport)
+#endif
+
+struct GEOMETRY_API DPoint {
     float m_fX;
     float m_fY;
     int m_nTag;  // a word that travels with the point

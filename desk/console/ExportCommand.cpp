@@ -15,6 +15,7 @@
 #include "desk/drawing/Export.h"
 #include "desk/plan/PlanFile.h"
 #include "desk/project/ProjectFile.h"
+#include "desk/project/SafeFile.h"
 
 namespace Desk {
 
@@ -32,7 +33,7 @@ struct ExportOptions {
 void RequireFree(const fs::path& target, const ExportOptions& options)
 {
     std::error_code error;
-    if (!options.file.empty() && fs::equivalent(options.file, target, error)) {
+    if (!options.file.empty() && fs::equivalent(PathOf(options.file), target, error)) {
         throw Failure(target.string() + ": the export would replace what is exported");
     }
     if (fs::is_directory(target, error)) {
@@ -46,9 +47,9 @@ void RequireFree(const fs::path& target, const ExportOptions& options)
 // An old companion would go with the new drawing.
 void WriteDrawing(const Project& project, const ExportOptions& options, std::ostream& out)
 {
-    const fs::path companion = CompanionFile(options.target);
+    const fs::path companion = CompanionFile(PathOf(options.target));
     RequireFree(companion, options);
-    const bool hasCompanion = ExportDrawing(project, options.target);
+    const bool hasCompanion = ExportDrawing(project, PathOf(options.target));
     out << "written to " << options.target << ": " << Plural(project.beams.size(), "beam") << ", "
         << Plural(project.walls.size(), "wall") << '\n';
     if (hasCompanion) {
@@ -58,7 +59,7 @@ void WriteDrawing(const Project& project, const ExportOptions& options, std::ost
 
 void RunExport(const ExportOptions& options, std::ostream& out)
 {
-    RequireFree(options.target, options);
+    RequireFree(PathOf(options.target), options);
     const Opened opened = OpenInput(options.file);
     const std::string kind = LowerCaseExtension(options.target);
     if (kind == ".dxf" && opened.drawing) {
@@ -69,7 +70,7 @@ void RunExport(const ExportOptions& options, std::ostream& out)
     } else {
         const std::optional<Backdrop> behind =
             opened.drawing ? std::optional(opened.drawing->BehindWithOpenTexts()) : std::nullopt;
-        WritePlan(opened.project, behind ? &*behind : nullptr, options.target, options.scale);
+        WritePlan(opened.project, behind ? &*behind : nullptr, PathOf(options.target), options.scale);
         out << "written to " << options.target << '\n';
     }
 }

@@ -10,6 +10,7 @@
 #include "desk/project/Failure.h"
 #include "desk/project/Generate.h"
 #include "desk/project/ProjectFile.h"
+#include "desk/project/SafeFile.h"
 
 namespace Desk {
 
@@ -44,11 +45,11 @@ void AddGenerateCommand(CLI::App& program, std::ostream& out)
     command.add_flag("--force", options->force, "Replace an existing file");
     command.footer("Examples:\n  beamdesk generate 20000 --output tower.json");
     command.callback([options, &out] {
-        if (!options->force && std::filesystem::exists(options->output)) {
+        if (!options->force && std::filesystem::exists(PathOf(options->output))) {
             throw Failure(options->output + " already exists; --force replaces it");
         }
         const Project project = GenerateProject(options->beams, static_cast<unsigned>(options->seed));
-        SaveProject(project, options->output);
+        SaveProject(project, PathOf(options->output));
         out << options->output << ": " << project.beams.size() << " beams, " << project.walls.size()
             << " walls\n";
     });

@@ -20,6 +20,7 @@
 #include "desk/drawing/Drawing.h"
 #include "desk/project/Failure.h"
 #include "desk/project/ProjectFile.h"
+#include "desk/project/SafeFile.h"
 #include "desk/reading/ImportTexts.h"
 
 namespace Desk {
@@ -41,9 +42,9 @@ struct ImportOptions {
 // Faults of the target file that can be found before the texts are read.
 void CheckTarget(const ImportOptions& options)
 {
-    const fs::path target = options.project;
+    const fs::path target = PathOf(options.project);
     std::error_code error;
-    if (fs::equivalent(options.texts, target, error)) {
+    if (fs::equivalent(PathOf(options.texts), target, error)) {
         throw Failure(options.project + ": the project would replace the texts");
     }
     if (fs::is_directory(target, error)) {
@@ -83,7 +84,7 @@ bool IsDrawingFile(const Input& input)
         return BeginsAsDrawing(in);
     }
     const std::string kind = LowerCaseExtension(input.name);
-    std::ifstream in(input.name);
+    std::ifstream in(PathOf(input.name));
     return kind == ".dxf" || kind == ".dwg" || BeginsAsDrawing(in);
 }
 
@@ -116,7 +117,7 @@ void Finish(const Project& project, bool isEmpty, const char* none, const std::s
         out.flush();
         throw Failure(name + ": " + none + "; no project is written");
     }
-    SaveProject(project, options.project);
+    SaveProject(project, PathOf(options.project));
     report();
     out << "\nwritten to " << options.project << ": " << Plural(project.beams.size(), "beam") << ", "
         << Plural(project.walls.size(), "wall") << "\n";
@@ -125,7 +126,7 @@ void Finish(const Project& project, bool isEmpty, const char* none, const std::s
 void ImportDrawing(const Input& input, const ImportOptions& options, std::ostream& out)
 {
     const Drawing drawing =
-        input.bytes ? Drawing::Parse(*input.bytes, input.name) : Drawing::Read(input.name);
+        input.bytes ? Drawing::Parse(*input.bytes, input.name) : Drawing::Read(PathOf(input.name));
     const Project& project = drawing.Get();
     Finish(
         project, project.beams.empty(), "no beam's label could be read", input.name,
@@ -141,10 +142,10 @@ void ImportTexts(const Input& input, const ImportOptions& options, std::ostream&
     }
     choices.legs = options.legs;
     const Encoding encoding = options.encoding == "gbk" ? Encoding::Gbk : Encoding::Utf8;
-    const TextsFile file =
-        input.bytes ? ParseTexts(*input.bytes, input.name, encoding) : ReadTextsFile(input.name, encoding);
+    const TextsFile file = input.bytes ? ParseTexts(*input.bytes, input.name, encoding)
+                                       : ReadTextsFile(PathOf(input.name), encoding);
     const std::vector<ImportedText> texts = ReadTexts(file, choices);
-    const Project project = ProjectOf(texts, TitleFor(input.bytes ? "import" : options.texts));
+    const Project project = ProjectOf(texts, TitleFor(PathOf(input.bytes ? "import" : options.texts)));
     Finish(
         project, project.beams.empty() && project.walls.empty(), "no annotation could be read", input.name,
         [&] { PrintReport(out, input.name, file, texts, choices, options.all); }, options, out);

@@ -3,12 +3,29 @@
 #include <exception>
 #include <iostream>
 #include <string>
+#if defined(_WIN32)
+#include <cstdio>
+#include <filesystem>
+#include <vector>
+
+#include <fcntl.h>
+#include <io.h>
+extern "C" __declspec(dllimport) int __stdcall SetConsoleOutputCP(unsigned codePage);
+#endif
 
 #include <CLI/CLI.hpp>
 
 #include "desk/console/Commands.h"
 #include "desk/console/Print.h"
 #include "desk/project/Failure.h"
+
+#if BEAMDESK_WINDOW
+#define IN_A_WINDOW "in a window, or "
+#define WINDOW_EXAMPLE "  beamdesk window\n"
+#else
+#define IN_A_WINDOW ""
+#define WINDOW_EXAMPLE ""
+#endif
 
 namespace {
 
@@ -77,18 +94,17 @@ void ExplainWrongUse(const CLI::App& program, const CLI::ParseError& error, std:
     err << "  help: " << name << " --help\n";
 }
 
-int RunDesk(int argc, char** argv)
+int RunDesk(int argc, const char* const* argv)
 {
     CLI::App program(
-        "Annotations of reinforced-concrete beams and walls, picked instead of typed: in a window, or "
+        "Annotations of reinforced-concrete beams and walls, picked instead of typed: " IN_A_WINDOW
         "ranked on the command line by what a project already holds.",
         "beamdesk");
     program.set_version_flag("--version", "beamdesk " BEAMDESK_VERSION);
     program.set_help_all_flag("--help-all", "Print the help of all commands and exit");
     program.require_subcommand(0, 1);
     program.footer("Without a command it prints the tour.\n\nExamples:\n"
-                   "  beamdesk\n"
-                   "  beamdesk window\n"
+                   "  beamdesk\n" WINDOW_EXAMPLE
                    "  beamdesk rank bars --kind 1 --width 300 --area 1000 --table\n"
                    "  beamdesk rank name --project tower.json\n"
                    "  beamdesk set --project floor.dxf --beam KL2 topBars 2B25\n"
@@ -111,8 +127,10 @@ int RunDesk(int argc, char** argv)
     Desk::AddPanelCommand(program, std::cout);
     Desk::AddEventsCommand(program, std::cout);
     Desk::AddGenerateCommand(program, std::cout);
+#if BEAMDESK_WINDOW
     Desk::AddWindowCommand(program);
     Desk::AddShotCommand(program);
+#endif
 
     try {
         program.parse(argc, argv);
@@ -133,9 +151,7 @@ int RunDesk(int argc, char** argv)
     return status;
 }
 
-}  // namespace
-
-int main(int argc, char** argv)
+int RunAndReport(int argc, const char* const* argv)
 {
     try {
         return RunDesk(argc, argv);
@@ -146,3 +162,28 @@ int main(int argc, char** argv)
     }
     return WrongUse;
 }
+
+}  // namespace
+
+#if defined(_WIN32)
+// UTF-8 in and out, and the same bytes as elsewhere.
+int wmain(int argc, wchar_t** argv)
+{
+    constexpr unsigned Utf8 = 65001;
+    SetConsoleOutputCP(Utf8);
+    for (std::FILE* const stream : {stdin, stdout, stderr}) {
+        _setmode(_fileno(stream), _O_BINARY);
+    }
+    std::vector<std::string> words;
+    std::vector<const char*> starts;
+    for (int i = 0; i < argc; ++i) {
+        words.push_back(std::filesystem::path(argv[i]).string());  // UTF-8, whatever the code page
+    }
+    for (const std::string& word : words) {
+        starts.push_back(word.c_str());
+    }
+    return RunAndReport(argc, starts.data());
+}
+#else
+int main(int argc, char** argv) { return RunAndReport(argc, argv); }
+#endif

@@ -8,6 +8,7 @@
 
 #include "desk/console/Print.h"
 #include "desk/project/Failure.h"
+#include "desk/project/SafeFile.h"
 #include "desk/reading/Bars.h"
 
 namespace Desk {
@@ -49,7 +50,7 @@ CLI::Validator Decimal(int least, int most)
 
 std::string LowerCaseExtension(const std::string& file)
 {
-    return CLI::detail::to_lower(std::filesystem::path(file).extension().string());
+    return CLI::detail::to_lower(PathOf(file).extension().string());
 }
 
 void RequireBars(const std::string& text)

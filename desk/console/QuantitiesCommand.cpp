@@ -117,10 +117,10 @@ void Write(const QuantitiesOptions& options, const std::string& title, const Qua
 {
     const QuantityTable table = TableOf(all);
     if (!options.csv.empty()) {
-        ReplaceFile(options.csv, CsvOf(table));
+        ReplaceFile(PathOf(options.csv), CsvOf(table));
     }
     if (!options.pdf.empty()) {
-        WriteTables(title, {table.bars, table.sums}, table.notes, options.pdf);
+        WriteTables(title, {table.bars, table.sums}, table.notes, PathOf(options.pdf));
     }
 }
 

@@ -103,7 +103,7 @@ void RequireSameKind(const SetOptions& options, bool isDrawing)
 
 void Save(const Opened& opened, const Project& project, bool isChanged, const SetOptions& options)
 {
-    const std::string target = options.target.empty() ? options.project : options.target;
+    const fs::path target = PathOf(options.target.empty() ? options.project : options.target);
     if (!isChanged && options.target.empty()) {
         return;
     }
@@ -112,7 +112,7 @@ void Save(const Opened& opened, const Project& project, bool isChanged, const Se
     } else if (isChanged) {
         SaveProject(project, target);
     } else {
-        ReplaceFile(target, ReadWholeFile(options.project));
+        ReplaceFile(target, ReadWholeFile(PathOf(options.project)));
     }
 }
 
@@ -122,7 +122,7 @@ void RunSet(const SetOptions& options, std::ostream& out)
         throw CLI::RequiredError("--beam NAME or --handle H");
     }
     RequireText(options.text);
-    const Opened opened = OpenFile(options.project);
+    const Opened opened = OpenFile(PathOf(options.project));
     RequireSameKind(options, opened.drawing.has_value());
     const FieldRef ref = options.handle.empty()
                              ? FieldOfBeam(opened, BeamNamed(opened.project, options.beam, options.at),

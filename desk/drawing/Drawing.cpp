@@ -121,7 +121,7 @@ void Drawing::Save(const Project& edited, const std::filesystem::path& file) con
         }
         const std::filesystem::path old = std::filesystem::canonical(file, error);
         if (!error) {
-            KeepCopy(old, old.string() + ".bak");
+            KeepCopy(old, PathOf(old.string() + ".bak"));
         }
         ReplaceFile(file, pieces);
     });
@@ -232,7 +232,7 @@ Opened OpenInput(const std::string& file)
         return {SampleProject(), std::nullopt};
     }
     if (file != "-") {
-        return OpenFile(file);
+        return OpenFile(PathOf(file));
     }
     const std::string name = "standard input";
     std::string bytes(std::istreambuf_iterator<char>(std::cin), {});

@@ -7,6 +7,7 @@
 #include "desk/drawing/Parts.h"
 #include "desk/project/Progress.h"
 #include "desk/project/ProjectFile.h"
+#include "desk/project/SafeFile.h"
 
 namespace Desk {
 
@@ -42,7 +43,7 @@ public:
         : m_parts(std::make_unique<Drawing::Parts>())
     {
         if (!companion.empty()) {
-            m_kept = ParseProject(companion, CompanionFile(name).string());
+            m_kept = ParseProject(companion, CompanionFile(PathOf(name)).string());
         }
         m_parts->file = ReadEntities(std::move(bytes), name);
         TellProgress(1, Steps);

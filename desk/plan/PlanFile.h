@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "desk/Toolkit.h"
-
 #include "desk/project/Backdrop.h"
+
+class QPagedPaintDevice;
 
 namespace Desk {
 

@@ -8,6 +8,12 @@
 
 namespace Desk {
 
+// A file by its name in UTF-8, whatever the system's own encoding; path::string() gives the name back so.
+[[nodiscard]] inline std::filesystem::path PathOf(std::string_view name)
+{
+    return std::u8string(name.begin(), name.end());
+}
+
 // 64 MiB, about a hundred thousand beams: what is longer is taken for no project.
 inline constexpr std::size_t MaxFileSize = std::size_t{64} << 20;
 

@@ -1,8 +1,10 @@
-// Marks what the platform library lets out of its hidden-visibility shared object.
+// Marks what the platform library lets out of its shared object, where all else is hidden.
 #pragma once
 
-#if defined(_WIN32)
-#error "the platform layer stands in for the Windows class library and is not built there"
-#else
+#if !defined(_WIN32)
 #define PLATFORM_API __attribute__((visibility("default")))
+#elif defined(platform_EXPORTS)
+#define PLATFORM_API __declspec(dllexport)
+#else
+#define PLATFORM_API __declspec(dllimport)
 #endif

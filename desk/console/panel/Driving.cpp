@@ -14,6 +14,7 @@
 #include "desk/console/Print.h"
 #include "desk/project/Encoding.h"
 #include "desk/project/Failure.h"
+#include "desk/project/SafeFile.h"
 
 namespace Desk::Panels {
 
@@ -50,7 +51,7 @@ std::string ReadAll(const std::string& file)
     if (file == "-") {
         return {std::istreambuf_iterator<char>(std::cin), {}};
     }
-    std::ifstream in(file, std::ios::binary);
+    std::ifstream in(PathOf(file), std::ios::binary);
     std::ostringstream text;
     if (in.peek() != std::ifstream::traits_type::eof()) {
         text << in.rdbuf();
