@@ -17,7 +17,12 @@ foreach(library platform griditem bartext RankerModule)
   target_compile_features(${library} PUBLIC cxx_std_20)
 endforeach()
 
-install(TARGETS platform griditem bartext RankerModule EXPORT RankerModule
+# The C library has a version of its own, and its header a folder of its own, for C compilers.
+set_target_properties(ranker_c PROPERTIES INSTALL_RPATH "$ORIGIN")
+target_include_directories(ranker_c INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/RankerC>)
+install(FILES c/rankermodule.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/RankerC COMPONENT module)
+
+install(TARGETS platform griditem bartext RankerModule ranker_c EXPORT RankerModule
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT module NAMELINK_COMPONENT module)
 install(FILES RankerModule.h DESTINATION ${headers_dir} COMPONENT module)
 foreach(room platform griditem bartext host tables rankers panels pickers geometry)
@@ -32,10 +37,11 @@ configure_package_config_file(cmake/RankerModuleConfig.cmake.in RankerModuleConf
 write_basic_package_version_file(RankerModuleConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 file(RELATIVE_PATH pc_to_prefix /p/${CMAKE_INSTALL_LIBDIR}/pkgconfig /p)
 configure_file(cmake/RankerModule.pc.in RankerModule.pc @ONLY)
+configure_file(cmake/RankerC.pc.in RankerC.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/RankerModuleConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/RankerModuleConfigVersion.cmake
         DESTINATION ${config_dir} COMPONENT module)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/RankerModule.pc
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/RankerModule.pc ${CMAKE_CURRENT_BINARY_DIR}/RankerC.pc
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT module)
 
 if(TARGET beamdesk)

@@ -1,21 +1,13 @@
 // The slots themselves, the only state of the module that outlives its objects.
 #include "host/HostLink.h"
 
+#include <utility>
+
 #include "host/private/AskHost.h"
 
 namespace {
 
-struct Slots {
-    BeamTypeFunc type = nullptr;
-    BeamNumberFunc number = nullptr;
-    BeamSectionFunc section = nullptr;
-    BeamEleFunc elevation = nullptr;
-    BeamGujinFunc stirrup = nullptr;
-    BeamSteelFunc bars = nullptr;
-    BeamMouseInputFunc mouseInput = nullptr;
-};
-
-Slots g_slots;
+HostSlots g_slots;
 
 // The pointer is read once, so a callback may register another one while it runs.
 template <class Func, class... Arguments>
@@ -35,6 +27,8 @@ void SetBeamEleFunc(BeamEleFunc func) { g_slots.elevation = func; }
 void SetBeamGujinFunc(BeamGujinFunc func) { g_slots.stirrup = func; }
 void SetBeamSteelFunc(BeamSteelFunc func) { g_slots.bars = func; }
 void SetBeamMouseInputFunc(BeamMouseInputFunc func) { g_slots.mouseInput = func; }
+
+HostSlots ExchangeHostSlots(const HostSlots& slots) { return std::exchange(g_slots, slots); }
 
 namespace HostLink {
 

@@ -34,3 +34,16 @@ RANKER_API void SetBeamEleFunc(BeamEleFunc func);
 RANKER_API void SetBeamGujinFunc(BeamGujinFunc func);
 RANKER_API void SetBeamSteelFunc(BeamSteelFunc func);
 RANKER_API void SetBeamMouseInputFunc(BeamMouseInputFunc func);
+
+// The seven slots together, for a layer that puts callbacks of its own in for the time of a call.
+struct HostSlots {
+    BeamTypeFunc type = nullptr;
+    BeamNumberFunc number = nullptr;
+    BeamSectionFunc section = nullptr;
+    BeamEleFunc elevation = nullptr;
+    BeamGujinFunc stirrup = nullptr;
+    BeamSteelFunc bars = nullptr;
+    BeamMouseInputFunc mouseInput = nullptr;
+};
+// Fills all seven and answers what they held.
+RANKER_API HostSlots ExchangeHostSlots(const HostSlots& slots);

@@ -1,6 +1,8 @@
 // The application object, the display and the message box.
 #include "platform/windows/CWinApp.h"
 
+#include <utility>
+
 #include "platform/windows/MessageBox.h"
 #include "platform/windows/private/WindowLayer.h"
 
@@ -41,4 +43,9 @@ int AfxMessageBox(const CString& strText, UINT /*nType*/)
     return state.messageBox != nullptr ? state.messageBox(strText) : IDOK;
 }
 
-void SetMessageBoxFunc(int (*func)(const CString&)) { WindowLayer::State().messageBox = func; }
+void SetMessageBoxFunc(MessageBoxFunc func) { ExchangeMessageBoxFunc(func); }
+
+MessageBoxFunc ExchangeMessageBoxFunc(MessageBoxFunc func)
+{
+    return std::exchange(WindowLayer::State().messageBox, func);
+}

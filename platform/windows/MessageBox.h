@@ -9,4 +9,7 @@
 PLATFORM_API int AfxMessageBox(const CString& strText, UINT nType = MB_OK);
 
 // Null empties the slot.
-PLATFORM_API void SetMessageBoxFunc(int (*func)(const CString&));
+using MessageBoxFunc = int (*)(const CString&);
+PLATFORM_API void SetMessageBoxFunc(MessageBoxFunc func);
+// The same, and answers what the slot held.
+PLATFORM_API MessageBoxFunc ExchangeMessageBoxFunc(MessageBoxFunc func);
