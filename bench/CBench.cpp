@@ -3,9 +3,9 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <vector>
 
 #include "bench/Contenders.h"
@@ -102,33 +102,33 @@ std::size_t RunCpp(const Bench::Host& host)
     return length;
 }
 
-double Seconds(std::chrono::steady_clock::duration time)
+// Of the processor, so that others on the machine do not count.
+double Seconds(std::clock_t from, std::clock_t to)
 {
-    return std::chrono::duration<double>(time).count();
+    return static_cast<double>(to - from) / CLOCKS_PER_SEC;
 }
 
 // The two by turns, so that what else the machine does meets both; the counter "C/C++" is the ratio of the
 // best runs.
 void RankByBoth(benchmark::State& state, Kind kind, std::size_t distinct)
 {
-    using Clock = std::chrono::steady_clock;
     const Bench::Host host(kind, Bench::MakeTexts(kind, Texts, distinct));
     CHost c(host);
     double bestC = 1e9;
     double bestCpp = 1e9;
     for (auto _ : state) {
-        const auto begin = Clock::now();
+        const std::clock_t begin = std::clock();
         const std::size_t cpp = RunCpp(host);
-        const auto middle = Clock::now();
+        const std::clock_t middle = std::clock();
         const std::size_t length = c.Run();
-        const auto end = Clock::now();
+        const std::clock_t end = std::clock();
         if (cpp != length) {
             state.SkipWithError("the candidates differ");
             break;
         }
-        bestCpp = std::min(bestCpp, Seconds(middle - begin));
-        bestC = std::min(bestC, Seconds(end - middle));
-        state.SetIterationTime(Seconds(end - middle));
+        bestCpp = std::min(bestCpp, Seconds(begin, middle));
+        bestC = std::min(bestC, Seconds(middle, end));
+        state.SetIterationTime(Seconds(middle, end));
     }
     state.counters["C_ms"] = 1e3 * bestC;
     state.counters["C++_ms"] = 1e3 * bestCpp;

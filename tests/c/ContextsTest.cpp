@@ -9,6 +9,27 @@
 
 namespace {
 
+// Hosts are built with these numbers, and hosts in other languages have them written down.
+static_assert(RK_OK == 0 && RK_BAD_ARGUMENT == 1 && RK_BAD_HANDLE == 2 && RK_BAD_INDEX == 3 &&
+              RK_BAD_TEXT == 4 && RK_TOO_SMALL == 5 && RK_NOT_DONE == 6 && RK_CALLBACK == 7 &&
+              RK_NO_MEMORY == 8 && RK_FAILED == 9);
+static_assert(RK_UTF8 == 0 && RK_GBK == 1 && RK_TO_ITEM == 0 && RK_TO_PARENT == 1 && RK_TO_HOST == 2);
+static_assert(RK_NAME == 0 && RK_SECTION == 1 && RK_ELEVATION == 2 && RK_STIRRUP == 3 && RK_BARS == 4 &&
+              RK_BAR_PIECE == 5 && RK_WALL_BARS == 6);
+static_assert(RK_THROUGH_BARS == 0 && RK_TOTAL_BARS == 1 && RK_BOTTOM_BARS == 2 &&
+              RK_TOTAL_ON_THROUGH == 3);
+static_assert(RK_NAME_PANEL == 0 && RK_SECTION_PANEL == 1 && RK_ELEVATION_PANEL == 2 &&
+              RK_STIRRUP_PANEL == 3 && RK_BAR_PANEL == 4 && RK_HORIZONTAL_PICKER == 5 &&
+              RK_VERTICAL_PICKER == 6);
+static_assert(RK_THE_PANEL == 0 && RK_LABEL == IDC_STATIC && RK_THE_FOCUS == -2 && RK_CLICK == 0 &&
+              RK_DOUBLE_CLICK == 1 && RK_RIGHT_CLICK == 2 && RK_A_LABEL == 0 && RK_AN_EDIT_BOX == 1 &&
+              RK_A_LIST_BOX == 2 && RK_A_BUTTON == 3);
+static_assert(RK_KEY_DOWN == WM_KEYDOWN && RK_KEY_UP == WM_KEYUP && RK_CHARACTER == WM_CHAR &&
+              RK_MOUSE_MOVE == WM_MOUSEMOVE && RK_LEFT_DOWN == WM_LBUTTONDOWN &&
+              RK_LEFT_UP == WM_LBUTTONUP && RK_LEFT_DOUBLE == WM_LBUTTONDBLCLK &&
+              RK_RIGHT_DOWN == WM_RBUTTONDOWN && RK_RIGHT_UP == WM_RBUTTONUP &&
+              RK_RIGHT_DOUBLE == WM_RBUTTONDBLCLK && RK_WHEEL == WM_MOUSEWHEEL);
+
 Texts RankedStirrups(const CHost& host)
 {
     const rk_ranker ranker = host.NewRanker(RK_STIRRUP);

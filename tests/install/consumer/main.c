@@ -15,7 +15,7 @@ int main(void)
     options.struct_size = sizeof options;
     options.kind = RK_HORIZONTAL_PICKER;
     if (rk_context_create(&host) != RK_OK || rk_list_create(host, &candidates) != RK_OK ||
-        rk_ranker_create(host, RK_BARS, &ranker) != RK_OK ||
+        rk_ranker_create(host, RK_STIRRUP, &ranker) != RK_OK ||
         rk_ranker_run(ranker, NULL, candidates) != RK_OK || rk_list_count(candidates, &count) != RK_OK ||
         rk_panel_create(host, &options, &picker) != RK_OK ||
         rk_panel_set_text(picker, "B8@150", RK_ZERO_ENDED) != RK_OK ||
