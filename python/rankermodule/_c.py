@@ -3,16 +3,43 @@ from __future__ import annotations
 
 import ctypes
 import enum
+import operator
 import sys
 import threading
 import weakref
-from ctypes import byref, c_double, c_int32, c_size_t, c_uint32, c_void_p
+from ctypes import byref, c_char_p, c_double, c_int32, c_size_t, c_uint32, c_void_p
 from pathlib import Path
-from typing import Any, Callable, Iterable, Type, TypeVar
+from typing import Any, Callable, Iterable, Iterator, Optional, Type, TypeVar
 
 library = ctypes.CDLL(
     str(Path(__file__).with_name("RankerC.dll" if sys.platform == "win32" else "libRankerC.so.1")))
-library.rk_last_error.restype = ctypes.c_char_p
+library.rk_last_error.restype = c_char_p
+
+# The functions in use and their parameters: a handle, a text (pointer and length), an int32, a size, any pointer.
+_PARAMETERS = {"h": [c_void_p], "t": [c_char_p, c_size_t], "i": [c_int32], "z": [c_size_t], "p": [c_void_p]}
+SIGNATURES: dict[str, str] = dict(word.split(":") for word in """
+    rk_version:pp rk_context_create:p rk_context_destroy:h rk_context_set_callbacks:hp
+
+    rk_text_read:hith rk_text_compose:hipzpzp rk_text_measure:hitp rk_text_compare:hittp rk_name_parts:hth
+    rk_bars_head:htpzp rk_bars_same_diameter:http rk_bars_same_essence:http rk_stirrup_tight_form:htpzp
+    rk_elevation_key:htipzp
+
+    rk_list_create:hp rk_list_destroy:h rk_list_add_block:ht rk_list_add_numbers:hpz rk_list_count:hp
+    rk_list_block:hpp rk_list_numbers:hpp
+
+    rk_bar_table_count:p rk_bar_table_row:zp rk_bar_table_find:hiiithp
+    rk_stirrup_table_count:p rk_stirrup_table_row:zp rk_stirrup_table_find:hiiih
+
+    rk_ranker_create:hip rk_ranker_destroy:h rk_ranker_set_bars:hiit rk_ranker_set_stirrups:hiii
+    rk_ranker_set_project_kind:hi rk_ranker_set_previous_name:htp rk_ranker_run:hhh
+    rk_ranker_add_table_rows:hh rk_ranker_focus:hp
+
+    rk_panel_create:hpp rk_panel_destroy:h rk_panel_set_text:ht rk_panel_show:hii rk_panel_hide:h
+    rk_panel_event:hpp rk_panel_click:hiii rk_panel_edit:hit rk_panel_get_state:hp rk_panel_result:hipzp
+    rk_panel_control_at:hip rk_panel_control:hip rk_panel_rows:hih rk_panel_row_place:hiip
+    """.split())
+for _name, _signature in SIGNATURES.items():
+    getattr(library, _name).argtypes = sum((_PARAMETERS[letter] for letter in _signature), [])
 
 
 class Status(enum.IntEnum):
@@ -80,7 +107,7 @@ class Text(ctypes.Structure):
     @classmethod
     def of(cls, data: bytes) -> Text:
         """Borrows bytes, which must be kept as long as it."""
-        return cls(ctypes.cast(ctypes.c_char_p(data), c_void_p), len(data))
+        return cls(ctypes.cast(c_char_p(data), c_void_p), len(data))
 
 
 class Delivery(ctypes.Structure):
@@ -152,43 +179,55 @@ def sized(struct: Type[Struct], /, **members: Any) -> Struct:
     return made
 
 
-_raised = threading.local()  # what a callback of this thread has raised on its way through the library
+class _Thread(threading.local):
+    calls = 0  # of the library, that are at work in this thread
+    raised: Optional[BaseException] = None  # by a callback, on its way through the library
+
+
+_here = _Thread()
 
 
 def guarded(function: Callable[..., object]) -> Callable[..., int]:
-    """A callback as the library takes it. What it raises waits for the call that led to it."""
+    """A callback as the library takes it. What it raises waits for the call that led to it. (Without one, when a
+    display fed the event, Python reports it as an exception that nobody can catch.)"""
     def run(*arguments: Any) -> int:
         try:
             function(*arguments)
         except BaseException as error:  # nothing may go through the frames of C
-            if getattr(_raised, "error", None) is None:
-                _raised.error = error
+            if not _here.calls:
+                raise
+            _here.raised = _here.raised or error
             return 1
         return 0
     return run
 
 
-def _arguments(given: Iterable[object]) -> Iterable[object]:
-    """As C takes them: a text, or bytes, as pointer and length, a number in its 32 bits."""
-    for argument in given:
-        if isinstance(argument, str):
-            argument = argument.encode("utf-8", "surrogatepass")
-        if isinstance(argument, bytes):
-            yield argument
-            yield c_size_t(len(argument))
-        elif isinstance(argument, int):
-            if not -2**31 <= argument < 2**31:
-                raise BadArgument(f"{argument} is too large")
-            yield c_int32(argument)
+def _arguments(signature: str, given: Iterable[Any]) -> Iterator[object]:
+    for letter, argument in zip(signature, given):
+        if letter == "t":
+            if not isinstance(argument, str):
+                raise TypeError(f"a text is a str, not {argument!r}")
+            text = argument.encode("utf-8", "surrogatepass")
+            yield text
+            yield len(text)
+        elif letter == "i":
+            number = operator.index(argument)
+            if not -2**31 <= number < 2**31:
+                raise BadArgument(f"{number} is too large")
+            yield number
         else:
             yield argument
 
 
 def _run(name: str, arguments: Iterable[object]) -> int:
-    status: int = getattr(library, name)(*_arguments(arguments))
-    error = getattr(_raised, "error", None)
-    if error is not None:
-        _raised.error = None
+    given = list(_arguments(SIGNATURES[name], arguments))
+    _here.calls += 1
+    try:
+        status: int = getattr(library, name)(*given)
+    finally:
+        _here.calls -= 1
+    if _here.raised is not None:
+        error, _here.raised = _here.raised, None
         raise error
     return status
 
@@ -220,7 +259,7 @@ def text_from(name: str, *arguments: object) -> str:
     size = 128
     while True:
         buffer = ctypes.create_string_buffer(size)
-        status = _run(name, (*arguments, buffer, c_size_t(size), byref(length)))
+        status = _run(name, (*arguments, buffer, size, byref(length)))
         if status != Status.TOO_SMALL:
             _check(status)
             return buffer.raw[:length.value].decode()

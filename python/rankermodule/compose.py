@@ -3,7 +3,7 @@ from __future__ import annotations
 
 import dataclasses
 import enum
-from ctypes import byref, c_size_t
+from ctypes import byref
 from dataclasses import dataclass
 from typing import ClassVar, NamedTuple, Type, TypeVar
 
@@ -43,9 +43,9 @@ class Fields:
     def text(self) -> str:
         """The text of these fields. Raises NotDone when what is needed is empty: of a name span and
         cantilever both, of a stirrup grade, diameter, spacing or legs."""
-        fields = [str(value).encode() for value in dataclasses.astuple(self)]
+        fields = [value.encode("utf-8", "surrogatepass") for value in dataclasses.astuple(self)]
         given = (_c.Text * len(fields))(*(_c.Text.of(field) for field in fields))
-        return _c.text_from("rk_text_compose", DEFAULT._handle, self.kind, given, c_size_t(len(fields)))
+        return _c.text_from("rk_text_compose", DEFAULT._handle, self.kind, given, len(fields))
 
 
 @dataclass

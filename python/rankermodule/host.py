@@ -92,7 +92,7 @@ class Host(_c.Handle):
             if any(not 0 <= number < 2**32 for number in numbers):
                 raise _c.BadArgument("a serial is negative or too large")
             _c.call("rk_list_add_numbers", c_void_p(handle), (c_uint32 * len(numbers))(*numbers),
-                    ctypes.c_size_t(len(numbers)))
+                    len(numbers))
 
     def _deliver(self, _user: object, panel: int, delivery: Any) -> None:
         if self.deliver is not None:

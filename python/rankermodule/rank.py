@@ -58,7 +58,7 @@ class Ranker(_c.Handle):
         """Ranks these texts, of names whole names; None asks the host. With table_rows, for bars and
         stirrups, the rows of the reference table follow, each that is not there yet, with stamp 0."""
         texts = project if project is None or isinstance(project, Texts) else Texts(project)
-        _c.call("rk_ranker_run", self._handle, texts and texts._handle, self._result._handle)
+        _c.call("rk_ranker_run", self._handle, None if texts is None else texts._handle, self._result._handle)
         if table_rows:
             _c.call("rk_ranker_add_table_rows", self._handle, self._result._handle)
         focus = _c.number_from("rk_ranker_focus", self._handle)

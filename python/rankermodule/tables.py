@@ -54,7 +54,7 @@ def _rows(table: str, kind: Type[_c.Struct]) -> Iterator[_c.Struct]:
     _c.call(f"rk_{table}_table_count", byref(count))
     for index in range(count.value):
         row = _c.sized(kind)
-        _c.call(f"rk_{table}_table_row", c_size_t(index), byref(row))
+        _c.call(f"rk_{table}_table_row", index, byref(row))
         yield row
 
 
