@@ -2,14 +2,34 @@
 #include <utility>
 
 #include "c/private/PanelCalls.h"
-#include "c/private/PanelFace.h"
 #include "c/private/Texts.h"
 
 using namespace RankerC;
 
 namespace RankerC {
 
-Panel::~Panel() = default;
+// An event that a display feeds finds no frame; the panel may go in it, and stays until it is over.
+BOOL Panel::Offer(const std::function<BOOL()>& offer)
+{
+    const std::lock_guard lock(CallLock());
+    if (Frame::Of(*this) != nullptr) {
+        return offer();
+    }
+    const auto self = shared_from_this();
+    Frame frame(m_context, this, nullptr);
+    return offer();
+}
+
+void Panel::Take(const CString& text)
+{
+    const std::lock_guard lock(CallLock());
+    if (Frame* const frame = Frame::Of(*this)) {
+        frame->Deliver(RK_TO_ITEM, 0, text, 0);
+        return;
+    }
+    const auto self = shared_from_this();
+    Frame(m_context, this, nullptr).Deliver(RK_TO_ITEM, 0, text, 0);
+}
 
 void Panel::Retire()
 {
@@ -93,7 +113,6 @@ rk_control ControlOf(Panel& panel, const CWnd& control)
     rk_control told{};
     told.id = control.GetDlgCtrlID();
     told.kind = KindOf(control);
-    // Of its own, whether the panel shows or not: a control is hidden only by itself while the panel shows.
     told.visible = control.IsWindowVisible() != FALSE ? 1 : 0;
     told.enabled = control.IsWindowEnabled() != FALSE ? 1 : 0;
     CRect place;
@@ -138,7 +157,7 @@ rk_status rk_panel_create(rk_context context, const rk_panel_options* options, r
         CheckOptions(*options);
         const auto made = std::make_shared<Panel>(found);
         Frame frame(found, made.get(), nullptr);
-        made->m_face = MakePanel(*options, &g_hostData, &Frame::TakeItemText);
+        made->m_face = MakePanel(*options, &g_hostData, *made);
         EnterAs(made, panel);
         frame.NeedNoFailure();
     });

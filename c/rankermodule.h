@@ -19,9 +19,10 @@
  *
  * Callbacks belong to a context, so two hosts in a process do not meet: the module's own callback slots
  * hold the context's callbacks while a call of that context runs, and before and after it, and inside each
- * callback, what they held before. Callbacks run inside the call that caused them, in its thread. They may
- * call everything here. They answer 0, or another number to say that they failed, which makes the call that
- * caused them answer RK_CALLBACK. They must return: no exception, no jump out of them.
+ * callback, what they held before. Callbacks run inside the call that caused them, in its thread; where a
+ * display shows the panels and feeds events to them, also inside such an event. They may call everything
+ * here. They answer 0, or another number to say that they failed, which makes the call that caused them
+ * answer RK_CALLBACK. They must return: no exception, no jump out of them.
  *
  * Threads. Any thread may call; one lock lets in one thread at a time, and callbacks run under it. So a
  * callback must not wait for another thread that calls this library. Panels have one focus and one
@@ -362,6 +363,7 @@ typedef struct rk_panel_options {
 /* Makes it with its window, hidden. */
 RK_API rk_status RK_CALL rk_panel_create(rk_context context, const rk_panel_options* options,
                                          rk_panel* panel);
+/* Its own receiver may; it hands over nothing more then. */
 RK_API rk_status RK_CALL rk_panel_destroy(rk_panel panel);
 
 /* The text for the next use: into the controls as far as it can be read. The bar panel starts empty each
@@ -447,7 +449,7 @@ typedef struct rk_control {
     size_t struct_size;
     int32_t id;
     int32_t kind;
-    int32_t visible;
+    int32_t visible; /* 0 also while the panel is hidden */
     int32_t enabled;
     rk_rect place;     /* in the panel's client area, which is all of the panel */
     int32_t rows;      /* of a list box, else 0 */

@@ -63,6 +63,11 @@ void Frame::Exchange()
     m_messageBox = ExchangeMessageBoxFunc(m_messageBox);
 }
 
+rk_callbacks Frame::Callbacks() const
+{
+    return m_context->m_handle != 0 ? m_context->m_callbacks : rk_callbacks{};
+}
+
 void Frame::NeedNoFailure() const
 {
     if (m_failure.status != RK_OK) {
@@ -127,7 +132,7 @@ void Frame::AskBeamTypes(CStringArray& arType)
 {
     Frame& frame = *g_current;
     if (frame.m_project == nullptr) {
-        frame.AskTexts("beam_types", arType, frame.m_context->m_callbacks.beam_types);
+        frame.AskTexts("beam_types", arType, frame.Callbacks().beam_types);
         return;
     }
     frame.GroupNames();
@@ -139,7 +144,7 @@ void Frame::AskBeamTypes(CStringArray& arType)
 void Frame::AskBeamNumbers(CUIntArray& arXu, CStringArray& arSuffix, CString strType)
 {
     Frame& frame = *g_current;
-    const rk_callbacks callbacks = frame.m_context->m_callbacks;
+    const rk_callbacks callbacks = frame.Callbacks();
     if (frame.m_project != nullptr) {
         for (const NamesOfType& names : frame.m_names) {
             if (names.type == strType) {
@@ -178,23 +183,23 @@ void Frame::GroupNames()
 
 void Frame::AskSections(CStringArray& arResult)
 {
-    g_current->AskTexts("sections", arResult, g_current->m_context->m_callbacks.sections);
+    g_current->AskTexts("sections", arResult, g_current->Callbacks().sections);
 }
 
 void Frame::AskElevations(CStringArray& arResult)
 {
-    g_current->AskTexts("elevations", arResult, g_current->m_context->m_callbacks.elevations);
+    g_current->AskTexts("elevations", arResult, g_current->Callbacks().elevations);
 }
 
 void Frame::AskStirrups(CStringArray& arResult)
 {
-    g_current->AskTexts("stirrups", arResult, g_current->m_context->m_callbacks.stirrups);
+    g_current->AskTexts("stirrups", arResult, g_current->Callbacks().stirrups);
 }
 
 void Frame::AskBars(CStringArray& arResult, CString strKind)
 {
     Frame& frame = *g_current;
-    const rk_callbacks callbacks = frame.m_context->m_callbacks;
+    const rk_callbacks callbacks = frame.Callbacks();
     if (frame.m_project != nullptr) {
         AddAll(arResult, *frame.m_project);
     } else if (callbacks.bars != nullptr) {
@@ -210,12 +215,15 @@ void Frame::TakeText(void* target, int mode, CString text, int code)
     g_current->Deliver(target == nullptr ? RK_TO_PARENT : RK_TO_HOST, mode, text, code);
 }
 
-void Frame::TakeItemText(const CString& text) { g_current->Deliver(RK_TO_ITEM, 0, text, 0); }
+Frame* Frame::Of(const Panel& panel)
+{
+    return g_current != nullptr && g_current->m_panel == &panel ? g_current : nullptr;
+}
 
 // A panel that its receiver destroyed hands over nothing more.
 void Frame::Deliver(int route, int mode, const CString& text, int code)
 {
-    const rk_callbacks callbacks = m_context->m_callbacks;
+    const rk_callbacks callbacks = Callbacks();
     if (m_panel == nullptr || m_panel->m_handle == 0 || callbacks.deliver == nullptr) {
         return;
     }
@@ -234,7 +242,7 @@ void Frame::Deliver(int route, int mode, const CString& text, int code)
 int Frame::TellUser(const CString& text)
 {
     Frame& frame = *g_current;
-    const rk_callbacks callbacks = frame.m_context->m_callbacks;
+    const rk_callbacks callbacks = frame.Callbacks();
     if (callbacks.message != nullptr) {
         frame.Call("message", [&] {
             const std::string bytes = SeenBy(*frame.m_context, text);

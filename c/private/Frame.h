@@ -19,8 +19,11 @@ public:
     // To be called at the end: refuses if a callback failed.
     void NeedNoFailure() const;
 
-    // What the item of a panel at work got.
-    static void TakeItemText(const CString& text);
+    // The frame at work if it is the panel's, else null.
+    [[nodiscard]] static Frame* Of(const Panel& panel);
+
+    // A text that the panel has confirmed.
+    void Deliver(int route, int mode, const CString& text, int code);
 
 private:
     class Outside;
@@ -39,7 +42,6 @@ private:
     static void AskBars(CStringArray& arResult, CString strKind);
     static void TakeText(void* target, int mode, CString text, int code);
     static int TellUser(const CString& text);
-    void Deliver(int route, int mode, const CString& text, int code);
 
     // Runs a callback with the slots as they were before this frame; false, with the failure noted, if it
     // failed.
@@ -50,6 +52,8 @@ private:
     void Ask(const char* name, CStringArray& texts, CUIntArray* numbers, Callback callback);
     template <class Callback>
     void AskTexts(const char* name, CStringArray& arResult, Callback callback);
+    // None once the context has gone.
+    [[nodiscard]] rk_callbacks Callbacks() const;
     void Exchange();
     void GroupNames();
 

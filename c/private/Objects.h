@@ -9,6 +9,7 @@
 
 #include "RankerModule.h"
 #include "c/private/Call.h"
+#include "c/private/PanelFace.h"
 
 namespace RankerC {
 
@@ -77,15 +78,14 @@ public:
     const std::unique_ptr<HITNESS_RANKER> m_ranker;
 };
 
-class PanelFace;
-
-class Panel : public Member {
+class Panel : public Member, public PanelKeeper, public std::enable_shared_from_this<Panel> {
 public:
     using Member::Member;
-    ~Panel() override;
     static constexpr const char* ClassName = "panel";
     [[nodiscard]] const char* Name() const override { return ClassName; }
     void Retire() override;
+    BOOL Offer(const std::function<BOOL()>& offer) override;
+    void Take(const CString& text) override;
 
     std::unique_ptr<PanelFace> m_face;
     std::string m_text;  // what rk_panel_control gave out

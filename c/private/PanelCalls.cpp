@@ -4,7 +4,6 @@
 #include <array>
 
 #include "c/private/Encoding.h"
-#include "c/private/PanelFace.h"
 
 namespace RankerC {
 

@@ -22,10 +22,25 @@ void Show(CBeamLevelDlg& panel, const CString& text) { panel.SetFocusLevel(text)
 void Show(CBeamGujinDlg& panel, const CString& text) { panel.SetFocusGujin(text); }
 void Show(CBeamSteelDlg& panel, const CString& /*text*/) { panel.Init(); }
 
+// Every event passes its keeper on the way in.
+template <class Panel>
+class Kept : public Panel {
+public:
+    explicit Kept(PanelKeeper& keeper) : m_keeper(keeper) {}
+    BOOL PreTranslateMessage(MSG* pMsg) override
+    {
+        return m_keeper.Offer([this, pMsg] { return Panel::PreTranslateMessage(pMsg); });
+    }
+
+private:
+    PanelKeeper& m_keeper;
+};
+
 template <class Panel>
 class FaceOf : public PanelFace {
 public:
-    FaceOf(const rk_panel_options& options, void* hostData, Item::TakeFunc take) : m_item(take)
+    FaceOf(const rk_panel_options& options, void* hostData, PanelKeeper& keeper)
+        : m_item(keeper), m_panel(keeper)
     {
         m_panel.m_pItem = &m_item;
         if constexpr (!IsPicker) {
@@ -41,7 +56,7 @@ public:
         if (!m_panel.Create(Panel::IDD)) {
             throw Refusal{RK_FAILED, "the panel's window could not be made"};
         }
-        Start(m_panel);
+        Start(static_cast<Panel&>(m_panel));
     }
 
     CDialog& Dialog() override { return m_panel; }
@@ -56,7 +71,7 @@ public:
             if (IsBars && !text.IsEmpty()) {
                 return false;
             }
-            Show(m_panel, text);
+            Show(static_cast<Panel&>(m_panel), text);
         }
         return true;
     }
@@ -88,7 +103,7 @@ private:
         std::is_same_v<Panel, CHBarPropertySheet> || std::is_same_v<Panel, CVBarPropertySheet>;
 
     Item m_item;
-    Panel m_panel;
+    Kept<Panel> m_panel;
 };
 
 }  // namespace
@@ -96,19 +111,20 @@ private:
 void Item::SetValue(CString strValue)
 {
     CPropertyGridItem::SetValue(strValue);
-    m_take(strValue);
+    m_keeper.Take(strValue);
 }
 
-std::unique_ptr<PanelFace> MakePanel(const rk_panel_options& options, void* hostData, Item::TakeFunc take)
+std::unique_ptr<PanelFace> MakePanel(const rk_panel_options& options, void* hostData, PanelKeeper& keeper)
 {
     switch (options.kind) {
-    case RK_NAME_PANEL: return std::make_unique<FaceOf<CBeamNameDlg>>(options, hostData, take);
-    case RK_SECTION_PANEL: return std::make_unique<FaceOf<CBeamSecDlg>>(options, hostData, take);
-    case RK_ELEVATION_PANEL: return std::make_unique<FaceOf<CBeamLevelDlg>>(options, hostData, take);
-    case RK_STIRRUP_PANEL: return std::make_unique<FaceOf<CBeamGujinDlg>>(options, hostData, take);
-    case RK_BAR_PANEL: return std::make_unique<FaceOf<CBeamSteelDlg>>(options, hostData, take);
-    case RK_HORIZONTAL_PICKER: return std::make_unique<FaceOf<CHBarPropertySheet>>(options, hostData, take);
-    case RK_VERTICAL_PICKER: return std::make_unique<FaceOf<CVBarPropertySheet>>(options, hostData, take);
+    case RK_NAME_PANEL: return std::make_unique<FaceOf<CBeamNameDlg>>(options, hostData, keeper);
+    case RK_SECTION_PANEL: return std::make_unique<FaceOf<CBeamSecDlg>>(options, hostData, keeper);
+    case RK_ELEVATION_PANEL: return std::make_unique<FaceOf<CBeamLevelDlg>>(options, hostData, keeper);
+    case RK_STIRRUP_PANEL: return std::make_unique<FaceOf<CBeamGujinDlg>>(options, hostData, keeper);
+    case RK_BAR_PANEL: return std::make_unique<FaceOf<CBeamSteelDlg>>(options, hostData, keeper);
+    case RK_HORIZONTAL_PICKER:
+        return std::make_unique<FaceOf<CHBarPropertySheet>>(options, hostData, keeper);
+    case RK_VERTICAL_PICKER: return std::make_unique<FaceOf<CVBarPropertySheet>>(options, hostData, keeper);
     default: RefuseValue("options->kind", options.kind);
     }
 }

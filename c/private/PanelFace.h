@@ -1,6 +1,7 @@
 // One face for the seven panels and pickers, and the item that some of them deliver to.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "RankerModule.h"
@@ -8,18 +9,31 @@
 
 namespace RankerC {
 
-// What a panel hands its text to when it serves an item: it goes on to the frame of the call at work.
+// What a panel tells whoever keeps it, also when no call of the host runs: a display feeds events by
+// itself.
+class PanelKeeper {
+public:
+    PanelKeeper() = default;
+    PanelKeeper(const PanelKeeper&) = delete;
+    PanelKeeper& operator=(const PanelKeeper&) = delete;
+    virtual ~PanelKeeper() = default;
+
+    // An event is offered to the panel; answers what the panel does.
+    virtual BOOL Offer(const std::function<BOOL()>& offer) = 0;
+    // The item that the panel serves got a text.
+    virtual void Take(const CString& text) = 0;
+};
+
 class Item : public CPropertyGridItem {
 public:
-    using TakeFunc = void (*)(const CString& text);
-    explicit Item(TakeFunc take) : m_take(take) { SetHWnd(this); }
+    explicit Item(PanelKeeper& keeper) : m_keeper(keeper) { SetHWnd(this); }
 
     void SetValue(CString strValue) override;
     // A value of the host's, which is not delivered.
     void Put(const CString& text) { CPropertyGridItem::SetValue(text); }
 
 private:
-    TakeFunc m_take;
+    PanelKeeper& m_keeper;
 };
 
 class PanelFace {
@@ -39,6 +53,6 @@ public:
 
 // The options have been looked at. hostData is what the callback gets on that route.
 [[nodiscard]] std::unique_ptr<PanelFace> MakePanel(const rk_panel_options& options, void* hostData,
-                                                   Item::TakeFunc take);
+                                                   PanelKeeper& keeper);
 
 }  // namespace RankerC

@@ -161,6 +161,20 @@ TEST(Contexts, MayGoInsideTheirOwnCallbacks)
     }
 }
 
+// A context that has gone is asked nothing more, though the call goes on.
+TEST(Contexts, AreNotCalledOnceTheyHaveGone)
+{
+    CHost host;
+    host.m_types = {"KL"};
+    const rk_ranker ranker = host.NewRanker(RK_NAME);
+    const rk_list result = host.NewList();
+    rk_ranker_run(ranker, nullptr, result);
+    EXPECT_EQ(Texts{"KL"}, host.m_asked);
+    host.m_act = [&] { return rk_context_destroy(host.m_context); };
+    EXPECT_EQ(RK_CALLBACK, rk_ranker_run(ranker, nullptr, result));
+    EXPECT_EQ(Texts{"KL"}, host.m_asked);
+}
+
 TEST(Contexts, ServeManyThreadsOneAtATime)
 {
     constexpr int Threads = 4;

@@ -33,7 +33,9 @@ const Row Calls[] = {
          return rk_text_compose(h.context, RK_NAME, FourFields, 4, g_buffer, sizeof g_buffer, nullptr);
      }},
     {"rk_text_measure", "c",
-     [](const Handles& h) { return Into<rk_measures>(rk_text_measure, h.context, RK_BARS, "2B22", 4); }},
+     [](const Handles& h) {
+         return Into<rk_measures>(rk_text_measure, h.context, RK_BARS, "2B22", std::size_t{4});
+     }},
     {"rk_text_compare", "c",
      [](const Handles& h) { return rk_text_compare(h.context, RK_BARS, "2B22", 4, "", 0, &g_number); }},
     {"rk_name_parts", "cl", [](const Handles& h) { return rk_name_parts(h.context, "KL1", 3, h.list); }},

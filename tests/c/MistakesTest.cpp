@@ -99,7 +99,9 @@ const Slip slips[] = {
          return rk_text_measure(h.context, RK_BARS, "", 0, &measures);
      }},
     {"measures of a piece", RK_BAD_ARGUMENT,
-     [](const Handles& h) { return Into<rk_measures>(rk_text_measure, h.context, RK_BAR_PIECE, "", 0); }},
+     [](const Handles& h) {
+         return Into<rk_measures>(rk_text_measure, h.context, RK_BAR_PIECE, "", std::size_t{0});
+     }},
     {"an order of names", RK_BAD_ARGUMENT,
      [](const Handles& h) { return rk_text_compare(h.context, RK_NAME, "", 0, "", 0, &g_number); }},
     {"no place for an order", RK_BAD_ARGUMENT,

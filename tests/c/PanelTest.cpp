@@ -239,6 +239,34 @@ TEST(CPanels, MayBeDestroyedByTheirReceiver)
     EXPECT_EQ(1U, host.m_delivered.size()) << "a panel that is gone hands over nothing more";
 }
 
+// A display feeds what the user does to the windows by itself, outside of any call of the host.
+TEST(CPanels, DeliverWhatADisplayFeeds)
+{
+    const std::pair<int, int> cases[] = {{RK_STIRRUP_PANEL, RK_TO_ITEM},
+                                         {RK_STIRRUP_PANEL, RK_TO_PARENT},
+                                         {RK_STIRRUP_PANEL, RK_TO_HOST},
+                                         {RK_HORIZONTAL_PICKER, RK_TO_ITEM}};
+    for (const auto& [kind, route] : cases) {
+        for (const bool bDestroy : {false, true}) {
+            CHost host;
+            const rk_panel panel = host.Shown(kind, "A8@100/200(2)", route);
+            if (bDestroy) {
+                host.m_act = [&, own = panel] { return rk_panel_destroy(own); };
+            }
+            // In the first list, whose presses go their own way in a picker.
+            rk_control list{};
+            for (int i = 0; list.kind != RK_A_LIST_BOX; ++i) {
+                list = ControlAt(panel, i);
+            }
+            const rk_rect place = StateOf(panel).place;
+            Hands().RightClick(CPoint(place.left + list.place.left + 3, place.top + list.place.top + 3));
+            ASSERT_EQ(1U, host.m_delivered.size()) << route << ' ' << kind;
+            EXPECT_EQ(route, host.m_delivered[0].route);
+            EXPECT_EQ(bDestroy ? RK_BAD_HANDLE : RK_OK, rk_panel_hide(panel));
+        }
+    }
+}
+
 TEST(CPanels, TakeEventsOneByOne)
 {
     CHost host;

@@ -135,8 +135,8 @@ TEST(CTexts, AreReadAndComposed)
                   Written(rk_text_compose, host.m_context, row.what, given.data(), given.size()));
     }
     const rk_text empty[6] = {};
-    EXPECT_EQ("status 6", Written(rk_text_compose, host.m_context, RK_NAME, empty, 4));
-    EXPECT_EQ("status 6", Written(rk_text_compose, host.m_context, RK_STIRRUP, empty, 6));
+    EXPECT_EQ("status 6", Written(rk_text_compose, host.m_context, RK_NAME, empty, std::size_t{4}));
+    EXPECT_EQ("status 6", Written(rk_text_compose, host.m_context, RK_STIRRUP, empty, std::size_t{6}));
     EXPECT_EQ(RK_NOT_DONE, rk_text_read(host.m_context, RK_STIRRUP, "200", 3, fields));
     EXPECT_EQ(RK_NOT_DONE, rk_text_read(host.m_context, RK_SECTION, "", 0, fields));
     DONE(rk_name_parts(host.m_context, "WKL12(3A)", 9, fields));
