@@ -15,7 +15,7 @@ from __future__ import annotations
 import ctypes
 
 from . import compose, panel, rank, tables
-from ._c import BadArgument, BadIndex, BadText, Closed, NotDone, RankerError, Status, call
+from ._call import BadArgument, BadIndex, BadText, Closed, NotDone, RankerError, Status, call
 from .compose import Kind
 from .host import Delivery, Host, Route, Texts
 from .panel import Panel, PanelKind

@@ -7,7 +7,7 @@ from ctypes import byref
 from dataclasses import dataclass
 from typing import ClassVar, NamedTuple, Type, TypeVar
 
-from . import _c
+from . import _c, _call
 from .host import DEFAULT, Texts
 
 
@@ -37,7 +37,7 @@ class Fields:
         """The fields of a text. Raises NotDone for one that is not cut at all: a name without "L", an empty
         section, a stirrup without "@" and "-" or without grade letter."""
         with Texts() as fields:
-            _c.call("rk_text_read", DEFAULT._handle, cls.kind, text, fields._handle)
+            _call.call("rk_text_read", DEFAULT._handle, cls.kind, text, fields._handle)
             return cls(*fields.read())
 
     def text(self) -> str:
@@ -45,7 +45,7 @@ class Fields:
         cantilever both, of a stirrup grade, diameter, spacing or legs."""
         fields = [value.encode("utf-8", "surrogatepass") for value in dataclasses.astuple(self)]
         given = (_c.Text * len(fields))(*(_c.Text.of(field) for field in fields))
-        return _c.text_from("rk_text_compose", DEFAULT._handle, self.kind, given, len(fields))
+        return _call.text_from("rk_text_compose", DEFAULT._handle, self.kind, given, len(fields))
 
 
 @dataclass
@@ -114,14 +114,14 @@ class Measures:
 
 def measure(kind: Kind, text: str) -> Measures:
     """Of all kinds but a bar piece. Raises NotDone for wall bars without grade or diameter."""
-    told = _c.sized(_c.Measures)
-    _c.call("rk_text_measure", DEFAULT._handle, kind, text, byref(told))
+    told = _call.sized(_c.Measures)
+    _call.call("rk_text_measure", DEFAULT._handle, kind, text, byref(told))
     return Measures(**{field.name: getattr(told, field.name) for field in dataclasses.fields(Measures)})
 
 
 def compare(kind: Kind, a: str, b: str) -> int:
     """-1, 0 or 1: the order in which the rankers put bars or stirrups; no other kinds."""
-    return _c.number_from("rk_text_compare", DEFAULT._handle, kind, a, b)
+    return _call.number_from("rk_text_compare", DEFAULT._handle, kind, a, b)
 
 
 class NameParts(NamedTuple):
@@ -134,33 +134,33 @@ class NameParts(NamedTuple):
 def name_parts(text: str) -> NameParts:
     """Type and suffix of a beam name."""
     with Texts() as parts:
-        _c.call("rk_name_parts", DEFAULT._handle, text, parts._handle)
+        _call.call("rk_name_parts", DEFAULT._handle, text, parts._handle)
         return NameParts(*parts.read())
 
 
 def bars_head(text: str) -> str:
     """The first piece of a bar text, without one leading "*", "N" or "G"."""
-    return _c.text_from("rk_bars_head", DEFAULT._handle, text)
+    return _call.text_from("rk_bars_head", DEFAULT._handle, text)
 
 
 def bars_same_diameter(a: str, b: str) -> bool:
     """Whether the first piece of a has at least as many bars as that of b, of the same diameter."""
-    return bool(_c.number_from("rk_bars_same_diameter", DEFAULT._handle, a, b))
+    return bool(_call.number_from("rk_bars_same_diameter", DEFAULT._handle, a, b))
 
 
 def bars_same_essence(a: str, b: str) -> bool:
     """Whether two pieces hold the same bars whatever stands around them."""
-    return bool(_c.number_from("rk_bars_same_essence", DEFAULT._handle, a, b))
+    return bool(_call.number_from("rk_bars_same_essence", DEFAULT._handle, a, b))
 
 
 def stirrup_tight_form(text: str) -> str:
     """The stirrup with a tight zone of spacing 100 mm: "A8@100/200(2)" for "A8@200(2)"."""
-    return _c.text_from("rk_stirrup_tight_form", DEFAULT._handle, text)
+    return _call.text_from("rk_stirrup_tight_form", DEFAULT._handle, text)
 
 
 def elevation_key(text: str, key: str) -> str:
     """What a key of the elevation keypad makes of a text: a digit, ".", "-", "(" for brackets, "\\b" for
     back. Raises NotDone where it does not apply, such as a second point."""
     if len(key) != 1:
-        raise _c.BadArgument("a key is one character")
-    return _c.text_from("rk_elevation_key", DEFAULT._handle, text, ord(key))
+        raise _call.BadArgument("a key is one character")
+    return _call.text_from("rk_elevation_key", DEFAULT._handle, text, ord(key))

@@ -7,7 +7,7 @@ from ctypes import byref, c_uint32, c_void_p
 from dataclasses import dataclass
 from typing import TYPE_CHECKING, Any, Callable, Iterable, Optional, Tuple
 
-from . import _c
+from . import _c, _call
 
 if TYPE_CHECKING:
     from .panel import Panel
@@ -34,7 +34,7 @@ class Delivery:
 Ask = Callable[[], Iterable[str]]
 
 
-class Host(_c.Handle):
+class Host(_call.Handle):
     """Callbacks, which are attributes and can be changed at any time; None adds nothing.
 
     beam_types()         types in use, such as "KL"
@@ -66,32 +66,32 @@ class Host(_c.Handle):
         self._panels: dict[int, Panel] = {}  # alive until closed: a panel is shown while nobody holds it
         super().__init__("rk_context_create")
         # The library keeps the pointers, this object what they point to.
-        self._callbacks = _c.sized(
-            _c.Callbacks, beam_types=self._ask("beam_types"), beam_numbers=_c.ASK_ABOUT(_c.guarded(self._numbers)),
+        self._callbacks = _call.sized(
+            _c.Callbacks, beam_types=self._ask("beam_types"), beam_numbers=_c.ASK_ABOUT(_call.guarded(self._numbers)),
             sections=self._ask("sections"), elevations=self._ask("elevations"), stirrups=self._ask("stirrups"),
-            bars=_c.ASK_ABOUT(_c.guarded(self._bars)), deliver=_c.DELIVER(_c.guarded(self._deliver)),
-            message=_c.MESSAGE(_c.guarded(self._message)))
-        _c.call("rk_context_set_callbacks", self._handle, byref(self._callbacks))
+            bars=_c.ASK_ABOUT(_call.guarded(self._bars)), deliver=_c.DELIVER(_call.guarded(self._deliver)),
+            message=_c.MESSAGE(_call.guarded(self._message)))
+        _call.call("rk_context_set_callbacks", self._handle, byref(self._callbacks))
 
     def _ask(self, name: str) -> Any:
         def answer(_user: object, handle: int) -> None:
             callback = getattr(self, name)
             if callback is not None:
-                _c.add_texts(c_void_p(handle), callback())
-        return _c.ASK(_c.guarded(answer))
+                _call.add_texts(c_void_p(handle), callback())
+        return _c.ASK(_call.guarded(answer))
 
     def _bars(self, _user: object, handle: int, kind: int, length: int) -> None:
         if self.bars is not None:
-            _c.add_texts(c_void_p(handle), self.bars(ctypes.string_at(kind, length).decode()))
+            _call.add_texts(c_void_p(handle), self.bars(ctypes.string_at(kind, length).decode()))
 
     def _numbers(self, _user: object, handle: int, beam_type: int, length: int) -> None:
         if self.beam_numbers is not None:
             suffixes, serials = self.beam_numbers(ctypes.string_at(beam_type, length).decode())
-            _c.add_texts(c_void_p(handle), suffixes)
+            _call.add_texts(c_void_p(handle), suffixes)
             numbers = list(serials)
             if any(not 0 <= number < 2**32 for number in numbers):
-                raise _c.BadArgument("a serial is negative or too large")
-            _c.call("rk_list_add_numbers", c_void_p(handle), (c_uint32 * len(numbers))(*numbers),
+                raise _call.BadArgument("a serial is negative or too large")
+            _call.call("rk_list_add_numbers", c_void_p(handle), (c_uint32 * len(numbers))(*numbers),
                     len(numbers))
 
     def _deliver(self, _user: object, panel: int, delivery: Any) -> None:
@@ -108,23 +108,23 @@ class Host(_c.Handle):
 DEFAULT = Host()  # of what needs no callbacks
 
 
-class Texts(_c.Handle):
+class Texts(_call.Handle):
     """Texts that the library keeps: converted once, they serve many runs."""
 
     def __init__(self, texts: Iterable[str] = ()) -> None:
         """Raises BadText, which tells the first one, if one is bad."""
         super().__init__("rk_list_create", DEFAULT._handle)
-        _c.add_texts(self._handle, texts)
+        _call.add_texts(self._handle, texts)
 
     def __len__(self) -> int:
         count = ctypes.c_size_t()
-        _c.call("rk_list_count", self._handle, byref(count))
+        _call.call("rk_list_count", self._handle, byref(count))
         return count.value
 
     def read(self) -> list[str]:
         """All of them."""
-        return _c.texts_of(self._handle)
+        return _call.texts_of(self._handle)
 
     def numbers(self) -> list[int]:
         """The stamps of a ranked list, none of any other."""
-        return _c.numbers_of(self._handle)
+        return _call.numbers_of(self._handle)

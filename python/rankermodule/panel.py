@@ -11,7 +11,7 @@ from ctypes import byref, c_int32
 from dataclasses import dataclass
 from typing import NamedTuple
 
-from . import _c
+from . import _c, _call
 from .host import Host, Route, Texts
 
 THE_PANEL = 0  # as a control's id: the panel itself
@@ -102,7 +102,7 @@ def _rect(told: _c.Rect) -> Rect:
     return Rect(told.left, told.top, told.right, told.bottom)
 
 
-class Panel(_c.Handle):
+class Panel(_call.Handle):
     """A panel or picker with its window, hidden at first. Its host keeps it until one of them is closed."""
 
     def __init__(self, kind: PanelKind, host: Host, route: Route = Route.ITEM, bar_kind: int = -1) -> None:
@@ -112,7 +112,7 @@ class Panel(_c.Handle):
         counts as -1."""
         self.kind = kind
         self.host = host
-        options = _c.sized(_c.PanelOptions, kind=kind, route=route, bar_kind=bar_kind)
+        options = _call.sized(_c.PanelOptions, kind=kind, route=route, bar_kind=bar_kind)
         super().__init__("rk_panel_create", host._handle, byref(options))
         self._number = self._handle.value or 0
         host._panels[self._number] = self
@@ -124,15 +124,15 @@ class Panel(_c.Handle):
     def set_text(self, text: str) -> None:
         """The text for the next use, into the controls as far as it can be read. The bar panel takes the
         empty text alone. A picker that has delivered takes no press before its next text."""
-        _c.call("rk_panel_set_text", self._handle, text)
+        _call.call("rk_panel_set_text", self._handle, text)
 
     def show(self, x: int, y: int) -> None:
         """Shows it above all others, its corner at this place on the screen."""
-        _c.call("rk_panel_show", self._handle, x, y)
+        _call.call("rk_panel_show", self._handle, x, y)
 
     def hide(self) -> None:
         """Hides it; nothing is delivered."""
-        _c.call("rk_panel_hide", self._handle)
+        _call.call("rk_panel_hide", self._handle)
 
     def event(self, message: Message, control: int = THE_FOCUS, *, x: int = 0, y: int = 0, key: int = 0,
               turn: int = 0) -> bool:
@@ -140,13 +140,13 @@ class Panel(_c.Handle):
         whether it did. x and y are from the control's corner, the key a key's number as on Windows (27 is
         Esc) or of a character its code point, the turn of the wheel 120 a notch, above 0 away from the user.
         A hidden panel gets nothing. A right press confirms, Esc dismisses."""
-        told = _c.sized(_c.Event, message=message, control=control, x=x, y=y, key=key, turn=turn)
-        return bool(_c.number_from("rk_panel_event", self._handle, byref(told)))
+        told = _call.sized(_c.Event, message=message, control=control, x=x, y=y, key=key, turn=turn)
+        return bool(_call.number_from("rk_panel_event", self._handle, byref(told)))
 
     def click(self, control: int, row: int = -1, how: Click = Click.CLICK) -> None:
         """By events as above: on a row of a list, brought into view before, or with row -1 in the middle of
         a control. Raises NotDone while the panel is hidden."""
-        _c.call("rk_panel_click", self._handle, control, row, how)
+        _call.call("rk_panel_click", self._handle, control, row, how)
 
     def confirm(self) -> None:
         """A right click on the panel: the text is delivered and the panel is hidden."""
@@ -154,11 +154,11 @@ class Panel(_c.Handle):
 
     def edit(self, control: int, text: str) -> None:
         """The user has edited the text of an edit box into this one. Raises NotDone for what it refuses."""
-        _c.call("rk_panel_edit", self._handle, control, text)
+        _call.call("rk_panel_edit", self._handle, control, text)
 
     def _state(self) -> _c.PanelState:
-        told = _c.sized(_c.PanelState)
-        _c.call("rk_panel_get_state", self._handle, byref(told))
+        told = _call.sized(_c.PanelState)
+        _call.call("rk_panel_get_state", self._handle, byref(told))
         return told
 
     @property
@@ -169,11 +169,11 @@ class Panel(_c.Handle):
 
     def results(self) -> list[str]:
         """The text as composed so far, of the bar panel its five groups, of a picker its item's value."""
-        return [_c.text_from("rk_panel_result", self._handle, group) for group in range(self._state().groups)]
+        return [_call.text_from("rk_panel_result", self._handle, group) for group in range(self._state().groups)]
 
     def _control(self, function: str, which: int) -> Control:
-        told = _c.sized(_c.Control)
-        _c.call(function, self._handle, which, byref(told))
+        told = _call.sized(_c.Control)
+        _call.call(function, self._handle, which, byref(told))
         return Control(told.id, ControlKind(told.kind), bool(told.visible), bool(told.enabled),
                        _rect(told.place), told.rows, told.selection, told.top, str(told.text))
 
@@ -188,11 +188,11 @@ class Panel(_c.Handle):
     def rows(self, id: int) -> list[str]:
         """The rows of a list box."""
         with Texts() as rows:
-            _c.call("rk_panel_rows", self._handle, id, rows._handle)
+            _call.call("rk_panel_rows", self._handle, id, rows._handle)
             return rows.read()
 
     def row_place(self, id: int, row: int) -> Rect:
         """Where a row is, in the list box's client area; outside of it for a row out of view."""
         told = _c.Rect()
-        _c.call("rk_panel_row_place", self._handle, id, row, byref(told))
+        _call.call("rk_panel_row_place", self._handle, id, row, byref(told))
         return _rect(told)

@@ -8,7 +8,7 @@ from __future__ import annotations
 from dataclasses import dataclass, field
 from typing import Iterable, Optional, Union
 
-from . import _c
+from . import _call
 from .compose import Kind
 from .host import DEFAULT, Host, Texts
 
@@ -28,7 +28,7 @@ class Ranking:
     of names the first; always None of sections and elevations."""
 
 
-class Ranker(_c.Handle):
+class Ranker(_call.Handle):
     """A ranker that is kept for many runs."""
 
     def __init__(self, kind: Kind, host: Host = DEFAULT) -> None:
@@ -39,29 +39,29 @@ class Ranker(_c.Handle):
 
     def set_bars(self, width: int, area: int, kind: str) -> None:
         """For bars: see `bars`. 0, 0 and "" at first."""
-        _c.call("rk_ranker_set_bars", self._handle, width, area, kind)
+        _call.call("rk_ranker_set_bars", self._handle, width, area, kind)
 
     def set_stirrups(self, width: int, seismic: int, grade: int) -> None:
         """For the table rows of stirrups: see `stirrups`. 0 at first."""
-        _c.call("rk_ranker_set_stirrups", self._handle, width, seismic, grade)
+        _call.call("rk_ranker_set_stirrups", self._handle, width, seismic, grade)
 
     def set_project_kind(self, kind: int) -> None:
         """2 at first; other numbers change the guesses. Elevations have none: BadArgument."""
-        _c.call("rk_ranker_set_project_kind", self._handle, kind)
+        _call.call("rk_ranker_set_project_kind", self._handle, kind)
 
     def set_previous_name(self, name: str) -> int:
         """Of names: remembers a name and answers the step from the serial of the one before: the new serial
         when it is higher, negated when it is lower, the old step when it is the same."""
-        return _c.number_from("rk_ranker_set_previous_name", self._handle, name)
+        return _call.number_from("rk_ranker_set_previous_name", self._handle, name)
 
     def run(self, project: Union[Texts, Iterable[str], None] = None, *, table_rows: bool = False) -> Ranking:
         """Ranks these texts, of names whole names; None asks the host. With table_rows, for bars and
         stirrups, the rows of the reference table follow, each that is not there yet, with stamp 0."""
         texts = project if project is None or isinstance(project, Texts) else Texts(project)
-        _c.call("rk_ranker_run", self._handle, None if texts is None else texts._handle, self._result._handle)
+        _call.call("rk_ranker_run", self._handle, None if texts is None else texts._handle, self._result._handle)
         if table_rows:
-            _c.call("rk_ranker_add_table_rows", self._handle, self._result._handle)
-        focus = _c.number_from("rk_ranker_focus", self._handle)
+            _call.call("rk_ranker_add_table_rows", self._handle, self._result._handle)
+        focus = _call.number_from("rk_ranker_focus", self._handle)
         return Ranking(self._result.read(), self._result.numbers(), None if focus < 0 else focus)
 
 

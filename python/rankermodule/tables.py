@@ -7,7 +7,7 @@ from dataclasses import dataclass
 from functools import lru_cache
 from typing import Iterator, NamedTuple, Optional, Type
 
-from . import _c
+from . import _c, _call
 from .host import DEFAULT, Texts
 
 
@@ -49,12 +49,12 @@ class Found(NamedTuple):
     nearest: Optional[int]  # among the rows of that width the one nearest in area; of bottom bars always None
 
 
-def _rows(table: str, kind: Type[_c.Struct]) -> Iterator[_c.Struct]:
+def _rows(table: str, kind: Type[_call.Struct]) -> Iterator[_call.Struct]:
     count = c_size_t()
-    _c.call(f"rk_{table}_table_count", byref(count))
+    _call.call(f"rk_{table}_table_count", byref(count))
     for index in range(count.value):
-        row = _c.sized(kind)
-        _c.call(f"rk_{table}_table_row", index, byref(row))
+        row = _call.sized(kind)
+        _call.call(f"rk_{table}_table_row", index, byref(row))
         yield row
 
 
@@ -77,7 +77,7 @@ def find_bars(what: Bars, *, width: int, area: int, through: str = "") -> Found:
     TOTAL_ON_THROUGH alone."""
     nearest = c_int32()
     with Texts() as found:
-        _c.call("rk_bar_table_find", DEFAULT._handle, what, width, area, through, found._handle, byref(nearest))
+        _call.call("rk_bar_table_find", DEFAULT._handle, what, width, area, through, found._handle, byref(nearest))
         return Found(found.read(), None if nearest.value < 0 else nearest.value)
 
 
@@ -85,5 +85,5 @@ def find_stirrups(*, width: int, grade: int, seismic: int) -> list[str]:
     """What is enough for a width in mm, a concrete grade and a seismic class, 1 to 4. Raises NotDone for a
     grade or a class that the table has not."""
     with Texts() as found:
-        _c.call("rk_stirrup_table_find", DEFAULT._handle, width, grade, seismic, found._handle)
+        _call.call("rk_stirrup_table_find", DEFAULT._handle, width, grade, seismic, found._handle)
         return found.read()

@@ -9,7 +9,7 @@ import cffi
 import pytest
 
 import rankermodule
-from rankermodule import _c, compose, host, panel, tables
+from rankermodule import _c, _call, compose, host, panel, tables
 
 HEADER = pathlib.Path(os.environ["RANKER_SOURCE"], "c/rankermodule.h").read_text(encoding="utf-8")
 
@@ -18,7 +18,7 @@ STRUCTS = {
     "rk_bar_row": _c.BarRow, "rk_stirrup_row": _c.StirrupRow, "rk_panel_options": _c.PanelOptions,
     "rk_rect": _c.Rect, "rk_event": _c.Event, "rk_panel_state": _c.PanelState, "rk_control": _c.Control,
 }
-ENUMS = [_c.Status, compose.Kind, host.Route, tables.Bars, panel.PanelKind, panel.Click, panel.Message,
+ENUMS = [_call.Status, compose.Kind, host.Route, tables.Bars, panel.PanelKind, panel.Click, panel.Message,
          panel.ControlKind]
 NO_MEMBERS = {  # constants that are no enumeration's here
     "RK_THE_PANEL": panel.THE_PANEL, "RK_THE_FOCUS": panel.THE_FOCUS, "RK_LABEL": panel.LABEL,
@@ -70,12 +70,13 @@ def test_functions_have_the_parameters_of_the_header(ffi):
     library = ffi.dlopen(_c.library._name)
     kinds = {_c.c_void_p: "p", _c.c_char_p: "p", _c.c_int32: "int32_t", _c.c_size_t: "size_t"}
     for name in _c.SIGNATURES:
-        there = [{"primitive": kind.cname}.get(kind.kind, "p") for kind in ffi.typeof(getattr(library, name)).args]
+        there = [{"primitive": kind.cname}.get(kind.kind, "p")
+                 for kind in ffi.typeof(getattr(library, name)).args]
         assert there == [kinds[kind] for kind in getattr(_c.library, name).argtypes], name
 
 
 def test_statuses_have_their_exceptions():
-    assert {_c.Status.OK, _c.Status.TOO_SMALL, _c.Status.CALLBACK, _c.Status.NO_MEMORY, _c.Status.FAILED} == (
-        set(_c.Status) - set(_c.ERRORS))
+    assert {_call.Status.OK, _call.Status.TOO_SMALL, _call.Status.CALLBACK, _call.Status.NO_MEMORY, _call.Status.FAILED} == (
+        set(_call.Status) - set(_call.ERRORS))
     assert issubclass(rankermodule.BadText, ValueError) and issubclass(rankermodule.BadIndex, IndexError)
-    assert issubclass(_c.Status, enum.IntEnum)
+    assert issubclass(_call.Status, enum.IntEnum)

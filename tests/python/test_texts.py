@@ -104,6 +104,7 @@ def test_tables():
     assert {row.grade for row in tables.stirrups()} == {20, 25, 30, 35, 40}
     found = tables.find_bars(tables.Bars.THROUGH_BARS, width=300, area=1000)
     assert found.texts == ["2B16", "2B18", "2B20", "2B25"] and found.nearest is not None
-    assert tables.find_bars(tables.Bars.TOTAL_ON_THROUGH, width=300, area=1000, through="2B20").texts[0].startswith("2B20")
+    assert tables.find_bars(tables.Bars.TOTAL_ON_THROUGH, width=300, area=1034, through="2B16").texts == [
+        "2B16", "5B16", "2B16+2B20"]
     assert tables.find_bars(tables.Bars.BOTTOM_BARS, width=300, area=1000).nearest is None
     assert tables.find_stirrups(width=300, grade=30, seismic=2)[:2] == ["A6@150(3)", "A6@100/150(3)"]
