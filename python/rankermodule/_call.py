@@ -80,12 +80,15 @@ def sized(struct: Type[Struct], /, **members: Any) -> Struct:
     return made
 
 
-class _Thread(threading.local):
-    calls = 0  # of the library, that are at work in this thread
-    raised: Optional[BaseException] = None  # by a callback, on its way through the library
+class _Calls(threading.local):
+    """The calls at work in this thread, the innermost last: what a callback of each has raised, on its way through
+    the library."""
+
+    def __init__(self) -> None:
+        self.raised: list[Optional[BaseException]] = []
 
 
-_here = _Thread()
+_calls = _Calls()
 
 
 def guarded(function: Callable[..., object]) -> Callable[..., int]:
@@ -95,9 +98,9 @@ def guarded(function: Callable[..., object]) -> Callable[..., int]:
         try:
             function(*arguments)
         except BaseException as error:  # nothing may go through the frames of C
-            if not _here.calls:
+            if not _calls.raised:
                 raise
-            _here.raised = _here.raised or error
+            _calls.raised[-1] = _calls.raised[-1] or error
             return 1
         return 0
     return run
@@ -122,13 +125,12 @@ def _arguments(signature: str, given: Iterable[Any]) -> Iterator[object]:
 
 def _run(name: str, arguments: Iterable[object]) -> int:
     given = list(_arguments(SIGNATURES[name], arguments))
-    _here.calls += 1
+    _calls.raised.append(None)
     try:
         status: int = getattr(library, name)(*given)
     finally:
-        _here.calls -= 1
-    if _here.raised is not None:
-        error, _here.raised = _here.raised, None
+        error = _calls.raised.pop()
+    if error is not None:
         raise error
     return status
 

@@ -9,6 +9,8 @@ from rankermodule.panel import THE_PANEL, Click, ControlKind, Message
 Kind = rm.PanelKind
 TIGHT_SPACINGS = 1356
 SPACING = 1662
+TORSION = 4  # row of the types of bars
+TWO_TEXTS = ((1338, 3), (1340, 7), (1062, TORSION), (1338, 1), (1340, 1))  # list and row: "4B25", "N2B12"
 
 
 class Desk(rm.Host):
@@ -56,8 +58,8 @@ def test_what_is_not_complete_is_told_and_not_delivered():
 def test_bars_are_composed_by_clicks_and_come_as_several_texts():
     desk = Desk()
     panel = desk.shown(Kind.BAR_PANEL, "", rm.Route.HOST, bar_kind=7)
-    torsion = panel.rows(1062).index("N扭筋")
-    for control, row in ((1338, 3), (1340, 7), (1062, torsion), (1338, 1), (1340, 1)):
+    assert panel.rows(1062)[TORSION] == "N扭筋"
+    for control, row in TWO_TEXTS:
         panel.click(control, row)
     assert panel.results() == ["4B25 ", "", "", "N2B12 ", ""]
     panel.confirm()
@@ -147,6 +149,22 @@ def test_what_a_receiver_raises_comes_out_of_the_event():
     assert not panel.state.visible, "the event itself has been carried out"
     with pytest.raises(TypeError):
         desk.shown(Kind.NAME_PANEL, "KL1").confirm()
+
+
+def test_the_first_of_several_receivers_raises_and_the_others_work_on():
+    desk = Desk()
+
+    def deliver(panel, delivery):
+        desk.told.append(rm.rank.stirrups(["A6@70(2)"]).texts[0])
+        if len(desk.told) == 1:
+            raise LookupError(delivery.text)
+    desk.deliver = deliver
+    panel = desk.shown(Kind.BAR_PANEL, "", rm.Route.HOST, bar_kind=7)
+    for control, row in TWO_TEXTS:
+        panel.click(control, row)
+    with pytest.raises(LookupError, match="4B25"):
+        panel.confirm()
+    assert desk.told == ["A6@70(2)", "A6@70(2)"]
 
 
 @pytest.mark.parametrize("whole_host", [False, True])

@@ -162,3 +162,12 @@ def test_threads_rank_by_turns():
     for thread in threads:
         thread.join()
     assert not wrong
+
+
+def test_what_is_raised_outside_of_any_call_is_reported(monkeypatch):
+    reported = []
+    monkeypatch.setattr("sys.unraisablehook", lambda told: reported.append(told.exc_value))
+    host = rm.Host(stirrups=raising(Wrong()))
+    host._callbacks.stirrups(None, 1)  # as by a display
+    assert [type(error) for error in reported] == [Wrong]
+    assert rank.stirrups(STIRRUPS).focus == 1
