@@ -27,14 +27,13 @@ OwnerItem::OwnerItem(const Project& project, bool isWall, std::size_t index)
     SetBlock(BlockPositions().front());
 }
 
-QRectF OwnerItem::boundingRect() const
+void OwnerItem::Measure()
 {
     const double reach = m_isDrawn ? m_body.width : LeaderReach;
-    QRectF all = Body().adjusted(0, -reach, 0, reach);
+    m_bounds = Body().adjusted(0, -reach, 0, reach);
     for (const Label& label : LabelsAsTheyAre()) {
-        all |= label.Outline().boundingRect();
+        m_bounds |= label.Outline().boundingRect();
     }
-    return all;
 }
 
 void OwnerItem::Take(const Project& project)
@@ -66,6 +65,7 @@ void OwnerItem::Take(const Project& project)
             m_fixed.push_back(std::move(label));
         }
     }
+    Measure();
     update();
 }
 
@@ -107,6 +107,7 @@ void OwnerItem::SetBlock(const QPointF& corner)
 {
     prepareGeometryChange();
     m_corner = corner;
+    Measure();
 }
 
 std::vector<Label> OwnerItem::LabelsAsTheyAre() const
@@ -215,6 +216,11 @@ void OwnerItem::SetHovered(const std::optional<FieldRef>& ref)
 void OwnerItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/, QWidget* /*widget*/)
 {
     PaintBody(*painter);
+    const auto isSmall = [this](const Label& label) { return IsSmall(label); };
+    if (std::all_of(m_block.begin(), m_block.end(), isSmall) &&
+        std::all_of(m_fixed.begin(), m_fixed.end(), isSmall)) {
+        return;  // a floor seen whole, where this is most of the work
+    }
     for (const Label& label : LabelsAsTheyAre()) {
         if (!IsSmall(label)) {
             PaintLeader(*painter, label);
