@@ -27,22 +27,6 @@ bool IsAtEnd(const InPlace& text, Field field)
     return text.role == Role::TopSupport && (text.number == 1 || field == Field::RightEnd);
 }
 
-bool IsSectionText(const std::string& text) { return ReadSection(text).has_value(); }
-bool IsElevationText(const std::string& text) { return ReadElevation(text).has_value(); }
-bool IsStirrupText(const std::string& text) { return ReadStirrup(text).has_value(); }
-bool IsBarText(const std::string& text) { return ReadBars(text).has_value(); }
-
-TextPool NewPool(Field field)
-{
-    switch (RowOf(field).ranker) {
-    case Ranker::Sections: return TextPool(IsSectionText);
-    case Ranker::Elevations: return TextPool(IsElevationText);
-    case Ranker::Stirrups: return TextPool(IsStirrupText);
-    case Ranker::Bars: return TextPool(IsBarText, true);
-    default: return TextPool();
-    }
-}
-
 void PlaceOnPlan(const Beam& beam, Traits& traits)
 {
     const auto rounded = [](double at) -> std::int64_t { return std::llround(std::clamp(at, -1e9, 1e9)); };
@@ -60,7 +44,7 @@ KnownTexts::KnownTexts(const Project& project)
       m_likeness(project.beams.size()), m_names(project.beams.size())
 {
     for (std::size_t i = 0; i < Fields; ++i) {
-        m_pools.push_back(NewPool(static_cast<Field>(i)));
+        m_pools.emplace_back(RowOf(static_cast<Field>(i)).ranker);
         m_pools.back().SetBeams(project.beams.size());
         m_columns[i].resize(project.beams.size());
     }

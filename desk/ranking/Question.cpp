@@ -5,6 +5,7 @@
 #include "desk/ranking/Tables.h"
 #include "desk/reading/Bars.h"
 #include "desk/reading/Section.h"
+#include "desk/reading/Stirrup.h"
 
 namespace Desk {
 
@@ -72,6 +73,20 @@ Question QuestionFor(const Project& project, const FieldRef& ref, bool wantsTabl
         question.wantsTable = false;
     }
     return question;
+}
+
+bool IsInGrammar(const std::string& text, Ranker ranker)
+{
+    switch (ranker) {
+    case Ranker::Sections: return ReadSection(text).has_value();
+    case Ranker::Elevations: return ReadElevation(text).has_value();
+    case Ranker::Stirrups: return ReadStirrup(text).has_value();
+    case Ranker::Bars: return ReadBars(text).has_value();
+    case Ranker::Names:
+    case Ranker::OtherWalls:
+    case Ranker::None: break;
+    }
+    return true;
 }
 
 std::vector<const std::string*> BarTexts(const Beam& beam, const std::string& barKind)

@@ -36,6 +36,10 @@ struct Question {
 // known.
 [[nodiscard]] Question QuestionFor(const Project& project, const FieldRef& ref, bool wantsTable);
 
+// Whether a ranker's texts are written so; of names the name rules decide. A text that is not, kept in a
+// field in spite of it, is neither ranked nor proposed to other beams.
+[[nodiscard]] bool IsInGrammar(const std::string& text, Ranker ranker);
+
 // Calls use with the beam's own text of a field and those in place whose role it serves, empty ones too.
 template <class Use>
 void ForEachText(const Beam& beam, Field field, Use use)

@@ -85,7 +85,7 @@ std::optional<int> RankerTexts::NumberOf(const std::string& text)
     if (!isNew) {
         return known->second < 0 ? std::nullopt : std::optional(known->second);
     }
-    std::optional<CString> gbk = GbkFromUtf8(text);
+    std::optional<CString> gbk = IsInGrammar(text, m_ranker) ? GbkFromUtf8(text) : std::nullopt;
     if (!gbk) {
         return std::nullopt;
     }

@@ -14,8 +14,9 @@
 
 namespace Desk {
 
-// Empty texts and those that GBK does not hold are not delivered, nor are beam names without a type or with
-// no serial above 0. A name without a span suffix delivers the empty suffix.
+// Empty texts, those that are not in the ranker's grammar and those that GBK does not hold are not
+// delivered, nor are beam names without a type or with no serial above 0. A name without a span suffix
+// delivers the empty suffix.
 class RankerTexts {
 public:
     struct Use {
@@ -35,7 +36,7 @@ public:
     // In project order.
     [[nodiscard]] const std::vector<Use>& Uses() const { return m_uses; }
 
-    // The text's number, from 0; nothing for an empty text and for one that GBK does not hold.
+    // The text's number, from 0; nothing for a text that is never delivered.
     std::optional<int> NumberOf(const std::string& text);
     [[nodiscard]] const std::string& Text(int number) const { return At(number).text; }  // UTF-8
     // The text as the ranker lists it, which cuts the heads of bars; equal numbers for equal ones.

@@ -13,10 +13,8 @@ int TextPool::Number(const std::string& text)
         return found->second;
     }
     const int number = static_cast<int>(m_texts.size());
-    m_texts.push_back({text,
-                       m_isReadable == nullptr || m_isReadable(text),
-                       m_isOfBars ? BarFactsOf(text) : BarFacts(),
-                       {}});
+    m_texts.push_back(
+        {text, IsInGrammar(text, m_ranker), m_ranker == Ranker::Bars ? BarFactsOf(text) : BarFacts(), {}});
     m_numbers.emplace(m_texts.back().text, number);
     return number;
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "desk/ranking/NewBars.h"
+#include "desk/ranking/Question.h"
 
 namespace Desk {
 
@@ -28,11 +29,9 @@ struct UsesKnown {
 
 class TextPool {
 public:
-    // Texts that are no annotation of the pool's kind are in no order. Of bars it keeps the facts.
-    explicit TextPool(bool (*isReadable)(const std::string&) = nullptr, bool isOfBars = false)
-        : m_isReadable(isReadable), m_isOfBars(isOfBars)
-    {
-    }
+    // Of the texts that a ranker gets. Those not in its grammar are in no order. Of bars it keeps the
+    // facts.
+    explicit TextPool(Ranker ranker) : m_ranker(ranker) {}
 
     // The number of a text, from 1; 0 is the empty text.
     int Number(const std::string& text);
@@ -90,8 +89,7 @@ private:
     // Those of the order whose uses at the beam itself are not as the order counts them, in order.
     [[nodiscard]] std::vector<int> Apart(const UsesKnown& known) const;
 
-    bool (*m_isReadable)(const std::string&);
-    bool m_isOfBars;
+    Ranker m_ranker;
     std::deque<Entry> m_texts = std::deque<Entry>(1);
     std::unordered_map<std::string_view, int> m_numbers;
     std::vector<std::vector<int>> m_ofBeam;

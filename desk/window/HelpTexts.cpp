@@ -99,7 +99,7 @@ constexpr HelpGroup Keys[] = {
     {QT_TRANSLATE_NOOP("Desk", "In a panel"), InPanel},
     {QT_TRANSLATE_NOOP("Desk", "Typed positions"), Typed},
 };
-constexpr HelpGroup Groups[] = {
+constexpr HelpGroup Explained[] = {
     {QT_TRANSLATE_NOOP("Desk", "The plan"), Drawn},
     {QT_TRANSLATE_NOOP("Desk", "Annotations"), Written},
     {QT_TRANSLATE_NOOP("Desk", "The lists of texts"), Listed},
@@ -112,6 +112,6 @@ constexpr HelpGroup Groups[] = {
 }  // namespace
 
 std::span<const HelpGroup> KeysBesideMenus() { return Keys; }
-std::span<const HelpGroup> Meanings() { return Groups; }
+std::span<const HelpGroup> Meanings() { return Explained; }
 
 }  // namespace Desk

@@ -36,7 +36,7 @@ public:
         SetBeamSteelFunc([](CStringArray& texts, CString kind) {
             for (const Beam& beam : s_project->beams) {
                 for (const std::string* const text : BarTexts(beam, Utf8FromGbk(kind))) {
-                    Deliver(texts, *text);
+                    Deliver(texts, *text, Ranker::Bars);
                 }
             }
         });
@@ -46,8 +46,11 @@ public:
     PlainHost& operator=(const PlainHost&) = delete;
 
 private:
-    static void Deliver(CStringArray& to, const std::string& text)
+    static void Deliver(CStringArray& to, const std::string& text, Ranker ranker)
     {
+        if (!IsInGrammar(text, ranker)) {
+            return;
+        }
         if (const std::optional<CString> gbk = GbkFromUtf8(text); gbk && !gbk->IsEmpty()) {
             to.Add(*gbk);
         }
@@ -55,7 +58,8 @@ private:
     static void DeliverAll(CStringArray& to, Field field)
     {
         for (const Beam& beam : s_project->beams) {
-            ForEachText(beam, field, [&to](const std::string& text) { Deliver(to, text); });
+            ForEachText(beam, field,
+                        [&](const std::string& text) { Deliver(to, text, RowOf(field).ranker); });
         }
     }
     template <class Use>

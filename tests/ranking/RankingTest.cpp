@@ -75,6 +75,26 @@ TEST(Ranking, TellsWhereEachCandidateComesFrom)
     EXPECT_EQ(Told(Rank({}, {.barKind = "1", .projectKind = 0})).substr(0, 22), "4B20 guess\n2B12 guess\n");
 }
 
+TEST(Rankings, LeaveOutWhatIsInNoGrammar)
+{
+    Project project;
+    for (const char* const kept : {"see note", "2B25", "300x600", "0.1500", "A8@100(2)"}) {
+        Beam& beam = project.beams.emplace_back();
+        beam.section = beam.elevation = beam.stirrup = beam.topBars = kept;
+    }
+    const auto fromProject = [&](const Question& question) {
+        std::string texts;
+        for (const Candidate& candidate : Rank(project, question).candidates) {
+            texts += candidate.source == Source::Project ? candidate.text + ' ' : "";
+        }
+        return texts;
+    };
+    EXPECT_EQ(fromProject({.ranker = Ranker::Sections}), "300x600 ");
+    EXPECT_EQ(fromProject({.ranker = Ranker::Elevations}), "0.1500 ");
+    EXPECT_EQ(fromProject({.ranker = Ranker::Stirrups}), "A8@100(2) ");
+    EXPECT_EQ(fromProject({.barKind = "1"}), "2B25 ");
+}
+
 // What a ranker run on all texts lists, with its stamps.
 std::string ToldPlainly(const Project& project, const Question& question)
 {
