@@ -44,14 +44,15 @@ double AnchorageOf(char grade, int diameter, BeamKind kind, const Beam& beam)
 {
     constexpr double Plain = 0.16;
     constexpr double Ribbed = 0.14;
+    constexpr double Thick = 1.10;  // ribbed bars over 25 mm
     const double seismic = kind == BeamKind::Other  ? 1.0
                            : beam.seismicClass <= 2 ? 1.15
                            : beam.seismicClass == 3 ? 1.05
                                                     : 1.0;
     constexpr double Least = 200.0;
     const double steel = StrengthOfSteel[static_cast<std::size_t>(std::clamp(grade - 'A', 0, 3))];
-    const double anchorage =
-        (grade == 'A' ? Plain : Ribbed) * steel / TensileStrength(beam.concreteGrade) * diameter;
+    const double shape = grade == 'A' ? Plain : diameter > 25 ? Thick * Ribbed : Ribbed;
+    const double anchorage = shape * steel / TensileStrength(beam.concreteGrade) * diameter;
     return seismic * std::max(Least, anchorage);
 }
 

@@ -10,7 +10,8 @@ namespace Desk {
 // Of the spans; those of a beam that does not say are of one length, as many as its name says.
 [[nodiscard]] std::vector<double> SpanLengths(const Beam& beam);
 
-// Anchorage of a bar in the beam: GB 50010-2010 (2015), 8.3.1, and 11.1.7 for frame and coupling beams.
+// Anchorage of a bar in the beam: GB 50010-2010 (2015), 8.3.1 and 8.3.2, and 11.1.7 for frame and coupling
+// beams.
 [[nodiscard]] double AnchorageOf(char grade, int diameter, BeamKind kind, const Beam& beam);
 
 // Half way along a beam that tapers.

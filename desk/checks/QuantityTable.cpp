@@ -45,8 +45,9 @@ std::vector<Message> HowCounted()
         Phrase("Desk", "An estimate for calculation, not for bending: spans from axis to axis, supports "
                        "not taken off."),
         Phrase("Desk", "A beam without span lengths is divided evenly by the spans of its name."),
-        Phrase("Desk", "Anchorage as GB 50010-2010 (2015) 8.3.1 and 11.1.7; bottom bars of beams that are "
-                       "no frame or coupling beams 12 d, side bars 15 d."),
+        Phrase("Desk",
+               "Anchorage as GB 50010-2010 (2015) 8.3.1, 8.3.2 and 11.1.7; bottom bars of beams that are "
+               "no frame or coupling beams 12 d, side bars 15 d."),
         Phrase("Desk", "Bars over 9 m are lapped every 9 m, each lap 1.4 times the anchorage."),
         Phrase("Desk", "Bars at supports beside the through bars reach a third of the longer span, from "
                        "the second row on a quarter; cantilevers all along."),

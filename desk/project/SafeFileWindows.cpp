@@ -60,10 +60,12 @@ public:
     }
     OpenedFile(OpenedFile&& other) noexcept : m_handle(std::exchange(other.m_handle, Invalid())) {}
     OpenedFile& operator=(OpenedFile&&) = delete;
-    ~OpenedFile()
+    ~OpenedFile() { Close(); }
+
+    void Close()
     {
         if (IsOpen()) {
-            CloseHandle(m_handle);
+            CloseHandle(std::exchange(m_handle, Invalid()));
         }
     }
 
@@ -147,12 +149,15 @@ public:
     // All of it is on the disk.
     void Finish() { Check(FlushFileBuffers(m_file.Handle())); }
 
-    // An old file's owner, rights and attributes stay.
+    // An old file's owner, rights and attributes stay. The system replaces by a file that nobody has open,
+    // and Wine where the whole path is told.
     void TakePlace(bool hasOld)
     {
-        Check(hasOld ? ReplaceFileW(m_target.c_str(), m_name.c_str(), nullptr,
-                                    REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)
-                     : MoveFileExW(m_name.c_str(), m_target.c_str(), MOVEFILE_WRITE_THROUGH));
+        m_file.Close();
+        const fs::path place = fs::absolute(m_target);
+        Check(hasOld ? ReplaceFileW(place.c_str(), m_name.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
+                                    nullptr, nullptr)
+                     : MoveFileExW(m_name.c_str(), place.c_str(), MOVEFILE_WRITE_THROUGH));
         m_name.clear();
     }
 

@@ -728,8 +728,8 @@
         <translation>没有跨长的梁，按编号中的跨数均分。</translation>
     </message>
     <message>
-        <source>Anchorage as GB 50010-2010 (2015) 8.3.1 and 11.1.7; bottom bars of beams that are no frame or coupling beams 12 d, side bars 15 d.</source>
-        <translation>锚固长度按GB 50010-2010（2015年版）第8.3.1、11.1.7条；非框架梁、非连梁下部纵筋12d，侧面构造筋15d。</translation>
+        <source>Anchorage as GB 50010-2010 (2015) 8.3.1, 8.3.2 and 11.1.7; bottom bars of beams that are no frame or coupling beams 12 d, side bars 15 d.</source>
+        <translation>锚固长度按GB 50010-2010（2015年版）第8.3.1、8.3.2、11.1.7条；非框架梁、非连梁下部纵筋12d，侧面构造筋15d。</translation>
     </message>
     <message>
         <source>Bars over 9 m are lapped every 9 m, each lap 1.4 times the anchorage.</source>

@@ -82,10 +82,10 @@ TEST(Quantities, CountAFrameBeamOfTwoSpansWithTextsInPlace)
     // With texts in place nothing is taken for granted at the inner support, and through bars end where
     // others begin.
     ExpectLengths(QuantitiesOf(OneBeam(beam + R"j(, "inPlace": [
-                      {"role": "topSpan", "span": 2, "text": "2B25"}, {"role": "bottom", "span": 2, "text": "2B22"},
+                      {"role": "topSpan", "span": 2, "text": "2B28"}, {"role": "bottom", "span": 2, "text": "2B22"},
                       {"role": "topSupport", "support": 1, "text": "2B20+2B18"}])j")),
                   {{"Top bars B20", 2 * (6.0 + 2 * laE) + 3 * (2.0 + laE)},
-                   {"Top bars B25", 2 * (6.0 + 2 * 1.25 * laE)},
+                   {"Top bars B28", 2 * (6.0 + 2 * 1.1 * 1.4 * laE)},
                    {"Top bars B18", 2 * (2.0 + 0.9 * laE)},
                    {"Bottom bars B20", bottom / 2},
                    {"Bottom bars B22", 2 * (6.0 + 2 * 1.1 * laE)},

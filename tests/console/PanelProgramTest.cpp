@@ -6,7 +6,7 @@
 
 namespace {
 
-struct Case {
+struct PanelCase {
     const char* words;
     std::vector<const char*> parts;  // in this order
 };
@@ -22,7 +22,7 @@ void ExpectParts(const std::string& text, const std::vector<const char*>& parts)
 
 TEST(PanelProgram, DeliversWhatWasComposed)
 {
-    const Case cases[] = {
+    const PanelCase cases[] = {
         {"name --do 'type 1316 L; type 1643 3; clear 1643; type 1643 12; type 1654 2; right'",
          {"message box: 跨数有误", "-> item: SetValue \"L12(2)\"", "(hidden, as before)"}},
         {"name --to parent --quiet --text 'KL3(2A)' --do 'double 1062 0; right 5,5'",
@@ -47,7 +47,7 @@ TEST(PanelProgram, DeliversWhatWasComposed)
         {"vbars --quiet --do 'click 1306 B; click 1307 28; right'", {"SetValue \"B28\""}},
         {"bars --kind -1 --do 'drag 30 -4; drag 1 1 1347'", {"(at 30,-4)", "(at 31,-3)"}},
     };
-    for (const Case& one : cases) {
+    for (const PanelCase& one : cases) {
         SCOPED_TRACE(one.words);
         const Answer answer = RunShell(std::string("beamdesk panel ") + one.words);
         EXPECT_EQ(answer.status, 0);
@@ -57,7 +57,7 @@ TEST(PanelProgram, DeliversWhatWasComposed)
 
 TEST(PanelProgram, RefusesWrongUseWithStatusTwo)
 {
-    const Case cases[] = {
+    const PanelCase cases[] = {
         {"panel", {"name, section, elevation, stirrup, bars"}},
         {"panel name --to host", {"item or parent is required, not \"host\""}},
         {"panel bars --kind 9", {"-1 to 8"}},
@@ -80,7 +80,7 @@ TEST(PanelProgram, RefusesWrongUseWithStatusTwo)
         {"panel name --do 'click 146,5'", {"outside the panel, which is 146,164 pixels"}},
         {"events section --do 'double'", {"the control or position is missing"}},
     };
-    for (const Case& one : cases) {
+    for (const PanelCase& one : cases) {
         SCOPED_TRACE(one.words);
         const Answer answer = RunShell(std::string("beamdesk ") + one.words);
         EXPECT_EQ(answer.status, 2);

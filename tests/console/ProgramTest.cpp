@@ -134,7 +134,7 @@ TEST(Program, GivesProgramsJson)
     for (int i = 0; i < 30; ++i) {
         Desk::Beam& beam = project.beams[static_cast<std::size_t>(i)];
         beam.name = "梁KL" + std::to_string(i + 1);
-        beam.topBars = i < 2 ? "2B25" : "2B2" + std::to_string(i);
+        beam.topBars = i < 3 ? "2B25" : std::to_string(i) + "B20";
     }
     Desk::SaveProject(project, folder / "p.json");
     const Result result =
