@@ -38,17 +38,6 @@ std::map<std::pair<char, int>, int> Kinds(const Bars& bars)
     return kinds;
 }
 
-// Clear distance that bars of a row must have between them. In the third row from the bottom and those
-// above it the distance from centre to centre is twice that of the two rows below.
-double ClearOf(Field field, int thickest, std::size_t rowFromBottom)
-{
-    if (field != Field::BottomBars) {
-        return std::max(30.0, 1.5 * thickest);
-    }
-    const double clear = std::max(25, thickest);
-    return rowFromBottom < 2 ? clear : 2.0 * (clear + thickest) - thickest;
-}
-
 void CheckRow(const std::vector<int>& row, double inner, double clear, Field field, const Tell& tell)
 {
     const double gaps = static_cast<double>(row.size()) - 1.0;
@@ -85,14 +74,14 @@ void CheckSteelArea(const Station& at, const Tell& tell)
     }
 }
 
-// GB 50010-2010 (2015), 9.2.1: top bars 30 mm and 1.5 d apart, bottom bars 25 mm and d, d that of the
-// thickest bar; row by row. Erection bars lie in the first row of the through bars.
+// GB 50010-2010 (2015), 9.2.1: the clear distance, d that of the thickest bar; row by row. Erection bars
+// lie in the first row of the through bars.
 void CheckBarSpacing(const Station& at, const Tell& tell)
 {
     if (!at.section || at.section->width == 0) {
         return;
     }
-    const int inner = InnerWidth(*at.section, at.stirrup, at.beam.concreteGrade);
+    const int inner = InnerWidth(at.section->width, at.stirrup, at.beam.concreteGrade);
     for (const Field field : BarsWithArea) {
         if (!at.Looks(field) || !at.BarsOf(field)) {
             continue;
@@ -109,7 +98,8 @@ void CheckBarSpacing(const Station& at, const Tell& tell)
             thickest = std::max(thickest, row.empty() ? 0 : *std::max_element(row.begin(), row.end()));
         }
         for (std::size_t i = 0; i < rows.size(); ++i) {
-            CheckRow(rows[i], inner, ClearOf(field, thickest, rows.size() - 1 - i), field, tell);
+            CheckRow(rows[i], inner,
+                     ClearDistance(field == Field::BottomBars, thickest, rows.size() - 1 - i), field, tell);
         }
     }
 }

@@ -98,12 +98,6 @@ BeamKind KindOf(const std::string& name)
     return plain == "LL" ? BeamKind::Coupling : BeamKind::Other;
 }
 
-int InnerWidth(const Section& section, const std::optional<Stirrup>& stirrup, int concreteGrade)
-{
-    constexpr int Usual = 8;
-    return section.width - 2 * (CoverOf(concreteGrade) + (stirrup ? stirrup->diameter : Usual));
-}
-
 Station SpanOf(const Beam& beam, int span)
 {
     Station station = OwnStation(beam, KindOf(beam.name));

@@ -20,14 +20,6 @@ namespace Desk {
 enum class BeamKind { Frame, Coupling, Other };
 [[nodiscard]] BeamKind KindOf(const std::string& name);
 
-// Thickness of the concrete over a beam's stirrups in mm: GB 50010-2010 (2015), table 8.2.1, environment
-// class 1. What a beam's surroundings are a project does not know.
-[[nodiscard]] constexpr int CoverOf(int concreteGrade) { return concreteGrade <= 25 ? 25 : 20; }
-
-// Inside the stirrups, in mm; without a stirrup that can be read one of 8 mm is taken.
-[[nodiscard]] int InnerWidth(const Section& section, const std::optional<Stirrup>& stirrup,
-                             int concreteGrade);
-
 struct Station {
     static constexpr std::size_t Fields = 11;  // of a beam
 

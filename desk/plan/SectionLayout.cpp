@@ -11,8 +11,7 @@ namespace Desk {
 
 namespace {
 
-constexpr double Cover = 25.0;     // mm, as is usual for beams indoors
-constexpr double ClearGap = 25.0;  // mm, least clear distance of bars and rows
+constexpr double ClearGap = 25.0;  // mm, between rows
 constexpr int DefaultStirrup = 8;  // mm, where the text gives none
 
 // Puts texts of one beam into its layout.
@@ -28,7 +27,8 @@ public:
             return m_layout;
         }
         m_layout.size = *size;
-        m_layout.cover = std::min(Cover, std::min(size->width, size->height) / 6.0);
+        m_layout.cover =
+            std::min<double>(CoverOf(m_beam.concreteGrade), std::min(size->width, size->height) / 6.0);
         AddStirrup();
         const double top = AddRows(TopBars(), true);
         const double bottom = AddRows(Read(m_beam.bottomBars, Field::BottomBars), false);
@@ -118,22 +118,26 @@ private:
         if (!fromTop) {
             std::reverse(rows.begin(), rows.end());
         }
+        int thickestOfAll = 0;
+        for (const std::vector<int>& row : rows) {
+            thickestOfAll = std::max(thickestOfAll, *std::max_element(row.begin(), row.end()));
+        }
+        std::size_t fromFace = 0;
         for (const std::vector<int>& row : rows) {
             const int thickest = *std::max_element(row.begin(), row.end());
-            AddRow(row, left, right,
+            AddRow(row, left, right, ClearDistance(!fromTop, thickestOfAll, fromFace++),
                    fromTop ? depth + thickest / 2.0 : m_layout.size.height - depth - thickest / 2.0);
             depth += thickest + ClearGap;
         }
         return fromTop ? depth : m_layout.size.height - depth;
     }
 
-    void AddRow(const std::vector<int>& row, double left, double right, double y)
+    void AddRow(const std::vector<int>& row, double left, double right, double clear, double y)
     {
         const int steel = std::accumulate(row.begin(), row.end(), 0);
         const auto gaps = static_cast<double>(row.size() - 1);
         const double gap = gaps > 0 ? (right - left - steel) / gaps : 0.0;
-        const int thickest = *std::max_element(row.begin(), row.end());
-        if ((gaps > 0 && gap < std::max<double>(ClearGap, thickest)) || steel > right - left) {
+        if ((gaps > 0 && gap < clear) || steel > right - left) {
             AddFault(Fault::TooWide, m_rowsField);
         }
         double x = row.size() == 1 ? (left + right - steel) / 2.0 : left;

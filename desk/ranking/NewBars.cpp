@@ -14,23 +14,12 @@ namespace Desk {
 
 namespace {
 
-// Concrete cover of the stirrups of beams indoors, and the stirrups that most beams have; mm.
-constexpr int Cover = 25;
-constexpr int UsualStirrup = 8;
 constexpr int DiameterStep = 5;  // two diameters of a text are no further apart, mm
 constexpr int MostBars = 16;
 
-// Clear distance between the bars of a row, mm; more in the upper face, where the concrete is poured.
-int ClearDistance(int diameter, bool isBottom)
+bool HasRoom(const BarNeed& need, const BarRow& row, int thickest, std::size_t rowFromBottom = 0)
 {
-    return isBottom ? std::max(25, diameter) : std::max(30, (3 * diameter + 1) / 2);
-}
-
-bool HasRoom(const BarNeed& need, const BarRow& row)
-{
-    return 2 * (Cover + need.stirrup) + row.sum +
-               (row.count - 1) * ClearDistance(row.thickest, need.isBottom) <=
-           need.width;
+    return row.sum + (row.count - 1) * ClearDistance(need.isBottom, thickest, rowFromBottom) <= need.width;
 }
 
 int SteelOf(const Bars& bars) { return static_cast<int>(std::lround(std::min(bars.Area(), 1e9))); }
@@ -72,7 +61,7 @@ Bars BarsOf(const Choice& choice, char grade, bool isBottom)
 void AddAlike(const BarNeed& need, int corners, int diameter, std::vector<Choice>& choices)
 {
     int inARow = 0;
-    while (inARow < MostBars && HasRoom(need, {inARow + 1, (inARow + 1) * diameter, diameter})) {
+    while (inARow < MostBars && HasRoom(need, {inARow + 1, (inARow + 1) * diameter}, diameter)) {
         ++inARow;
     }
     for (int count = corners; count <= std::min(MostBars, 2 * inARow); ++count) {
@@ -95,9 +84,8 @@ BarNeed BarNeedOf(const Project& project, const FieldRef& ref)
     }
     const Question question = QuestionFor(project, ref, false);
     need.steel = std::max(0, question.area.value_or(0));
-    need.width = question.width.value_or(0);
-    const std::optional<Stirrup> stirrup = ReadStirrup(beam.stirrup);
-    need.stirrup = stirrup ? stirrup->diameter : UsualStirrup;
+    need.width =
+        question.width ? InnerWidth(*question.width, ReadStirrup(beam.stirrup), beam.concreteGrade) : 0;
     need.isBottom = field == Field::BottomBars;
     if (const std::optional<Bars> through = ReadBars(beam.topBars);
         row.isOnThroughBars && through && !through->IsEmpty()) {
@@ -119,12 +107,13 @@ BarFacts BarFactsOf(const std::string& text)
     for (const std::vector<BarTerm>& layer : bars->layers) {
         for (const BarTerm& term : layer) {
             facts.diameters.push_back(term.diameter);
+            facts.thickest = std::max(facts.thickest, term.diameter);
         }
     }
     for (const std::vector<int>& row : bars->RowsFromTop()) {
         BarRow& to = facts.rows.emplace_back();
         for (const int diameter : row) {
-            to = {to.count + 1, to.sum + diameter, std::max(to.thickest, diameter)};
+            to = {to.count + 1, to.sum + diameter};
         }
     }
     return facts;
@@ -132,9 +121,15 @@ BarFacts BarFactsOf(const std::string& text)
 
 bool Suits(const BarNeed& need, const BarFacts& bars)
 {
-    return bars.steel >= need.steel &&
-           (need.width <= 0 || std::all_of(bars.rows.begin(), bars.rows.end(),
-                                           [&need](const BarRow& row) { return HasRoom(need, row); }));
+    if (bars.steel < need.steel) {
+        return false;
+    }
+    for (std::size_t i = 0; need.width > 0 && i < bars.rows.size(); ++i) {
+        if (!HasRoom(need, bars.rows[i], bars.thickest, bars.rows.size() - 1 - i)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 std::vector<NewBars> ComposeBars(const BarNeed& need, char grade, const std::vector<int>& diameters,
@@ -156,8 +151,8 @@ std::vector<NewBars> ComposeBars(const BarNeed& need, char grade, const std::vec
             const bool isNext = std::abs(corner - other) <= DiameterStep &&
                                 (other < corner || (other > corner && need.cornerDiameter > 0));
             for (int others = 1; isNext && corners + others <= MostBars; ++others) {
-                if (!HasRoom(need, {corners + others, corners * corner + others * other,
-                                    std::max(corner, other)})) {
+                if (!HasRoom(need, {corners + others, corners * corner + others * other},
+                             std::max(corner, other))) {
                     break;
                 }
                 choices.push_back({corners, corner, others, other, 0});

@@ -11,9 +11,8 @@ namespace Desk {
 
 // What bars have to be at one place of a beam.
 struct BarNeed {
-    int steel = 0;    // required, mm²; 0 for not known
-    int width = 0;    // of the beam, mm; 0 for not known
-    int stirrup = 0;  // diameter, mm
+    int steel = 0;  // required, mm²; 0 for not known
+    int width = 0;  // inside the stirrups, mm; 0 for not known
     bool isBottom = false;
     // End bars lie on the through bars: so many of this diameter are at the corners; 0 for others.
     int cornerDiameter = 0;
@@ -24,14 +23,14 @@ struct BarNeed {
 
 struct BarRow {
     int count = 0;
-    int sum = 0;       // of the diameters, mm
-    int thickest = 0;  // mm
+    int sum = 0;  // of the diameters, mm
 };
 
 // What steel and room need to know of a text.
 struct BarFacts {
     int steel = 0;  // mm²; 0 for a text that is no bars
     char grade = '\0';
+    int thickest = 0;  // mm
     std::vector<int> diameters;
     std::vector<BarRow> rows;  // from the top
 };

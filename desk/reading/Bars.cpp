@@ -274,4 +274,13 @@ std::vector<std::string> BarPieces(std::string_view text)
     return pieces;
 }
 
+double ClearDistance(bool isBottom, int thickest, std::size_t rowFromBottom)
+{
+    if (!isBottom) {
+        return std::max(30.0, 1.5 * thickest);
+    }
+    const double clear = std::max(25, thickest);
+    return rowFromBottom < 2 ? clear : 2.0 * (clear + thickest) - thickest;
+}
+
 }  // namespace Desk

@@ -45,6 +45,11 @@ struct Bars {
 // writes it. Of "2B25;4B25" the part before the semicolon. Nothing for rows that do not add up.
 [[nodiscard]] std::optional<Bars> ReadBars(std::string_view text);
 
+// Clear distance in mm that the bars of a row must have between them: GB 50010-2010 (2015), 9.2.1. At the
+// top 30 mm and 1.5 d, where the concrete is poured, at the bottom 25 mm and d; in the third row from the
+// bottom and those above it the distance from centre to centre is twice that of the two rows below.
+[[nodiscard]] double ClearDistance(bool isBottom, int thickest, std::size_t rowFromBottom);
+
 // The texts that "+" joins, of any text; "+(2B12+2B14)," is two.
 [[nodiscard]] std::vector<std::string> BarPieces(std::string_view text);
 

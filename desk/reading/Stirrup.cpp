@@ -104,4 +104,10 @@ std::optional<Stirrup> ReadStirrup(Cursor& at)
 
 std::optional<Stirrup> ReadStirrup(std::string_view text) { return ReadWhole<Stirrup>(text, ReadStirrup); }
 
+int InnerWidth(int width, const std::optional<Stirrup>& stirrup, int concreteGrade)
+{
+    constexpr int Usual = 8;
+    return width - 2 * (CoverOf(concreteGrade) + (stirrup ? stirrup->diameter : Usual));
+}
+
 }  // namespace Desk

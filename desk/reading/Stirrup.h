@@ -30,4 +30,11 @@ struct Stirrup {
 // A whole text.
 [[nodiscard]] std::optional<Stirrup> ReadStirrup(std::string_view text);
 
+// Thickness of the concrete over a beam's stirrups in mm: GB 50010-2010 (2015), table 8.2.1, environment
+// class 1. What a beam's surroundings are a project does not know.
+[[nodiscard]] constexpr int CoverOf(int concreteGrade) { return concreteGrade <= 25 ? 25 : 20; }
+
+// Inside the stirrups of a beam so wide, in mm; without a stirrup that can be read one of 8 mm is taken.
+[[nodiscard]] int InnerWidth(int width, const std::optional<Stirrup>& stirrup, int concreteGrade);
+
 }  // namespace Desk
