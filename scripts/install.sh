@@ -1,7 +1,7 @@
 # Sourced by run and test: installs Debian packages that are missing, and only those.
 
 # What the build for Windows and its tests take; ./test leaves them out where one of these is missing.
-for_windows=(g++-mingw-w64-x86-64-posix googletest wine64 zip unzip)
+for_windows=(g++-mingw-w64-x86-64-posix googletest wine64 xvfb xauth zip unzip)
 
 # is_installed PACKAGE
 is_installed() {

@@ -1,100 +1,17 @@
-// Panels with an item that notes what it gets, and a user's hand on the toolkit's widgets.
+// A user's hand on the toolkit's widgets.
 #pragma once
 
-#include <memory>
-#include <sstream>
-#include <string>
-#include <vector>
+#include <map>
 
 #include <gtest/gtest.h>
 
 #include <QtTest/QtTest>
 
 #include "desk/project/Encoding.h"
-#include "desk/shell/Panel.h"
 #include "desk/shell/PopUp.h"
 #include "desk/shell/QtDisplay.h"
 #include "platform/windows/Hands.h"
-
-#include "RankerModule.h"
-
-struct NotedItem : CPropertyGridItem {
-    void SetValue(CString strValue) override { taken.emplace_back(strValue.View()); }
-    std::vector<std::string> taken;
-};
-
-// All seven pop-ups, by their templates.
-enum class Shown : UINT {
-    Name = CBeamNameDlg::IDD,
-    Section = CBeamSecDlg::IDD,
-    Elevation = CBeamLevelDlg::IDD,
-    Stirrup = CBeamGujinDlg::IDD,
-    Bars = CBeamSteelDlg::IDD,
-    Horizontal = CHBarPropertySheet::IDD,
-    Vertical = CVBarPropertySheet::IDD
-};
-inline constexpr Shown AllShown[] = {Shown::Name, Shown::Section,    Shown::Elevation, Shown::Stirrup,
-                                     Shown::Bars, Shown::Horizontal, Shown::Vertical};
-
-class Stage {
-public:
-    explicit Stage(Shown kind)
-        : made(Desk::MakePanel(static_cast<UINT>(kind), {Desk::Receiver::Route::Item, &item, nullptr}))
-    {
-        item.SetHWnd(this);
-        panel = &made->Window();
-        made->Create(nullptr);
-        Desk::PanelUse use;
-        use.barKind = 0;
-        if (kind == Shown::Section) {
-            use.text = "300x600";
-        }
-        made->Open(use);
-        Rebind();
-    }
-
-    // A confirmed picker lets go of its item.
-    void Rebind()
-    {
-        if (made->Held().bound) {
-            made->Open({});
-        }
-        CRect rect;
-        panel->GetWindowRect(&rect);
-        panel->MoveWindow(100, 100, rect.Width(), rect.Height());
-        panel->ShowWindow(SW_SHOW);
-    }
-
-    void Destroy()
-    {
-        panel = nullptr;
-        made.reset();
-    }
-
-    // Everything that a person sees, and what went out.
-    [[nodiscard]] std::string State() const
-    {
-        std::ostringstream state;
-        state << (panel->IsWindowVisible() ? "shown" : "hidden");
-        const CWnd* const focus = CWnd::GetFocus();
-        for (const HWND child : FindWindowRecord(panel->m_hWnd)->children) {
-            const WindowRecord& control = *FindWindowRecord(child);
-            state << ' ' << control.id << (focus != nullptr && focus->m_hWnd == child ? "*" : "") << '='
-                  << control.text.View() << ':' << control.list.selection << '/' << control.list.rows.size()
-                  << '@' << control.list.top;
-        }
-        const CRect& place = FindWindowRecord(panel->m_hWnd)->place;
-        state << " at " << place.left << ',' << place.top << " gave";
-        for (const std::string& text : item.taken) {
-            state << ' ' << text;
-        }
-        return state.str();
-    }
-
-    NotedItem item;
-    std::unique_ptr<Desk::Panel> made;
-    CDialog* panel = nullptr;
-};
+#include "tests/support/Stage.h"
 
 // Hands on the widgets: places are pixels of the window layer, as those of Hands.
 class QtHands {
