@@ -26,6 +26,16 @@ install(TARGETS platform griditem bartext RankerModule ranker_c EXPORT RankerMod
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT module NAMELINK_COMPONENT module
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT module
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT module)
+if(TARGET RankerWin32)
+  target_include_directories(RankerWin32 PUBLIC $<INSTALL_INTERFACE:${headers_dir}>)
+  install(TARGETS RankerWin32 EXPORT RankerModule
+          ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT module
+          RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT module)
+  install(FILES win32/Export.h win32/Win32Display.h DESTINATION ${headers_dir}/win32 COMPONENT module)
+endif()
+if(TARGET windows_host)
+  install(TARGETS windows_host RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT module)
+endif()
 install(FILES RankerModule.h DESTINATION ${headers_dir} COMPONENT module)
 foreach(room platform griditem bartext host tables rankers panels pickers geometry)
   install(DIRECTORY ${room} DESTINATION ${headers_dir} COMPONENT module FILES_MATCHING PATTERN "*.h"
