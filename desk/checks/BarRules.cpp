@@ -1,10 +1,10 @@
 // Rules of longitudinal bars.
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <map>
 #include <numeric>
 #include <utility>
+#include <vector>
 
 #include "desk/checks/Rules.h"
 
@@ -19,19 +19,15 @@ std::string Mm(double number) { return std::to_string(std::lround(number)); }
 
 bool IsEnd(Field field) { return field == Field::LeftEnd || field == Field::RightEnd; }
 
-struct Counted {
-    int count = 0;
-    int thinnest = std::numeric_limits<int>::max();
-};
-
-Counted CountOf(const Bars& bars)
+// Of each bar, the thickest first.
+std::vector<int> Diameters(const Bars& bars)
 {
-    Counted counted;
+    std::vector<int> diameters;
     ForEachTerm(bars, [&](const BarTerm& term) {
-        counted.count += term.count;
-        counted.thinnest = std::min(counted.thinnest, term.diameter);
+        diameters.insert(diameters.end(), static_cast<std::size_t>(term.count), term.diameter);
     });
-    return counted;
+    std::sort(diameters.rbegin(), diameters.rend());
+    return diameters;
 }
 
 // How many bars there are of each grade and diameter.
@@ -155,12 +151,12 @@ void CheckThroughBars(const Station& at, const Tell& tell)
         if (!at.Looks(field) || !at.BarsOf(field)) {
             continue;
         }
-        const Counted counted = CountOf(*at.BarsOf(field));
-        if (counted.count < 2) {
+        const std::vector<int> diameters = Diameters(*at.BarsOf(field));
+        if (diameters.size() < 2) {
             tell(field, Phrase("Desk", "only one; a frame beam has two at least"));
-        } else if (counted.thinnest < thinnest) {
+        } else if (diameters[1] < thinnest) {  // more bars than two may be thinner
             tell(field, {Phrase("Desk", "%1 mm thick, %2 mm at least in seismic class %3"),
-                         std::to_string(counted.thinnest), std::to_string(thinnest),
+                         std::to_string(diameters[1]), std::to_string(thinnest),
                          std::to_string(at.beam.seismicClass)});
         }
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <span>
 #include <tuple>
 #include <utility>
 
@@ -109,13 +110,19 @@ std::vector<Problem> CheckWall(const Project& project, std::size_t wall)
     return found.Done();
 }
 
+using NameRule = void (*)(const Project&, const std::vector<NameParts>&, const TellAt&);
+constexpr std::pair<Which, NameRule> NameRules[] = {
+    {Which::NameTwice, CheckNamesTwice},  // of the beams of one name alone
+    {Which::NameGap, CheckNameGaps},
+};
+
 // Not gathered: a beam is told once by each of them.
-std::vector<Problem> CheckNames(const Project& project, const std::vector<NameParts>& names)
+std::vector<Problem> CheckNames(const Project& project, const std::vector<NameParts>& names,
+                                std::span<const std::pair<Which, NameRule>> nameRules = NameRules)
 {
     const Gathering rules(project);
     std::vector<Problem> problems;
-    for (const auto& [which, check] :
-         {std::pair(Which::NameTwice, &CheckNamesTwice), std::pair(Which::NameGap, &CheckNameGaps)}) {
+    for (const auto& [which, check] : nameRules) {
         if (rules.IsOn(which)) {
             check(project, names, [&, which = which](const FieldRef& at, Message message) {
                 problems.push_back({at, &Table()[static_cast<std::size_t>(which)], TextAt(project, at),
@@ -165,26 +172,52 @@ std::vector<Problem> CheckBeam(const Project& project, std::size_t beam)
 std::vector<Problem> CheckProject(const Project& project) { return Checks(project).All(); }
 
 struct Checks::Kept {
+    explicit Kept(const Project& of) : project(of) {}
+
     const Project& project;
     std::vector<std::vector<Problem>> beams;
     std::vector<std::vector<Problem>> walls;
     NameReader reader;
     std::vector<NameParts> names;
+    std::vector<Problem> ofNames;
     std::vector<Problem> all;
 
-    void Look(const FieldRef& owner)
+    // Answers whether a beam has another name than before.
+    bool Look(const FieldRef& owner)
     {
         if (owner.isWall) {
             walls.at(owner.index) = CheckWall(project, owner.index);
-            return;
+            return false;
         }
         beams.at(owner.index) = CheckBeam(project, owner.index);
-        names.at(owner.index) = reader.Read(project.beams[owner.index]);
+        const NameParts now = reader.Read(project.beams[owner.index]);
+        return std::exchange(names.at(owner.index), now) != now;
+    }
+
+    // Texts of a beam have changed, not its name.
+    void LookAtThoseNamedAs(std::size_t beam)
+    {
+        const NameParts& name = names[beam];
+        if (!name.isRead) {
+            return;
+        }
+        const Rule* const twice = &Table()[static_cast<std::size_t>(Which::NameTwice)];
+        std::erase_if(ofNames, [&](const Problem& problem) {
+            return problem.rule == twice && names[problem.at.index].Number() == name.Number();
+        });
+        std::vector<NameParts> alike(names.size());
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            if (names[i].isRead && names[i].Number() == name.Number()) {
+                alike[i] = names[i];
+            }
+        }
+        const std::vector<Problem> found = CheckNames(project, alike, std::span(NameRules).first<1>());
+        ofNames.insert(ofNames.end(), found.begin(), found.end());
     }
 
     void Gather()
     {
-        all = CheckNames(project, names);
+        all = ofNames;
         for (const auto* const owners : {&beams, &walls}) {
             for (const std::vector<Problem>& problems : *owners) {
                 all.insert(all.end(), problems.begin(), problems.end());
@@ -196,19 +229,27 @@ struct Checks::Kept {
     }
 };
 
-Checks::Checks(const Project& project) : m_kept(std::make_unique<Kept>(Kept{project, {}, {}, {}, {}, {}}))
-{
-    Renew();
-}
+Checks::Checks(const Project& project) : m_kept(std::make_unique<Kept>(project)) { Renew(); }
 
 Checks::~Checks() = default;
 
 void Checks::Update(const std::vector<FieldRef>& owners)
 {
+    constexpr std::size_t MostOneByOne = 16;  // for more, all names are looked at once
     std::set<std::pair<bool, std::size_t>> looked;
+    bool isNamed = false;
     for (const FieldRef& owner : owners) {
         if (looked.emplace(owner.isWall, owner.index).second) {
-            m_kept->Look(owner);
+            isNamed = m_kept->Look(owner) || isNamed;
+        }
+    }
+    if (isNamed || looked.size() > MostOneByOne) {
+        m_kept->ofNames = CheckNames(m_kept->project, m_kept->names);
+    } else {
+        for (const auto& [isWall, index] : looked) {
+            if (!isWall) {
+                m_kept->LookAtThoseNamedAs(index);
+            }
         }
     }
     m_kept->Gather();
@@ -225,6 +266,7 @@ void Checks::Renew()
     for (std::size_t i = 0; i < m_kept->walls.size(); ++i) {
         m_kept->Look({true, i});
     }
+    m_kept->ofNames = CheckNames(m_kept->project, m_kept->names);
     m_kept->Gather();
 }
 

@@ -39,8 +39,8 @@ struct Problem {
 // All problems in the order of the beams, each one's in the order of its annotations, then the walls'.
 [[nodiscard]] std::vector<Problem> CheckProject(const Project& project);
 
-// The same for a project that is being worked on, which it borrows: a change costs the beam and a look over
-// the names.
+// The same for a project that is being worked on, which it borrows: a change costs the beam and those of
+// its name, another name a look over all names.
 class Checks {
 public:
     explicit Checks(const Project& project);

@@ -48,9 +48,11 @@ double AnchorageOf(char grade, int diameter, BeamKind kind, const Beam& beam)
                            : beam.seismicClass <= 2 ? 1.15
                            : beam.seismicClass == 3 ? 1.05
                                                     : 1.0;
+    constexpr double Least = 200.0;
     const double steel = StrengthOfSteel[static_cast<std::size_t>(std::clamp(grade - 'A', 0, 3))];
-    return seismic * (grade == 'A' ? Plain : Ribbed) * steel / TensileStrength(beam.concreteGrade) *
-           diameter;
+    const double anchorage =
+        (grade == 'A' ? Plain : Ribbed) * steel / TensileStrength(beam.concreteGrade) * diameter;
+    return seismic * std::max(Least, anchorage);
 }
 
 double MeanHeight(const Section& section)

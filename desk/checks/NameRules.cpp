@@ -61,16 +61,15 @@ NameParts NameReader::Read(const Beam& beam)
     const auto number = [this](const std::string& text) {
         return m_numbers.emplace(text, static_cast<int>(m_numbers.size())).first->second;
     };
-    return {number(beam.floor), beam.plan, number(read->type), read->serial, read->letter, true};
+    return {number(beam.floor), beam.plan, number(read->type), read->serial,
+            read->letter,       true,      number(beam.name)};
 }
 
 // One name on one floor is one kind of beam: rule of practice. On a drawing with several floors side by
 // side each plan is a floor.
 void CheckNamesTwice(const Project& project, const std::vector<NameParts>& names, const TellAt& tell)
 {
-    const auto sorted = Sorted<5>(names, [](const NameParts& name) {
-        return std::array{name.floor, name.plan, name.type, name.serial, static_cast<int>(name.letter)};
-    });
+    const auto sorted = Sorted<5>(names, [](const NameParts& name) { return name.Number(); });
     std::size_t first = 0;
     for (std::size_t i = 1; i < sorted.size(); ++i) {
         if (sorted[i].first != sorted[first].first) {

@@ -2,6 +2,7 @@
 // at all beams.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <map>
 #include <string>
@@ -39,13 +40,18 @@ struct NameParts {
     int serial = 0;
     char letter = '\0';
     bool isRead = false;
+    int text = 0;
+
+    bool operator==(const NameParts&) const = default;
+    // Equal for beams that are one kind of beam by their names.
+    [[nodiscard]] std::array<int, 5> Number() const { return {floor, plan, type, serial, letter}; }
 };
 class NameReader {
 public:
     [[nodiscard]] NameParts Read(const Beam& beam);
 
 private:
-    std::map<std::string, int> m_numbers;  // of floors and types
+    std::map<std::string, int> m_numbers;  // of floors, types and names
 };
 void CheckNamesTwice(const Project& project, const std::vector<NameParts>& names, const TellAt& tell);
 void CheckNameGaps(const Project& project, const std::vector<NameParts>& names, const TellAt& tell);

@@ -14,7 +14,7 @@ using Counts = std::array<std::size_t, 4>;
 
 std::size_t Index(Outcome outcome) { return static_cast<std::size_t>(outcome); }
 
-constexpr std::size_t Width = 14;  // of the column of names
+constexpr std::size_t NamesWidth = 14;  // of the column of names
 
 std::string Padded(std::string_view text, std::size_t width)
 {
@@ -64,13 +64,13 @@ public:
     void PrintKinds() const
     {
         m_out << "\n"
-              << "  " << Padded("kind given", Width)
+              << "  " << Padded("kind given", NamesWidth)
               << "  texts   read  in part  no annotation  not read\n";
         for (const Kind kind : AllKinds) {
             const Counts counts = Count([kind](const ImportedText& text) { return text.kind == kind; });
             const std::size_t sum = counts[0] + counts[1] + counts[2] + counts[3];
             if (sum > 0) {
-                m_out << "  " << Padded(KindWord(kind), Width) << Right(sum, 7) << Right(counts[0], 7)
+                m_out << "  " << Padded(KindWord(kind), NamesWidth) << Right(sum, 7) << Right(counts[0], 7)
                       << Right(counts[1], 9) << Right(counts[2], 15) << Right(counts[3], 10) << "\n";
             }
         }
@@ -86,7 +86,7 @@ public:
         }
         m_out << "\n  annotations read as\n";
         for (const auto& [field, count] : counts) {
-            m_out << "  " << Padded(PlainFieldName(field), Width) << Right(count, 7) << "\n";
+            m_out << "  " << Padded(PlainFieldName(field), NamesWidth) << Right(count, 7) << "\n";
         }
     }
 

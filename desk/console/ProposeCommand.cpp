@@ -85,8 +85,7 @@ std::vector<Line> LinesFor(const std::vector<BeamProposal>& proposals, Json& lis
 void RunPropose(const ProposeOptions& options, std::ostream& out)
 {
     const FieldRow* const row = options.field.empty() ? nullptr : &RequireRow(options.field);
-    const Opened opened =
-        options.project.empty() ? Opened{SampleProject(), std::nullopt} : OpenFile(options.project);
+    const Opened opened = OpenInput(options.project);
     const Project& project = opened.project;
     const std::size_t beam = BeamNamed(project, options.beam);
     const std::string& name = project.beams[beam].name;

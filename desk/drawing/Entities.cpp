@@ -25,9 +25,12 @@ std::string Upper(std::string_view text)
     return upper;
 }
 
-class Reader {
+class EntityReader {
 public:
-    Reader(std::string bytes, const std::string& name) : m_name(name) { m_file.bytes = std::move(bytes); }
+    EntityReader(std::string bytes, const std::string& name) : m_name(name)
+    {
+        m_file.bytes = std::move(bytes);
+    }
 
     DxfFile Read()
     {
@@ -199,11 +202,11 @@ private:
             }
             break;
         case EntityType::SeqEnd:
-            if (m_polyline) {
+            if (m_polyline && m_polyline->whole60 == 0) {
                 AddChain(PolylinePoints(m_polyline->vertices, (m_polyline->whole70 & 1) != 0),
                          m_polyline->layer, m_polyline->extrusion < 0);
-                m_polyline.reset();
             }
+            m_polyline.reset();
             break;
         case EntityType::Circle:
             AddChain(ArcPoints(e.at, e.number40, 0.0, 360.0), e.layer, e.extrusion < 0);
@@ -370,7 +373,7 @@ private:
 
 DxfFile ReadEntities(std::string bytes, const std::string& name)
 {
-    return Reader(std::move(bytes), name).Read();
+    return EntityReader(std::move(bytes), name).Read();
 }
 
 std::string ValueOf(const DxfFile& file, const TextEntity& text)

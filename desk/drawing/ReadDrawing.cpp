@@ -35,9 +35,9 @@ TextPlace PlaceOf(const TextLine& line, const Annotation& annotation)
     return place;
 }
 
-class Reader {
+class DrawingReader {
 public:
-    Reader(std::string bytes, const std::string& name, std::string_view companion)
+    DrawingReader(std::string bytes, const std::string& name, std::string_view companion)
         : m_parts(std::make_unique<Drawing::Parts>())
     {
         if (!companion.empty()) {
@@ -338,7 +338,7 @@ std::vector<InPlace> InPlaceOf(const Drawing::Parts& parts, std::size_t text, co
 std::unique_ptr<Drawing::Parts> ReadParts(std::string bytes, const std::string& name,
                                           std::string_view companion)
 {
-    return Reader(std::move(bytes), name, companion).Read();
+    return DrawingReader(std::move(bytes), name, companion).Read();
 }
 
 }  // namespace Desk

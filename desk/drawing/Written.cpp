@@ -373,8 +373,8 @@ private:
 
     void AddBeside(const OwnerBeam& owner, const TextLine& like, const InPlace& text)
     {
-        constexpr double FromEdge = 150.0;     // mm
-        constexpr double FromSupport = 100.0;  // mm
+        constexpr double FromEdge = 150.0;         // mm
+        constexpr double AwayFromSupport = 100.0;  // mm
         const double unit = m_parts.file.unitScale;
         const double height = like.place.height;
         const double length = 0.75 * height * static_cast<double>(text.text.size());
@@ -382,9 +382,9 @@ private:
         const bool isSupport = text.role == Role::TopSupport;
         const int number = std::clamp(text.number, 1, isSupport ? last : last - 1);
         const double at = owner.supports[static_cast<std::size_t>(number - 1)];
-        double u = at + FromSupport * unit;
+        double u = at + AwayFromSupport * unit;
         if (isSupport && number == last) {
-            u = at - FromSupport * unit - length;
+            u = at - AwayFromSupport * unit - length;
         } else if (!isSupport) {
             u = (at + owner.supports[static_cast<std::size_t>(number)] - length) / 2.0;
         }

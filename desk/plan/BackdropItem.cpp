@@ -11,7 +11,7 @@ constexpr double LeastLength = 0.4;     // pixels of a line that is drawn
 constexpr double TextStep = 5.0 / 3.0;  // text heights from line to line of a longer text
 
 // Also of a level or upright line, which other rectangles have to meet.
-QRectF Around(const QLineF& line)
+QRectF RectAround(const QLineF& line)
 {
     return QRectF(line.p1(), line.p2()).normalized().adjusted(-1, -1, 1, 1);
 }
@@ -63,7 +63,7 @@ void BackdropItem::Tiles(std::size_t first, std::size_t last)
     if (last - first <= MostInTile) {
         std::sort(begin, end, [](const QLineF& a, const QLineF& b) { return SquareOf(a) > SquareOf(b); });
         Tile tile{{}, first, last};
-        std::for_each(begin, end, [&](const QLineF& line) { tile.bounds |= Around(line); });
+        std::for_each(begin, end, [&](const QLineF& line) { tile.bounds |= RectAround(line); });
         m_tiles.push_back(tile);
         return;
     }

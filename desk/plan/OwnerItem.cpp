@@ -25,14 +25,14 @@ OwnerItem::OwnerItem(const Project& project, bool isWall, std::size_t index)
     SetBlock(BlockPositions().front());
 }
 
-QRectF OwnerItem::boundingRect() const
+void OwnerItem::Measure()
 {
     const double reach = m_isDrawn ? m_body.width : LeaderReach;
-    QRectF all = Body().adjusted(0, -reach, 0, reach);
+    m_bounds = Body().adjusted(0, -reach, 0, reach);
     for (const Label& label : LabelsAsTheyAre()) {
-        all |= label.Outline().boundingRect();
+        m_bounds |= label.Outline().boundingRect();
     }
-    return all.adjusted(-FieldLeader, 0, 0, 0);
+    m_bounds.adjust(-FieldLeader, 0, 0, 0);
 }
 
 void OwnerItem::Take(const Project& project)
@@ -66,6 +66,7 @@ void OwnerItem::Take(const Project& project)
             m_fixed.push_back(std::move(label));
         }
     }
+    Measure();
     update();
 }
 
@@ -112,6 +113,7 @@ void OwnerItem::SetBlock(const QPointF& corner)
 {
     prepareGeometryChange();
     m_corner = corner;
+    Measure();
 }
 
 std::vector<Label> OwnerItem::LabelsAsTheyAre() const

@@ -19,7 +19,7 @@ public:
     OwnerItem(const Project& project, bool isWall, std::size_t index);
 
     [[nodiscard]] int type() const override { return Type; }
-    [[nodiscard]] QRectF boundingRect() const override;
+    [[nodiscard]] QRectF boundingRect() const override { return m_bounds; }
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
     // The texts have changed, or where the beam is; the block's position at the beam stays.
@@ -78,6 +78,8 @@ public:
 private:
     void TakeDragged(const PlanPoint& at);
     void Lie(const PlanPoint& start, const PlanPoint& end);
+    // After each change of what it draws, or where.
+    void Measure();
     [[nodiscard]] bool IsChosen() const { return m_lit || !m_together.empty(); }
     [[nodiscard]] std::vector<Label> LabelsAsTheyAre() const;
     void PaintBody(QPainter& painter) const;
@@ -86,6 +88,7 @@ private:
     bool m_isDrawn = false;  // its outline and its leader are among the drawing's own lines
     std::size_t m_index;
     BeamBody m_body;
+    QRectF m_bounds;                   // asked for several times at each redraw
     QPointF m_corner;                  // of the block
     std::optional<QPointF> m_dragged;  // the same
     std::vector<Label> m_block;

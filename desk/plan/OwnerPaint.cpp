@@ -31,6 +31,11 @@ void OwnerItem::SetHovered(const std::optional<FieldRef>& ref)
 void OwnerItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/, QWidget* /*widget*/)
 {
     PaintBody(*painter);
+    const auto isSmall = [this](const Label& label) { return IsSmall(label); };
+    if (std::all_of(m_block.begin(), m_block.end(), isSmall) &&
+        std::all_of(m_fixed.begin(), m_fixed.end(), isSmall)) {
+        return;  // a floor seen whole, where this is most of the work
+    }
     for (const Label& label : LabelsAsTheyAre()) {
         if (!IsSmall(label)) {
             PaintLeader(*painter, label);

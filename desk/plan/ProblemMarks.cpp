@@ -40,8 +40,11 @@ void DrawSign(QPainter& painter, const QPolygonF& box, double least, const PlanC
 
 void FloorView::SetProblems(std::vector<FieldRef> refs)
 {
+    const bool showsSigns = !m_problems.empty() || !refs.empty();
     m_problems = std::move(refs);
-    viewport()->update();
+    if (showsSigns) {
+        viewport()->update();  // a sign lies beside its text, which may be another now
+    }
 }
 
 void FloorView::drawForeground(QPainter* painter, const QRectF& exposed)

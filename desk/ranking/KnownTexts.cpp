@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <tuple>
 
 #include "desk/reading/Bars.h"
 #include "desk/reading/Section.h"
@@ -77,7 +78,7 @@ void KnownTexts::Set(std::size_t at)
         const Field pool = PoolField(field);
         const int text = m_pools[At(pool)].Number(beam.*RowOf(field).ofBeam);
         texts[At(pool)].push_back(text);
-        m_columns[At(field)][at] = text;
+        m_columns[At(field)][at] = m_pools[At(pool)].IsReadable(text) ? text : 0;
     }
     SetInPlace(at, texts);
     for (const Field field : BeamFields()) {
@@ -91,14 +92,15 @@ void KnownTexts::Set(std::size_t at)
     for (const Field field : SetFields) {
         m_hasSet[at] |= m_columns[At(field)][at] != 0 ? 1 : 0;
     }
-    traits.section = m_columns[At(Field::Section)][at];
+    const auto own = [&](Field field) { return m_pools[At(field)].Of(static_cast<int>(at)).front(); };
+    traits.section = own(Field::Section);
     traits.hasSection = traits.section != 0;
     if (const std::optional<Section> section = ReadSection(beam.section)) {
         traits.width = section->width;
         traits.height = section->height;
     }
-    traits.stirrup = m_columns[At(Field::Stirrup)][at];
-    traits.topBars = m_columns[At(Field::TopBars)][at];
+    traits.stirrup = own(Field::Stirrup);
+    traits.topBars = own(Field::TopBars);
     PlaceOnPlan(beam, traits);
     m_names.Set(at, beam, traits);
     m_likeness.Set(at, traits);
@@ -117,10 +119,13 @@ void KnownTexts::SetInPlace(std::size_t at, std::array<std::vector<int>, Fields>
         const Field field = FieldAt(beam, inPlace);
         const int text = m_pools[At(PoolField(field))].Number(inPlace.text);
         texts[At(PoolField(field))].push_back(text);
+        if (text == 0 || !PoolOf(field).IsReadable(text)) {
+            continue;
+        }
         if (IsAtEnd(inPlace, field)) {
             int& own = m_columns[At(field)][at];
             own = own == 0 ? text : own;
-        } else if (text != 0) {
+        } else {
             const Slot slot = {inPlace.role, inPlace.number};
             SlotTexts& entries = m_slots[slot];
             entries.insert(std::lower_bound(entries.begin(), entries.end(), std::pair(number + 1, 0)),
@@ -219,10 +224,13 @@ Votes KnownTexts::VotesFor(const FieldRef& ref, int end) const
         const auto same = std::find_if(votes.texts.begin(), votes.texts.end(),
                                        [text](const VotedText& each) { return each.text == text; });
         votes.all += worth;
-        if (same != votes.texts.end()) {
-            same->votes += worth;
-        } else {
-            votes.texts.push_back({text, worth, by, voter, pool.UseOf(text, uses)});
+        if (same == votes.texts.end()) {
+            votes.texts.push_back({text, worth, by, voter, points, pool.UseOf(text, uses)});
+            return;
+        }
+        same->votes += worth;
+        if (points > same->points) {
+            std::tie(same->first, same->beam, same->points) = std::tuple(by, voter, points);
         }
     };
     std::vector<Voter> voters;
@@ -235,7 +243,7 @@ Votes KnownTexts::VotesFor(const FieldRef& ref, int end) const
         vote(voter.text, voter.points, VoteOf::BeamAlike, voter.beam);
     }
     VoteByOwn(ref, [&](int text, int points, VoteOf by) {
-        if (text != 0) {
+        if (text != 0 && pool.IsReadable(text)) {
             vote(text, points, by, beam);
         }
     });
@@ -259,9 +267,9 @@ std::vector<VotedSet> KnownTexts::SetVotesFor(int beam, int end) const
         VotedSet set = {{}, std::int64_t{1} << voter.points, voter.beam};
         for (std::size_t i = 0; i < SetFields.size(); ++i) {
             const std::vector<int>& column = m_columns[At(SetFields[i])];
-            set.texts[i] = column[static_cast<std::size_t>(beam)] == 0
-                               ? column[static_cast<std::size_t>(voter.beam)]
-                               : 0;
+            const std::string& own =
+                m_project.beams[static_cast<std::size_t>(beam)].*RowOf(SetFields[i]).ofBeam;
+            set.texts[i] = own.empty() ? column[static_cast<std::size_t>(voter.beam)] : 0;
         }
         const auto same = std::find_if(sets.begin(), sets.end(),
                                        [&set](const VotedSet& each) { return each.texts == set.texts; });

@@ -1,4 +1,5 @@
-// A project's annotations in numbers, parsed once: who votes for which text.
+// A project's annotations in numbers, parsed once: who votes for which text. Texts that cannot be read have
+// no votes.
 #pragma once
 
 #include <array>
@@ -23,6 +24,7 @@ struct VotedText {
     std::int64_t votes = 0;
     VoteOf first = VoteOf::BeamAlike;  // the strongest of its voters
     int beam = 0;                      // that one, where it is a beam alike
+    int points = 0;                    // of that one
     TextUse use;
 };
 
@@ -72,7 +74,8 @@ private:
 
     const Project& m_project;
     std::vector<TextPool> m_pools;  // by field; both ends have one
-    // The text of each beam by field; of the end bars those in place where the beam has no others.
+    // The text of each beam by field, 0 for one that cannot be read; of the end bars those in place where
+    // the beam has no others.
     std::array<std::vector<int>, Fields> m_columns;
     std::vector<int> m_hasSet;          // 1 for beams with a text of SetFields
     std::map<Slot, SlotTexts> m_slots;  // texts in place that no column has

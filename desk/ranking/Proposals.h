@@ -49,7 +49,7 @@ public:
     void Update(std::size_t beam);
 
     // The best texts for an annotation of a beam, which must exist, at most so many; what it holds now does
-    // not count. Empty for a wall's.
+    // not count, nor does a text that cannot be read. Empty for a wall's.
     [[nodiscard]] std::vector<Proposal> For(const FieldRef& ref, std::size_t most,
                                             Known known = Known::All) const;
     // The place in the whole order, from 1, of the text that the annotation holds now; 0 for one that is

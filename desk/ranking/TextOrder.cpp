@@ -34,7 +34,7 @@ void TextOrder::Compose()
     for (const VotedText& each : m_votes.texts) {
         learn(each.text);
     }
-    m_pool.Walk(true, m_uses, [&](int text) {
+    m_pool.Walk(m_uses, [&](int text) {
         if (!IsVoted(text)) {
             learn(text);
             m_byUse.push_back(text);
@@ -63,23 +63,17 @@ std::size_t TextOrder::PlaceOf(const std::string& wanted) const
         WalkBySteel(visit);
     } else {
         for (const VotedText& each : m_votes.texts) {
-            if (m_pool.IsReadable(each.text) && !visit(Ordered{each.text, &each, nullptr})) {
+            if (!visit(Ordered{each.text, &each, nullptr})) {
                 break;
             }
         }
     }
-    if (isFound || UsesOf(text) == 0) {
-        return isFound ? place : 0;
-    }
-    if (!m_pool.IsReadable(text)) {
-        place = 0;
-        Walk(visit);
+    if (isFound || UsesOf(text) == 0 || !m_pool.IsReadable(text)) {
         return isFound ? place : 0;
     }
     const TextUse use = m_pool.UseOf(text, m_uses);
     const auto isBefore = [&](int other) {
-        return other != 0 && m_pool.IsReadable(other) &&
-               m_pool.IsBefore(other, m_pool.UseOf(other, m_uses), text, use);
+        return other != 0 && m_pool.IsBefore(other, m_pool.UseOf(other, m_uses), text, use);
     };
     const auto count = [&](int other) { place -= isBefore(other) ? 1U : 0U; };
     for (const VotedText& each : m_votes.texts) {

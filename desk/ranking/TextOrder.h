@@ -1,5 +1,5 @@
-// The whole order of the texts for one annotation: those with votes, then by use. Where the steel is known,
-// what gives it comes first, composed texts among it.
+// The whole order of the texts for one annotation, none that cannot be read: those with votes, then by use.
+// Where the steel is known, what gives it comes first, composed texts among it.
 #pragma once
 
 #include <algorithm>
@@ -65,8 +65,8 @@ bool TextOrder::WalkBySteel(Visit visit) const
 {
     const auto voted = [&](bool suits, bool isClose) {
         for (const VotedText& each : m_votes.texts) {
-            if (m_pool.IsReadable(each.text) && Suits(m_need, m_pool.FactsOf(each.text)) == suits &&
-                (!suits || IsClose(each) == isClose) && !visit(Ordered{each.text, &each, nullptr})) {
+            if (Suits(m_need, m_pool.FactsOf(each.text)) == suits && (!suits || IsClose(each) == isClose) &&
+                !visit(Ordered{each.text, &each, nullptr})) {
                 return false;
             }
         }
@@ -105,19 +105,14 @@ void TextOrder::Walk(Visit visit) const
         return IsVoted(text) || std::find(m_byUse.begin(), m_byUse.end(), text) != m_byUse.end() ||
                std::find(m_composedTexts.begin(), m_composedTexts.end(), text) != m_composedTexts.end();
     };
-    for (const bool readable : {true, false}) {
+    if (m_need.steel <= 0) {
         for (const VotedText& each : m_votes.texts) {
-            if (m_pool.IsReadable(each.text) == readable && !(readable && m_need.steel > 0) &&
-                !visit(Ordered{each.text, &each, nullptr})) {
+            if (!visit(Ordered{each.text, &each, nullptr})) {
                 return;
             }
         }
-        if (!m_pool.Walk(readable, m_uses, [&](int text) {
-                return isTold(text) || visit(Ordered{text, nullptr, nullptr});
-            })) {
-            return;
-        }
     }
+    m_pool.Walk(m_uses, [&](int text) { return isTold(text) || visit(Ordered{text, nullptr, nullptr}); });
 }
 
 }  // namespace Desk

@@ -69,11 +69,10 @@ bool TextPool::IsBefore(int a, const TextUse& useOfA, int b, const TextUse& useO
 
 void TextPool::Place(Order& order, int text, int end) const
 {
-    std::vector<int>& texts = order.texts[IsReadable(text) ? 1 : 0];
     const TextUse use = Before(text, end);
-    if (use.uses > 0) {
-        texts.insert(
-            std::partition_point(texts.begin(), texts.end(),
+    if (use.uses > 0 && IsReadable(text)) {
+        order.texts.insert(
+            std::partition_point(order.texts.begin(), order.texts.end(),
                                  [&](int other) { return IsBefore(text, use, other, Before(other, end)); }),
             text);
     }
@@ -81,7 +80,7 @@ void TextPool::Place(Order& order, int text, int end) const
 
 void TextPool::TakeOut(Order& order, int text, int end) const
 {
-    std::vector<int>& texts = order.texts[IsReadable(text) ? 1 : 0];
+    std::vector<int>& texts = order.texts;
     const TextUse use = Before(text, end);
     const auto at = std::partition_point(texts.begin(), texts.end(), [&](int other) {
         return IsBefore(text, use, other, Before(other, end));
@@ -128,14 +127,12 @@ const TextPool::Order& TextPool::OrderAt(int end) const
         if (m_all.end != end) {
             m_all = {end, {}};
             for (int text = 1; text < static_cast<int>(m_texts.size()); ++text) {
-                if (Before(text, end).uses > 0) {
-                    m_all.texts[IsReadable(text) ? 1 : 0].push_back(text);
+                if (IsReadable(text) && Before(text, end).uses > 0) {
+                    m_all.texts.push_back(text);
                 }
             }
-            for (std::vector<int>& texts : m_all.texts) {
-                std::sort(texts.begin(), texts.end(),
-                          [&](int a, int b) { return IsBefore(b, Before(b, end), a, Before(a, end)); });
-            }
+            std::sort(m_all.texts.begin(), m_all.texts.end(),
+                      [&](int a, int b) { return IsBefore(b, Before(b, end), a, Before(a, end)); });
         }
         return m_all;
     }
@@ -180,13 +177,13 @@ std::vector<int> TextPool::Apart(const UsesKnown& known) const
 std::size_t TextPool::CountBefore(int text, const UsesKnown& known) const
 {
     const TextUse use = UseOf(text, known);
-    const std::vector<int>& texts = OrderAt(known.end).texts[IsReadable(text) ? 1 : 0];
+    const std::vector<int>& texts = OrderAt(known.end).texts;
     const auto at = std::partition_point(texts.begin(), texts.end(), [&](int other) {
         return !IsBefore(other, Before(other, known.end), text, use);
     });
     auto count = static_cast<std::size_t>(texts.end() - at);
     for (const int other : Apart(known)) {
-        if (other == text || IsReadable(other) != IsReadable(text)) {
+        if (other == text || !IsReadable(other)) {
             continue;
         }
         const TextUse counted = Before(other, known.end);

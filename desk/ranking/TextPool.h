@@ -1,7 +1,6 @@
 // The texts of annotations that are the same kind of thing, as small numbers, in the order of their use.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <deque>
 #include <string>
@@ -29,7 +28,7 @@ struct UsesKnown {
 
 class TextPool {
 public:
-    // Texts that are no annotation of the pool's kind come after all others. Of bars it keeps the facts.
+    // Texts that are no annotation of the pool's kind are in no order. Of bars it keeps the facts.
     explicit TextPool(bool (*isReadable)(const std::string&) = nullptr, bool isOfBars = false)
         : m_isReadable(isReadable), m_isOfBars(isOfBars)
     {
@@ -64,10 +63,10 @@ public:
     [[nodiscard]] TextUse UseOf(int text, const UsesKnown& known) const;
     // Used more often, then entered last, then by text.
     [[nodiscard]] bool IsBefore(int a, const TextUse& useOfA, int b, const TextUse& useOfB) const;
-    // Calls visit(text) for the readable or the other texts with a use, in order, until it answers false.
+    // Calls visit(text) for the readable texts with a use, in order, until it answers false.
     template <class Visit>
-    bool Walk(bool readable, const UsesKnown& known, Visit visit) const;
-    // How many texts Walk visits before this one, which has a use.
+    bool Walk(const UsesKnown& known, Visit visit) const;
+    // How many texts Walk visits before this one, which it visits too.
     [[nodiscard]] std::size_t CountBefore(int text, const UsesKnown& known) const;
 
 private:
@@ -77,10 +76,11 @@ private:
         BarFacts facts;
         std::vector<int> beams;  // that have it, one entry a use, in order
     };
-    // Texts with a use at the beams before an end, in reverse order: a new use moves its text but little.
+    // Readable texts with a use at the beams before an end, in reverse order: a new use moves its text but
+    // little.
     struct Order {
         int end = -1;
-        std::array<std::vector<int>, 2> texts;  // others, readable
+        std::vector<int> texts;
     };
 
     [[nodiscard]] TextUse Before(int text, int end) const;
@@ -100,9 +100,9 @@ private:
 };
 
 template <class Visit>
-bool TextPool::Walk(bool readable, const UsesKnown& known, Visit visit) const
+bool TextPool::Walk(const UsesKnown& known, Visit visit) const
 {
-    const std::vector<int>& all = OrderAt(known.end).texts[readable ? 1 : 0];
+    const std::vector<int>& all = OrderAt(known.end).texts;
     std::vector<int> apart = Apart(known);
     auto next = apart.begin();
     const auto isApart = [&apart](int text) {
@@ -115,7 +115,7 @@ bool TextPool::Walk(bool readable, const UsesKnown& known, Visit visit) const
     };
     const auto visitApart = [&](auto isDue) {
         for (; next != apart.end() && isDue(*next); ++next) {
-            if (IsReadable(*next) == readable && UseOf(*next, known).uses > 0 && !visit(*next)) {
+            if (IsReadable(*next) && UseOf(*next, known).uses > 0 && !visit(*next)) {
                 return false;
             }
         }

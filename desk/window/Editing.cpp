@@ -147,21 +147,20 @@ void Editing::Copy(const PlanPoint& by)
     const std::vector<FieldRef> owners = Owners();
     Project with = m_document.Get();  // so that each copy has a name of its own
     Edits edits;
+    const auto add = [&](auto copy, std::string name, auto& all, auto& added) {
+        copy.name = std::move(name);
+        copy.inFile = nullptr;
+        Shift(copy, by);
+        all.push_back(copy);
+        added.push_back(std::move(copy));
+    };
     for (const FieldRef& owner : owners) {
         if (owner.isWall) {
-            Wall wall = with.walls[owner.index];
-            wall.name = NextWallName(with, wall.name);
-            wall.inFile = nullptr;
-            Shift(wall, by);
-            with.walls.push_back(wall);
-            edits.walls.added.push_back(std::move(wall));
+            const Wall& wall = with.walls[owner.index];
+            add(wall, NextWallName(with, wall.name), with.walls, edits.walls.added);
         } else {
-            Beam beam = with.beams[owner.index];
-            beam.name = NextBeamName(with, beam.name);
-            beam.inFile = nullptr;
-            Shift(beam, by);
-            with.beams.push_back(beam);
-            edits.beams.added.push_back(std::move(beam));
+            const Beam& beam = with.beams[owner.index];
+            add(beam, NextBeamName(with, beam.name), with.beams, edits.beams.added);
         }
     }
     const std::optional<FieldRef> chosen = m_selection.Chosen();

@@ -2,25 +2,18 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <sstream>
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include "desk/console/Commands.h"
 #include "desk/project/Failure.h"
+#include "tests/console/Shell.h"
 
 namespace Desk {
 namespace {
 
-std::string Hitrate(const std::string& line)
-{
-    std::ostringstream out;
-    CLI::App program;
-    AddHitrateCommand(program, out);
-    program.parse("hitrate " + line);
-    return out.str();
-}
+std::string Hitrate(const std::string& line) { return PrintedBy(AddHitrateCommand, "hitrate " + line); }
 
 TEST(HitrateCommand, TellsTheSameOfTheSampleInBothForms)
 {

@@ -1,8 +1,6 @@
 // beamdesk propose as a person and as a program call it.
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
@@ -11,19 +9,13 @@
 #include "desk/project/Failure.h"
 #include "desk/project/ProjectFile.h"
 #include "desk/project/SafeFile.h"
+#include "tests/console/Shell.h"
 #include "tests/support/Folder.h"
 
 namespace Desk {
 namespace {
 
-std::string Propose(const std::string& line)
-{
-    std::ostringstream out;
-    CLI::App program;
-    AddProposeCommand(program, out);
-    program.parse("propose " + line);
-    return out.str();
-}
+std::string Propose(const std::string& line) { return PrintedBy(AddProposeCommand, "propose " + line); }
 
 TEST(ProposeCommand, TellsTheSameInBothForms)
 {
@@ -62,6 +54,10 @@ TEST(ProposeCommand, AWholeBeamGetsWhatItLacksInAProjectAndInADrawing)
         const std::string asked = "--project " + file + " --beam " + beam.name;
         const auto told = nlohmann::json::parse(Propose(asked + " --json"));
         ASSERT_FALSE(told["proposals"].empty()) << file;
+        const Answer piped =
+            RunShell("beamdesk propose --project - --json --beam '" + beam.name + "' < '" + file + "'");
+        ASSERT_EQ(piped.status, 0) << piped.out;
+        EXPECT_EQ(nlohmann::json::parse(piped.out)["proposals"], told["proposals"]);
         const auto& texts = told["proposals"][0]["texts"];
         ASSERT_TRUE(texts.contains("stirrup") && texts.contains("bottomBars")) << texts;
         EXPECT_FALSE(texts.contains("topBars")) << "it has them";

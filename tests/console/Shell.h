@@ -1,10 +1,15 @@
-// Shell commands run as a person types them, with the built programs on the path.
+// Commands run as a person types them: by the shell, with the built programs on the path, or in this
+// process.
 #pragma once
 
 #include <cstdio>
+#include <ostream>
+#include <sstream>
 #include <string>
 
 #include <sys/wait.h>
+
+#include <CLI/CLI.hpp>
 
 struct Answer {
     int status = -1;
@@ -26,4 +31,14 @@ inline Answer RunShell(const std::string& command)
     const int status = pclose(pipe);
     answer.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     return answer;
+}
+
+// What a command prints that is run in this process; what it throws goes on.
+inline std::string PrintedBy(void (*add)(CLI::App&, std::ostream&), const std::string& line)
+{
+    std::ostringstream out;
+    CLI::App program;
+    add(program, out);
+    program.parse(line);
+    return out.str();
 }

@@ -10,6 +10,7 @@
 #include "RankerModule.h"
 #include "desk/project/Encoding.h"
 #include "desk/ranking/Question.h"
+#include "tests/support/FakeHost.h"
 
 namespace Desk {
 
@@ -40,15 +41,7 @@ public:
             }
         });
     }
-    ~PlainHost()
-    {
-        SetBeamTypeFunc(nullptr);
-        SetBeamNumberFunc(nullptr);
-        SetBeamSectionFunc(nullptr);
-        SetBeamEleFunc(nullptr);
-        SetBeamGujinFunc(nullptr);
-        SetBeamSteelFunc(nullptr);
-    }
+    ~PlainHost() { EmptySlots(); }
     PlainHost(const PlainHost&) = delete;
     PlainHost& operator=(const PlainHost&) = delete;
 

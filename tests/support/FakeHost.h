@@ -7,6 +7,16 @@
 
 #include "tests/support/Texts.h"
 
+inline void EmptySlots()
+{
+    SetBeamTypeFunc(nullptr);
+    SetBeamNumberFunc(nullptr);
+    SetBeamSectionFunc(nullptr);
+    SetBeamEleFunc(nullptr);
+    SetBeamGujinFunc(nullptr);
+    SetBeamSteelFunc(nullptr);
+}
+
 // Registers its callbacks on construction and empties the slots afterwards. One at a time.
 class FakeHost {
 public:
@@ -39,12 +49,7 @@ public:
 
     ~FakeHost()
     {
-        SetBeamTypeFunc(nullptr);
-        SetBeamNumberFunc(nullptr);
-        SetBeamSectionFunc(nullptr);
-        SetBeamEleFunc(nullptr);
-        SetBeamGujinFunc(nullptr);
-        SetBeamSteelFunc(nullptr);
+        EmptySlots();
         s_host = nullptr;
     }
 

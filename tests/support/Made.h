@@ -5,22 +5,17 @@
 
 namespace Desk {
 
-inline Beam MadeBeam(const char* name, const PlanPoint& start, const PlanPoint& end)
+template <class Owner>
+Owner Made(const char* name, const PlanPoint& start, const PlanPoint& end)
 {
-    Beam beam;
-    beam.name = name;
-    beam.start = start;
-    beam.end = end;
-    return beam;
+    Owner owner;
+    owner.name = name;
+    owner.start = start;
+    owner.end = end;
+    return owner;
 }
 
-inline Wall MadeWall(const char* name, const PlanPoint& start, const PlanPoint& end)
-{
-    Wall wall;
-    wall.name = name;
-    wall.start = start;
-    wall.end = end;
-    return wall;
-}
+inline constexpr auto MadeBeam = &Made<Beam>;
+inline constexpr auto MadeWall = &Made<Wall>;
 
 }  // namespace Desk

@@ -153,7 +153,6 @@ struct Floor {
     [[nodiscard]] std::vector<std::string> Told() const
     {
         struct Text {
-            bool isReadable = false;
             std::int64_t votes = 0;
             int uses = 0;
             std::size_t last = 0;
@@ -161,8 +160,8 @@ struct Floor {
         std::map<std::string, Text> texts;
         const bool isEnd = field == Field::LeftEnd || field == Field::RightEnd;
         const auto use = [&](std::size_t at, const std::string& text) {
-            if (!text.empty()) {
-                texts[text].isReadable = ++texts[text].uses > 1 ? texts[text].isReadable : IsReadable(text);
+            if (!text.empty() && IsReadable(text)) {
+                ++texts[text].uses;
                 texts[text].last = std::max(texts[text].last, at);
             }
         };
@@ -175,7 +174,8 @@ struct Floor {
         const std::map<std::size_t, int> nearness = Nearness();
         std::vector<std::pair<int, std::size_t>> voters;
         for (std::size_t i = 0; i < project.beams.size(); ++i) {
-            if (IsKnown(i) && !TextOf(project.beams[i], field).empty()) {
+            const std::string& text = TextOf(project.beams[i], field);
+            if (IsKnown(i) && !text.empty() && IsReadable(text)) {
                 voters.emplace_back(Points(i, nearness), i);
             }
         }
@@ -189,15 +189,13 @@ struct Floor {
         for (const auto& [points, voter] : voters) {
             vote(TextOf(project.beams[voter], field), points);
         }
-        if (field == Field::RightEnd && !Asked().leftEnd.empty()) {
+        if (field == Field::RightEnd && !Asked().leftEnd.empty() && IsReadable(Asked().leftEnd)) {
             use(beam, Asked().leftEnd);
             vote(Asked().leftEnd, 16);
         }
         std::vector<std::pair<std::string, Text>> order(texts.begin(), texts.end());
         std::stable_sort(order.begin(), order.end(), [](const auto& a, const auto& b) {
-            const auto key = [](const Text& of) {
-                return std::tuple(of.isReadable, of.votes, of.uses, of.last);
-            };
+            const auto key = [](const Text& of) { return std::tuple(of.votes, of.uses, of.last); };
             return key(a.second) > key(b.second);
         });
         std::vector<std::string> told;
