@@ -1,11 +1,13 @@
 // FloorView: beams and walls that come and go, positions that a person points to, and handles.
 #include <algorithm>
+#include <cmath>
 #include <set>
 #include <utility>
 
 #include "desk/plan/FloorView.h"
 #include "desk/plan/PlaceBlocks.h"
 #include "desk/plan/Points.h"
+#include "desk/project/Making.h"
 
 namespace Desk {
 
@@ -24,6 +26,7 @@ void FloorView::Exchange(const Exchanged& exchanged)
     }
     m_hovered = nullptr;
     m_drag.reset();
+    m_textDrag.reset();
     if (exchanged.Renumbers()) {
         SetChosen(std::nullopt);
     }
@@ -171,6 +174,46 @@ void FloorView::DragHandle(const QPoint& inView)
         m_drag->to = CaughtAt({at.x(), -at.y()}, other);
         SetSketch({{other, m_drag->to}}, m_drag->to);
     }
+}
+
+void FloorView::DragText(const QPoint& inView)
+{
+    const OwnerItem* const item = ItemOf(m_textDrag->ref);
+    const QRectF box = item != nullptr ? item->DraggedBox(m_textDrag->ref) : QRectF();
+    const QPoint by = inView - m_textDrag->pressed;
+    m_textDrag->hasMoved =
+        m_textDrag->hasMoved || by.manhattanLength() >= QApplication::startDragDistance();
+    if (!m_textDrag->hasMoved || box.isEmpty()) {
+        return;
+    }
+    viewport()->setCursor(Qt::ClosedHandCursor);
+    const QPolygonF frame =
+        item->mapToScene(box).translated(mapToScene(inView) - mapToScene(m_textDrag->pressed));
+    std::vector<PlanLine> lines;
+    for (qsizetype i = 0; i + 1 < frame.size(); ++i) {
+        lines.push_back({{frame[i].x(), -frame[i].y()}, {frame[i + 1].x(), -frame[i + 1].y()}});
+    }
+    SetSketch(std::move(lines), std::nullopt);
+}
+
+void FloorView::DropText(const QPoint& inView)
+{
+    const TextDrag drag = *std::exchange(m_textDrag, std::nullopt);
+    SetSketch({}, std::nullopt);
+    const OwnerItem* const item = ItemOf(drag.ref);
+    if (!drag.hasMoved || item == nullptr) {
+        return;
+    }
+    const QPointF from = mapToScene(drag.pressed);
+    const QPointF to = mapToScene(inView);
+    const QPointF along = item->mapFromScene(to) - item->mapFromScene(from);
+    Beam beam = drag.ref.isWall ? Beam() : m_project->beams[drag.ref.index];
+    const PlanPoint& before = DraggedTo(beam, drag.ref);
+    const bool hasPosition = drag.ref.inPlace >= 0 &&
+                             beam.inPlace[static_cast<std::size_t>(drag.ref.inPlace)].place.height > 0.0;
+    const QPointF by = hasPosition ? to - from : along;
+    const QPointF start = &before == &beam.textsAt ? item->Block() : OnSheet(before);
+    emit TextDragged(drag.ref, {std::round(start.x() + by.x()), std::round(-start.y() - by.y())});
 }
 
 }  // namespace Desk

@@ -114,6 +114,8 @@ void FloorView::mousePressEvent(QMouseEvent* event)
     } else if (left && handle) {
         m_drag = Drag{*handle, inView, false, {}};
     } else if (left && (hit.mark || hit.item != nullptr)) {
+        const bool isHeld = hit.text && m_hasHandles[hit.text->isWall ? 1 : 0];
+        m_textDrag = isHeld ? std::optional(TextDrag{*hit.text, inView}) : std::nullopt;
         Pick(hit);
     } else {
         PanView::mousePressEvent(event);
@@ -128,6 +130,8 @@ void FloorView::mouseMoveEvent(QMouseEvent* event)
         m_frame->show();
     } else if (m_drag) {
         DragHandle(inView);
+    } else if (m_textDrag && event->buttons().testFlag(Qt::LeftButton)) {
+        DragText(inView);
     } else if (!MayPan()) {
         Hover(HitAt(inView));
         if (const QPointF at = mapToScene(inView); m_moved) {
@@ -139,8 +143,13 @@ void FloorView::mouseMoveEvent(QMouseEvent* event)
 
 void FloorView::mouseReleaseEvent(QMouseEvent* event)
 {
+    const QPoint inView = event->position().toPoint();
     if (m_frameFrom && event->button() == Qt::LeftButton) {
-        EndFrame(event->position().toPoint());
+        EndFrame(inView);
+        return;
+    }
+    if (m_textDrag && event->button() == Qt::LeftButton) {
+        DropText(inView);
         return;
     }
     if (!m_drag || event->button() != Qt::LeftButton) {

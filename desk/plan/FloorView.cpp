@@ -37,6 +37,8 @@ void FloorView::SetProject(const Project* project, const Backdrop* behind)
     m_small = nullptr;
     m_sketch = nullptr;
     m_drag.reset();
+    m_textDrag.reset();
+    m_stale.clear();
     m_frameFrom.reset();
     m_frame->hide();
     m_items.clear();
@@ -71,7 +73,7 @@ void FloorView::Refresh(const FieldRef& ref)
 {
     if (OwnerItem* const item = ItemOf(ref)) {
         item->Take(*m_project);
-        m_isStale = true;  // the text may have another length
+        m_stale.push_back(item);  // the text may have another length
     }
 }
 
@@ -138,7 +140,7 @@ void FloorView::SetLeastTextSize(double pixels)
 
 void FloorView::Scaled()
 {
-    m_isStale = false;
+    m_stale.clear();
     if (m_small != nullptr) {
         m_small->Choose(m_items, m_leastTextSize / transform().m11());
     }
@@ -222,8 +224,8 @@ OwnerItem* FloorView::ItemOf(const FieldRef& ref) const
 
 void FloorView::Settle()
 {
-    if (m_isStale) {
-        Scaled();
+    if (!m_stale.empty()) {
+        m_small->Renew(std::exchange(m_stale, {}));
     }
 }
 

@@ -60,7 +60,8 @@ public:
     // A position as what is near the pointer catches it.
     [[nodiscard]] PlanPoint CaughtAt(const PlanPoint& at,
                                      const std::optional<PlanPoint>& from = std::nullopt) const;
-    // Whether the chosen beam or wall has handles at its ends, by which they are dragged.
+    // Whether the chosen beam or wall has handles at its ends, by which they are dragged; texts are dragged
+    // then too.
     void SetHandles(bool ofBeams, bool ofWalls);
 
     // Where an annotation's text shows, in pixels of the screen; where it would be when it is empty.
@@ -87,6 +88,8 @@ signals:
     // well, by their names.
     void Framed(const std::vector<Desk::FieldRef>& owners);
     void MarkPicked(std::size_t mark);
+    // A text to a position as DraggedTo has it.
+    void TextDragged(const Desk::FieldRef& ref, const Desk::PlanPoint& to);
     void EndDragged(const Desk::FieldRef& owner, bool isStart, const Desk::PlanPoint& to);
 
 protected:
@@ -119,6 +122,9 @@ private:
     void ExchangeItems(const ExchangedIndices& exchanged, bool isWall);
     void ShowHandles();
     void DragHandle(const QPoint& inView);
+    // A text that the left button holds follows it, until it is let go.
+    void DragText(const QPoint& inView);
+    void DropText(const QPoint& inView);
     // Ends of the chosen beam or wall.
     [[nodiscard]] std::vector<PlanPoint> ChosenEnds() const;
 
@@ -130,6 +136,13 @@ private:
         QPoint pressed;
         bool hasMoved = false;
         PlanPoint to;
+    };
+
+    // A text likewise.
+    struct TextDrag {
+        FieldRef ref;
+        QPoint pressed;
+        bool hasMoved = false;
     };
 
     const Project* m_project = nullptr;
@@ -148,10 +161,11 @@ private:
     OwnerItem* m_hovered = nullptr;
     std::optional<FieldRef> m_hoveredText;
     double m_leastTextSize = 9.0;
-    bool m_isStale = false;  // which small texts have room
+    std::vector<OwnerItem*> m_stale;  // whose texts changed since it was found which small ones have room
     TakePoint m_pressed;
     TakePoint m_moved;
     std::optional<Drag> m_drag;
+    std::optional<TextDrag> m_textDrag;
     std::optional<QPoint> m_frameFrom;
     QRubberBand* m_frame;
     bool m_hasHandles[2] = {false, false};  // of beams, of walls

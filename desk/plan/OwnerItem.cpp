@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <utility>
 
 #include "desk/reading/Section.h"
 
@@ -14,7 +13,6 @@ namespace {
 constexpr double DefaultWidth = 250.0;  // mm, of a beam whose section cannot be read
 constexpr double BlockGap = 120.0;      // mm between a beam's edge and the block
 constexpr double LeaderReach = 260.0;   // mm that the leader goes beyond the beam's far edge
-constexpr double FieldLeader = 90.0;    // mm from the leader to the texts
 
 double DegreesOf(double dx, double dy) { return std::atan2(dy, dx) * 180.0 / std::numbers::pi; }
 
@@ -34,6 +32,7 @@ void OwnerItem::Measure()
     for (const Label& label : LabelsAsTheyAre()) {
         m_bounds |= label.Outline().boundingRect();
     }
+    m_bounds.adjust(-FieldLeader, 0, 0, 0);
 }
 
 void OwnerItem::Take(const Project& project)
@@ -46,12 +45,14 @@ void OwnerItem::Take(const Project& project)
     }
     if (m_isWall) {
         const Wall& wall = project.walls[m_index];
+        TakeDragged(wall.textsAt);
         m_body.width = wall.thickness > 0 ? wall.thickness : DefaultWidth;
         m_block = BlockOf(wall);
     } else {
         const Beam& beam = project.beams[m_index];
         const int width = WidthOf(beam.section);
         m_body.width = width > 0 ? width : DefaultWidth;
+        TakeDragged(beam.textsAt);
         m_isDrawn = !beam.places.empty();
         if (m_isDrawn) {  // in units of its own, perhaps
             m_body.width = std::min(m_body.width, 1.5 * HeightOf(beam));
@@ -67,6 +68,11 @@ void OwnerItem::Take(const Project& project)
     }
     Measure();
     update();
+}
+
+void OwnerItem::TakeDragged(const PlanPoint& at)
+{
+    m_dragged = at.x != 0.0 || at.y != 0.0 ? std::optional(QPointF(at.x, -at.y)) : std::nullopt;
 }
 
 void OwnerItem::Lie(const PlanPoint& start, const PlanPoint& end)
@@ -114,11 +120,11 @@ std::vector<Label> OwnerItem::LabelsAsTheyAre() const
 {
     std::vector<Label> all = m_fixed;
     all.reserve(m_fixed.size() + m_block.size());
-    const QPointF anchor =
-        m_corner.y() > 0.0 ? m_corner : m_corner + QPointF(0.0, SizeOf(m_block).height());
+    const QPointF corner = Block();
+    const QPointF anchor = corner.y() > 0.0 ? corner : corner + QPointF(0.0, SizeOf(m_block).height());
     for (const Label& label : m_block) {
         all.push_back(label);
-        all.back().box.translate(m_corner);
+        all.back().box.translate(corner);
         all.back().anchor = anchor;
     }
     return all;
@@ -181,6 +187,21 @@ QRectF OwnerItem::Body() const
     return {-m_body.length / 2.0, -m_body.width / 2.0, m_body.length, m_body.width};
 }
 
+QRectF OwnerItem::DraggedBox(const FieldRef& ref) const
+{
+    const std::vector<Label> labels = Labels();
+    const auto dragged = std::find_if(labels.begin(), labels.end(), [&](const Label& label) {
+        return RefOf(label) == ref && !label.text.isEmpty();
+    });
+    QRectF box;
+    for (auto each = labels.begin(); each != labels.end() && dragged != labels.end(); ++each) {
+        if (each == dragged || (dragged->IsInBlock() && each->IsInBlock() && !each->text.isEmpty())) {
+            box |= each->Outline().boundingRect();
+        }
+    }
+    return box;
+}
+
 std::vector<QRectF> OwnerItem::FixedBoxes() const
 {
     std::vector<QRectF> boxes;
@@ -190,112 +211,6 @@ std::vector<QRectF> OwnerItem::FixedBoxes() const
         }
     }
     return boxes;
-}
-
-void OwnerItem::SetLit(const std::optional<FieldRef>& ref)
-{
-    m_lit = ref;
-    setZValue(ref ? 1.0 : 0.0);
-    update();
-}
-
-void OwnerItem::SetTogether(std::vector<FieldRef> refs)
-{
-    if (refs != m_together) {
-        m_together = std::move(refs);
-        update();
-    }
-}
-
-void OwnerItem::SetHovered(const std::optional<FieldRef>& ref)
-{
-    m_hovered = ref;
-    update();
-}
-
-void OwnerItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/, QWidget* /*widget*/)
-{
-    PaintBody(*painter);
-    const auto isSmall = [this](const Label& label) { return IsSmall(label); };
-    if (std::all_of(m_block.begin(), m_block.end(), isSmall) &&
-        std::all_of(m_fixed.begin(), m_fixed.end(), isSmall)) {
-        return;  // a floor seen whole, where this is most of the work
-    }
-    for (const Label& label : LabelsAsTheyAre()) {
-        if (!IsSmall(label)) {
-            PaintLeader(*painter, label);
-            PaintText(*painter, label);
-        }
-    }
-}
-
-void OwnerItem::PaintBody(QPainter& painter) const
-{
-    const QRectF body = Body();
-    const QColor line = IsChosen() ? Colors().chosen : m_isWall ? Colors().wall : Colors().beam;
-    painter.setPen(LinePen(Colors(), line, m_lit ? 2.0 : 1.0));
-    if (m_isWall) {
-        painter.fillRect(body, line);
-        return;
-    }
-    if (m_isDrawn) {
-        if (IsChosen()) {
-            painter.drawLine(QPointF(body.left(), 0.0), QPointF(body.right(), 0.0));
-        }
-        return;
-    }
-    if (IsChosen()) {
-        QColor fill = Colors().chosen;
-        fill.setAlpha(60);
-        painter.fillRect(body, fill);
-    }
-    painter.drawLine(body.topLeft(), body.topRight());
-    painter.drawLine(body.bottomLeft(), body.bottomRight());
-    painter.drawLine(body.topLeft(), body.bottomLeft());
-    painter.drawLine(body.topRight(), body.bottomRight());
-}
-
-// At the left of the block, by lines that continue each other.
-void OwnerItem::PaintLeader(QPainter& painter, const Label& label) const
-{
-    const bool isInBlock =
-        !label.turn && label.inPlace < 0 && label.field != Field::LeftEnd && label.field != Field::RightEnd;
-    if (!isInBlock || label.text.isEmpty() || label.box.x() > label.anchor.x()) {
-        return;
-    }
-    painter.setPen(LinePen(Colors(), IsChosen() ? Colors().chosen : Colors().beam));
-    const double x = label.anchor.x() - FieldLeader * label.box.height() / TextHeight;
-    const bool isBelow = m_corner.y() > 0.0;
-    painter.drawLine(QPointF(x, 0.0), QPointF(x, isBelow ? label.box.bottom() : label.box.top()));
-}
-
-void OwnerItem::PaintText(QPainter& painter, const Label& label) const
-{
-    const FieldRef ref = RefOf(label);
-    if (m_lit == ref || std::count(m_together.begin(), m_together.end(), ref) != 0) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(Colors().chosenText);
-        painter.drawPolygon(label.Outline());
-    } else if (m_hovered == ref) {
-        painter.setPen(LinePen(Colors(), Colors().chosen));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawPolygon(label.Outline());
-    }
-    if (label.turn) {
-        painter.setPen(Colors().text);
-        DrawPlaced(painter, label.box.bottomLeft(), *label.turn, label.box.height(), label.text);
-        return;
-    }
-    const bool end = label.field == Field::LeftEnd || label.field == Field::RightEnd;
-    painter.setPen(end && !m_isDrawn ? Colors().endText : Colors().text);
-    painter.setFont(PlanFont());
-    const double unit = label.box.height() / TextHeight;
-    const QTransform before = painter.transform();
-    painter.translate(label.box.topLeft());
-    painter.scale(unit, unit);
-    painter.drawText(QRectF(0, -TextHeight, label.box.width() / unit + TextHeight, 3.0 * TextHeight),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, label.text);
-    painter.setTransform(before);
 }
 
 }  // namespace Desk

@@ -8,6 +8,8 @@
 
 namespace Desk {
 
+inline constexpr double FieldLeader = 90.0;  // mm from a block's leader to its texts
+
 // Local coordinates: mm, x along the beam in reading direction, 0 in its middle, y down the sheet.
 class OwnerItem : public PlanItem {
 public:
@@ -30,7 +32,9 @@ public:
     [[nodiscard]] std::vector<QPointF> BlockPositions(double away = 0.0) const;
     [[nodiscard]] QSizeF BlockSize() const { return SizeOf(m_block); }
     void SetBlock(const QPointF& corner);
-    [[nodiscard]] QPointF Block() const { return m_corner; }
+    [[nodiscard]] QPointF Block() const { return m_dragged.value_or(m_corner); }
+    // A person has dragged the block to where it is.
+    [[nodiscard]] bool IsDragged() const { return m_dragged.has_value(); }
 
     // Texts lower than this, in mm, are drawn so high where there is room, and not by this item.
     void SetLeastHeight(double height) { m_leastHeight = height; }
@@ -54,6 +58,9 @@ public:
     // Around an annotation's text, drawn or not.
     [[nodiscard]] QPolygonF BoxOf(const FieldRef& ref) const;
     [[nodiscard]] QRectF Body() const;
+    // Around the texts that are dragged with this one: its block's, or it alone. Empty for one that has no
+    // text.
+    [[nodiscard]] QRectF DraggedBox(const FieldRef& ref) const;
     // Rectangles of the texts that are not in the block.
     [[nodiscard]] std::vector<QRectF> FixedBoxes() const;
 
@@ -69,6 +76,7 @@ public:
     void SetHovered(const std::optional<FieldRef>& ref);
 
 private:
+    void TakeDragged(const PlanPoint& at);
     void Lie(const PlanPoint& start, const PlanPoint& end);
     // After each change of what it draws, or where.
     void Measure();
@@ -80,8 +88,9 @@ private:
     bool m_isDrawn = false;  // its outline and its leader are among the drawing's own lines
     std::size_t m_index;
     BeamBody m_body;
-    QRectF m_bounds;   // asked for several times at each redraw
-    QPointF m_corner;  // of the block
+    QRectF m_bounds;                   // asked for several times at each redraw
+    QPointF m_corner;                  // of the block
+    std::optional<QPointF> m_dragged;  // the same
     std::vector<Label> m_block;
     std::vector<Label> m_fixed;  // in local coordinates
     double m_leastHeight = 0.0;

@@ -302,7 +302,7 @@ std::vector<Label> TextsBeside(const Beam& beam, const BeamBody& body)
     std::map<std::pair<bool, double>, int> lines;  // how many texts there are already, by side and middle
     // A text at a support is on the beam's side of its first and last one.
     const auto add = [&](Field field, int inPlace, const std::string& text, bool above, double at,
-                         bool atSupport) {
+                         bool atSupport, const PlanPoint& by) {
         const QString drawn = QString::fromStdString(text);
         const double width = drawn.isEmpty() ? EmptyWidth * unit : TextWidth(drawn, height);
         const double middle = (body.isReversed ? -1.0 : 1.0) * (at - body.length / 2.0);
@@ -313,18 +313,21 @@ std::vector<Label> TextsBeside(const Beam& beam, const BeamBody& body)
             x = middle < 0.0 ? middle + inset : middle - inset - width;
             fixed = middle < 0.0 ? x : x + width;
         }
-        const int line = drawn.isEmpty() ? 0 : lines[{above, std::round(middle)}]++;
+        const bool isMoved = by.x != 0.0 || by.y != 0.0;
+        const int line = drawn.isEmpty() || isMoved ? 0 : lines[{above, std::round(middle)}]++;
         const double gap = TextGap * unit;
         const double edge = above ? -body.width / 2.0 - gap : body.width / 2.0 + gap;
         const double y = above ? edge - line * LineStep * unit - height : edge + line * LineStep * unit;
-        labels.push_back(
-            {field, drawn, QRectF(x, y, width, height), inPlace, std::nullopt, QPointF(fixed, edge)});
+        labels.push_back({field, drawn, QRectF(x + by.x, y - by.y, width, height), inPlace, std::nullopt,
+                          QPointF(fixed + by.x, edge - by.y)});
     };
     if (PlaceOf(beam, Field::LeftEnd) == nullptr) {
-        add(Field::LeftEnd, -1, beam.leftEnd, true, body.isReversed ? body.length : 0.0, true);
+        add(Field::LeftEnd, -1, beam.leftEnd, true, body.isReversed ? body.length : 0.0, true,
+            beam.leftEndBy);
     }
     if (PlaceOf(beam, Field::RightEnd) == nullptr) {
-        add(Field::RightEnd, -1, beam.rightEnd, true, body.isReversed ? 0.0 : body.length, true);
+        add(Field::RightEnd, -1, beam.rightEnd, true, body.isReversed ? 0.0 : body.length, true,
+            beam.rightEndBy);
     }
     for (const InPlace& text : beam.inPlace) {
         if (text.place.height > 0.0) {
@@ -335,7 +338,7 @@ std::vector<Label> TextsBeside(const Beam& beam, const BeamBody& body)
         const auto number = static_cast<std::size_t>(std::clamp(text.number - 1, 0, last));
         const double at = atSupport ? supports[number] : (supports[number] + supports[number + 1]) / 2.0;
         add(RowOf(text.role).field, static_cast<int>(&text - beam.inPlace.data()), text.text,
-            atSupport || text.role == Role::TopSpan, at, atSupport);
+            atSupport || text.role == Role::TopSpan, at, atSupport, text.movedBy);
     }
     return labels;
 }

@@ -21,6 +21,11 @@ struct Label {
 
     // Makes it so high if it is lower.
     void Grow(double height);
+    // It is one of the texts that lie together beside their beam.
+    [[nodiscard]] bool IsInBlock() const
+    {
+        return !turn && inPlace < 0 && field != Field::LeftEnd && field != Field::RightEnd;
+    }
     // From the text as it is read to where it is.
     [[nodiscard]] QTransform Turned() const;
     // The box with some room around it, turned.

@@ -132,10 +132,14 @@ int PlaceBlocks(const std::vector<OwnerItem*>& items)
     Ground ground;
     for (const OwnerItem* const item : items) {
         OccupyFixed(ground, *item);
+        if (item->IsDragged()) {
+            ground.Occupy(BlockRect(*item, item->Block()), OnText);
+        }
     }
     int covering = 0;
     for (OwnerItem* const item : items) {
-        covering += !item->BlockSize().isEmpty() && PlaceOne(ground, *item) ? 1 : 0;
+        const bool isToPlace = !item->IsDragged() && !item->BlockSize().isEmpty();
+        covering += isToPlace && PlaceOne(ground, *item) ? 1 : 0;
     }
     return covering;
 }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <unordered_set>
+#include <cstdint>
 
 namespace Desk {
 
@@ -96,36 +96,6 @@ bool IsSameLine(const Label& a, const Label& b)
            (a.turn.has_value() || std::abs(a.box.top() - b.box.top()) < a.box.height() / 2.0);
 }
 
-// The pieces of all owners in the order in which they are given room.
-struct Pieces {
-    std::vector<Piece> names;  // lines with them
-    std::vector<Piece> lines;  // the others of labels
-    std::vector<Piece> beside;
-    std::vector<QRectF> large;  // texts that are drawn as they are
-
-    void Add(OwnerItem& owner)
-    {
-        const std::vector<Label> labels = owner.Labels();
-        for (std::size_t i = 0; i < labels.size();) {
-            const std::size_t first = i++;
-            if (labels[first].text.isEmpty()) {
-                continue;
-            }
-            QRectF rect = RectOf(owner, labels[first]);
-            for (; i < labels.size() && IsSameLine(labels[first], labels[i]); ++i) {
-                rect |= labels[i].text.isEmpty() ? QRectF() : RectOf(owner, labels[i]);
-            }
-            if (!owner.IsSmall(labels[first])) {
-                large.push_back(rect);
-            } else if (IsBeside(labels[first])) {
-                beside.push_back({&owner, first, i, rect});
-            } else {
-                (labels[first].field == Field::Name ? names : lines).push_back({&owner, first, i, rect});
-            }
-        }
-    }
-};
-
 }  // namespace
 
 SmallTexts::SmallTexts()
@@ -134,25 +104,67 @@ SmallTexts::SmallTexts()
     setZValue(1.5);                        // above the lit beam
 }
 
+std::vector<SmallTexts::Ranked> SmallTexts::PiecesOf(OwnerItem& owner)
+{
+    std::vector<Ranked> pieces;
+    const std::vector<Label> labels = owner.Labels();
+    for (std::size_t i = 0; i < labels.size();) {
+        const std::size_t first = i++;
+        if (labels[first].text.isEmpty()) {
+            continue;
+        }
+        const QRectF alone = RectOf(owner, labels[first]);
+        QRectF rect = alone;
+        for (; i < labels.size() && IsSameLine(labels[first], labels[i]); ++i) {
+            rect |= labels[i].text.isEmpty() ? QRectF() : RectOf(owner, labels[i]);
+        }
+        const Rank rank = !owner.IsSmall(labels[first])        ? Rank::Large
+                          : IsBeside(labels[first])            ? Rank::Beside
+                          : labels[first].field == Field::Name ? Rank::Name
+                                                               : Rank::Line;
+        pieces.push_back({rank, {&owner, first, i, rect}, alone});
+    }
+    return pieces;
+}
+
 void SmallTexts::Choose(const std::vector<OwnerItem*>& owners, double height)
 {
-    prepareGeometryChange();
-    m_shown.clear();
-    Pieces pieces;
+    m_owners = owners;
+    m_height = height;
     bool anySmall = false;
     for (OwnerItem* const owner : owners) {
         owner->SetLeastHeight(height);
         anySmall = anySmall || owner->HasSmallTexts();
     }
-    if (anySmall) {
-        for (OwnerItem* const owner : owners) {
-            pieces.Add(*owner);
+    m_pieces.resize(anySmall ? owners.size() : 0);
+    for (std::size_t i = 0; i < m_pieces.size(); ++i) {
+        m_pieces[i] = PiecesOf(*owners[i]);
+    }
+    Arrange();
+}
+
+void SmallTexts::Renew(const std::vector<OwnerItem*>& changed)
+{
+    const auto isSmall = [](const OwnerItem* owner) { return owner->HasSmallTexts(); };
+    if (m_pieces.empty() && std::any_of(changed.begin(), changed.end(), isSmall)) {
+        Choose(std::vector(m_owners), m_height);
+        return;
+    }
+    for (OwnerItem* const owner : changed) {
+        const auto found = std::find(m_owners.begin(), m_owners.end(), owner);
+        if (const auto at = static_cast<std::size_t>(found - m_owners.begin()); at < m_pieces.size()) {
+            m_pieces[at] = PiecesOf(*owner);
         }
     }
-    Taken taken(CellHeights * height);
-    for (const QRectF& rect : pieces.large) {
-        taken.Take(rect);
-    }
+    Arrange();
+}
+
+void SmallTexts::Arrange()
+{
+    prepareGeometryChange();
+    m_shown.clear();
+    Taken taken(CellHeights * m_height);
+    std::vector<bool> ended(m_pieces.size());  // a line without those above it would seem another beam's
     const auto take = [&](const Piece& piece) {
         const bool isFree = taken.Take(piece.rect);
         if (isFree) {
@@ -160,23 +172,26 @@ void SmallTexts::Choose(const std::vector<OwnerItem*>& owners, double height)
         }
         return isFree;
     };
-    std::unordered_set<const OwnerItem*> ended;  // a line without those above it would seem another beam's
-    for (const Piece& piece : pieces.names) {
-        const bool isWhole = take(piece);
-        const std::size_t second = piece.first + 1;
-        if (!isWhole &&
-            (second == piece.last || !take({piece.owner, piece.first, second,
-                                            RectOf(*piece.owner, piece.owner->Labels()[piece.first])}))) {
-            ended.insert(piece.owner);
+    const auto place = [&](const Ranked& each, std::size_t owner) {
+        const Piece& piece = each.piece;
+        switch (each.rank) {
+        case Rank::Large: taken.Take(piece.rect); break;
+        case Rank::Name:
+            ended[owner] = !take(piece) && (piece.first + 1 == piece.last ||
+                                            !take({piece.owner, piece.first, piece.first + 1, each.alone}));
+            break;
+        case Rank::Line: ended[owner] = ended[owner] || !take(piece); break;
+        case Rank::Beside: take(piece); break;
         }
-    }
-    for (const Piece& piece : pieces.lines) {
-        if (!ended.contains(piece.owner) && !take(piece)) {
-            ended.insert(piece.owner);
+    };
+    for (const Rank rank : {Rank::Large, Rank::Name, Rank::Line, Rank::Beside}) {
+        for (std::size_t i = 0; i < m_pieces.size(); ++i) {
+            for (const Ranked& each : m_pieces[i]) {
+                if (each.rank == rank) {
+                    place(each, i);
+                }
+            }
         }
-    }
-    for (const Piece& piece : pieces.beside) {
-        take(piece);
     }
     m_all = QRectF();
     for (const Piece& piece : m_shown) {

@@ -24,6 +24,8 @@ public:
     // nothing.
     // Borrows the beams and walls, which are in the same scene, until it is called again.
     void Choose(const std::vector<OwnerItem*>& owners, double height);
+    // The same again after the texts of some of them changed.
+    void Renew(const std::vector<OwnerItem*>& changed);
     // An annotation that is drawn in any case, above the others; nothing for none.
     void SetLit(OwnerItem* owner, const std::optional<FieldRef>& ref);
 
@@ -43,9 +45,21 @@ public:
     [[nodiscard]] const std::vector<Piece>& Shown() const { return m_shown; }
 
 private:
+    // Where an owner's pieces are in the order in which they are given room.
+    enum class Rank { Name, Line, Beside, Large };
+    struct Ranked {
+        Rank rank;
+        Piece piece;
+        QRectF alone;  // around its first text, of a line with a name
+    };
+    static std::vector<Ranked> PiecesOf(OwnerItem& owner);
+    void Arrange();
     void PaintPiece(QPainter& painter, const Piece& piece) const;
     void FindLit();
 
+    std::vector<OwnerItem*> m_owners;
+    std::vector<std::vector<Ranked>> m_pieces;  // parallel to them; empty where all texts are large
+    double m_height = 0.0;
     std::vector<Piece> m_shown;
     Piece m_lit;  // empty where its text is none of the small ones
     std::optional<FieldRef> m_litRef;

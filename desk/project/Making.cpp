@@ -134,10 +134,22 @@ void Shift(Wall& wall, const PlanPoint& by)
     wall.end = Shifted(wall.end, by);
 }
 
+PlanPoint& DraggedTo(Beam& beam, const FieldRef& text)
+{
+    if (text.inPlace >= 0) {
+        InPlace& each = beam.inPlace.at(static_cast<std::size_t>(text.inPlace));
+        return each.place.height > 0.0 ? each.place.at : each.movedBy;
+    }
+    return text.field == Field::LeftEnd    ? beam.leftEndBy
+           : text.field == Field::RightEnd ? beam.rightEndBy
+                                           : beam.textsAt;
+}
+
 void TurnRound(Beam& beam, int spans)
 {
     std::swap(beam.start, beam.end);
     std::swap(beam.leftEnd, beam.rightEnd);
+    std::swap(beam.leftEndBy, beam.rightEndBy);
     std::swap(beam.area.leftEnd, beam.area.rightEnd);
     std::reverse(beam.spans.begin(), beam.spans.end());
     int count = beam.spans.empty() ? spans : static_cast<int>(beam.spans.size());

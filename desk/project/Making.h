@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "desk/project/Project.h"
+#include "desk/project/Fields.h"
 
 namespace Desk {
 
@@ -36,6 +36,10 @@ void SetEnds(Wall& wall, const PlanPoint& start, const PlanPoint& end);
 // Elsewhere, with the texts in place that have a position of their own.
 void Shift(Beam& beam, const PlanPoint& by);
 void Shift(Wall& wall, const PlanPoint& by);
+
+// What a drag of a text changes: the position of its block, or how far it is moved from where it would be;
+// of a text in place with a position of its own that position, on the plan.
+[[nodiscard]] PlanPoint& DraggedTo(Beam& beam, const FieldRef& text);
 
 // The end becomes the start, and with it all that is told from the start: bars and required areas at the
 // ends, spans, texts in place. The number of spans stands for spans that are not known.

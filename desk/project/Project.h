@@ -46,6 +46,7 @@ struct InPlace {
     TextPlace place;
     int drawn = -1;  // index in the texts of the drawing that it was read from
     InFile inFile;
+    PlanPoint movedBy = {};  // as for the texts at a beam's ends; of a text without a position of its own
 };
 
 // A beam with its annotation texts, in UTF-8; an empty text means that the beam has none.
@@ -67,8 +68,12 @@ struct Beam {
     SteelArea area;
     PlanPoint start;
     PlanPoint end;
-    std::vector<double> spans;      // lengths in mm from the start, one span at least; empty when not known
-    std::vector<InPlace> inPlace;   // in the order in which they were read
+    std::vector<double> spans;     // lengths in mm from the start, one span at least; empty when not known
+    std::vector<InPlace> inPlace;  // in the order in which they were read
+    // Where a person dragged its texts to, in mm as they are read: x along the beam from its middle, y up.
+    PlanPoint textsAt;    // upper left corner of its block of texts; 0, 0 for where there is room
+    PlanPoint leftEndBy;  // from where the text would be
+    PlanPoint rightEndBy;
     double drawnWidth = 0.0;        // of its outline in mm; 0 where no drawing tells
     int plan = 0;                   // of those side by side in its drawing, from 1; 0 without a drawing
     std::vector<TextPlace> places;  // of its texts, parallel to BeamFields(); empty without a drawing
@@ -83,6 +88,7 @@ struct Wall {
     std::string verticalBars;    // A10@150
     PlanPoint start;
     PlanPoint end;
+    PlanPoint textsAt;  // as a beam's
     InFile inFile;
 };
 

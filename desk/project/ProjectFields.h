@@ -47,8 +47,13 @@ inline constexpr DataField<SteelArea, int> AreaNumbers[] = {
 inline constexpr DataField<Beam, PlanPoint> BeamPoints[] = {
     {"start", &Beam::start, -PlanLimit, PlanLimit},
     {"end", &Beam::end, -PlanLimit, PlanLimit},
+    {"textsAt", &Beam::textsAt, -PlanLimit, PlanLimit},
+    {"leftEndBy", &Beam::leftEndBy, -PlanLimit, PlanLimit},
+    {"rightEndBy", &Beam::rightEndBy, -PlanLimit, PlanLimit},
 };
 inline constexpr DataField<Beam, double> BeamLengths[] = {{"drawnWidth", &Beam::drawnWidth, 0, PlanLimit}};
+inline constexpr DataField<InPlace, PlanPoint> InPlacePoints[] = {
+    {"movedBy", &InPlace::movedBy, -PlanLimit, PlanLimit}};
 inline constexpr DataField<TextPlace, PlanPoint> PlacePoints[] = {
     {"at", &TextPlace::at, -PlanLimit, PlanLimit}};
 inline constexpr DataField<TextPlace, double> PlaceNumbers[] = {
@@ -60,6 +65,7 @@ inline constexpr DataField<Wall, int> WallNumbers[] = {{"thickness", &Wall::thic
 inline constexpr DataField<Wall, PlanPoint> WallPoints[] = {
     {"start", &Wall::start, -PlanLimit, PlanLimit},
     {"end", &Wall::end, -PlanLimit, PlanLimit},
+    {"textsAt", &Wall::textsAt, -PlanLimit, PlanLimit},
 };
 
 // The number of a text in place: of a support, of which a beam has one more than spans, or of a span.

@@ -309,6 +309,7 @@ InPlace Reader::ReadItem(Json&& source, const Path& path) const
     if (const Json* const written = Member(source, "text")) {
         text.text = ReadText(*written, path / "text", true);
     }
+    ReadData(source, path, InPlacePoints, text);
     ReadData(source, path, PlacePoints, text.place);
     ReadData(source, path, PlaceNumbers, text.place);
     text.inFile = Keep(std::move(source));

@@ -85,6 +85,7 @@ Json Written(const InPlace& text)
     source["role"] = RowOf(text.role).key;
     WriteValue(text.number, NumberOf(text.role).key, {}, source);
     source["text"] = text.text;
+    WriteData(text, InPlacePoints, source);
     WriteData(text.place, PlacePoints, source);
     WriteData(text.place, PlaceNumbers, source);
     return source;

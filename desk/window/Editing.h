@@ -35,6 +35,8 @@ public:
     void Remove();
 
     void SetEnd(const FieldRef& owner, bool isStart, const PlanPoint& to);
+    // A text that was dragged, to a position as DraggedTo has it.
+    void MoveText(const FieldRef& ref, const PlanPoint& to);
     void SetData(const FieldRef& owner, Datum datum, const QString& text);
     // A text in place of the chosen beam, still empty, at a support or span that is asked for.
     void AddInPlace();

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "desk/project/Making.h"
 #include "desk/window/Ask.h"
 #include "desk/window/Editing.h"
 #include "desk/window/FieldNames.h"
@@ -107,6 +108,13 @@ void Editing::Clear()
         m_document.SetTexts(texts);
         emit Said(told);
     }
+}
+
+void Editing::MoveText(const FieldRef& ref, const PlanPoint& to)
+{
+    ChangeEach(
+        tr("Text of %1 moved"), {ref}, [&](Beam& beam) { DraggedTo(beam, ref) = to; },
+        [&](Wall& wall) { wall.textsAt = to; });
 }
 
 }  // namespace Desk

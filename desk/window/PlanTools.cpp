@@ -31,6 +31,7 @@ PlanTools::PlanTools(Document& document, FloorView& floor, Editing& editing)
         m_floor.SetHandles(m_document.From() == nullptr, true);
     });
     connect(&floor, &FloorView::EndDragged, &editing, &Editing::SetEnd);
+    connect(&floor, &FloorView::TextDragged, &editing, &Editing::MoveText);
 }
 
 void PlanTools::Start(Tool tool)

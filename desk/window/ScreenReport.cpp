@@ -141,6 +141,9 @@ QJsonObject ScreenReport(MainWindow& window)
                      {"annotations", Annotations(window)},
                      {"panel", PanelControls(window.Display(), window.Panels().Window())},
                      {"panelZoom", window.Display().Zoom()}};
+    // Where the plan's origin is on the screen, and pixels a mm.
+    const QPoint origin = window.Drawing().OnScreen(PlanPoint());
+    told["plan"] = QJsonArray{origin.x(), origin.y(), window.Drawing().transform().m11()};
     if (const std::optional<FieldRef>& chosen = window.Chosen()) {
         told["chosen"] = QJsonObject{{"wall", chosen->isWall},
                                      {"index", static_cast<qint64>(chosen->index)},
