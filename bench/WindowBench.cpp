@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "desk/plan/FloorView.h"
 #include "desk/project/Encoding.h"
 #include "desk/project/Generate.h"
 #include "desk/project/ProjectFile.h"
@@ -75,6 +76,39 @@ void MeasureClicks(const char* name, const std::vector<FieldRef>& refs, Click cl
               << worst << " at worst (" << RowOf(worstRef->field).key << ")\n";
 }
 
+// Of the plan alone: which small texts have room is found anew, then what a pointer is on.
+void MeasurePlan(Project project)
+{
+    FloorView plan;
+    plan.resize(900, 700);
+    plan.SetProject(&project);
+    plan.show();
+    plan.grab();
+    const auto point = [&plan] {
+        QMouseEvent move(QEvent::MouseMove, QPointF(450, 350), QPointF(450, 350), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(plan.viewport(), &move);
+    };
+    constexpr int Steps = 8;
+    Timer timer;
+    for (int i = 0; i < Steps; ++i) {
+        plan.ZoomBy(i % 2 == 0 ? 1.25 : 0.8);
+        point();
+    }
+    std::cout << "  on the plan: a step of zoom " << timer.Milliseconds() / Steps << " ms, ";
+    timer = Timer();
+    for (std::size_t i = 0; i < Steps; ++i) {
+        const FieldRef ref{false, i * (project.beams.size() - 1) / Steps, Field::BottomBars};
+        TextAt(project, ref) = "12B25 6/6";
+        plan.Refresh(ref);
+        point();
+    }
+    std::cout << "a changed text " << timer.Milliseconds() / Steps << " ms, ";
+    timer = Timer();
+    plan.grab();
+    std::cout << "a redraw " << timer.Milliseconds() << " ms\n";
+}
+
 // What the beams beside have, so that every list changes a little.
 std::string OtherText(const Project& project, const FieldRef& ref)
 {
@@ -95,6 +129,7 @@ void Measure(const char* name, const Project& project, const QString& file)
     window.grab();
     std::cout << name << ": " << project.beams.size() << " beams; window to first drawn floor "
               << timer.Milliseconds() << " ms\n";
+    MeasurePlan(project);
     const std::vector<FieldRef> refs = SpreadRefs(project);
     const auto click = [&window](const FieldRef& ref) { window.Choose(ref); };
     MeasureClicks("click to ranked list", refs, click);

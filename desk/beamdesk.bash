@@ -31,7 +31,7 @@ _beamdesk() {
                              --json" ;;
       generate) words="--seed --output --force" ;;
       window) words="--project --report" ;;
-      shot) words="--project --scale --dark --chinese" ;;
+      shot) words="--project --width --height --scale --dark --chinese" ;;
     esac
     words+=" --help"
   fi

@@ -20,6 +20,12 @@ void AddShotCommand(CLI::App& program)
         ->type_name("")
         ->required();
     AddProjectOption(command, options->project);
+    command.add_option("--width", options->width, "Width of the window in pixels")
+        ->check(Whole(640, 4000))
+        ->capture_default_str();
+    command.add_option("--height", options->height, "Height of the window in pixels")
+        ->check(Whole(420, 4000))
+        ->capture_default_str();
     command.add_option("--scale", options->scale, "Device pixels per pixel")
         ->check(Decimal(1, 4))
         ->capture_default_str();

@@ -119,7 +119,7 @@ void TakeShots(const std::string& folder, const ShotOptions& options)
     MainWindow window(display);
     window.SetAppearance(options.dark ? Appearance::Dark : Appearance::Light);
     window.SetLanguage(options.chinese ? Language::Chinese : Language::English);
-    window.resize(1440, 900);
+    window.resize(options.width, options.height);
     window.show();
     if (options.project.empty()) {
         window.Files().OpenSample();

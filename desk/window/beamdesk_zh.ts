@@ -1498,10 +1498,6 @@
         <translation>对该标注打开面板</translation>
     </message>
     <message>
-        <source>right button</source>
-        <translation>右键</translation>
-    </message>
-    <message>
         <source>chooses it too, and offers what can be done with it</source>
         <translation>同样选中，并列出可用的命令</translation>
     </message>
@@ -1969,6 +1965,10 @@
         <source>cancelled</source>
         <translation>已取消</translation>
     </message>
+    <message>
+        <source>right button</source>
+        <translation>右键</translation>
+    </message>
 </context>
 <context>
     <name>Desk::ChoiceBox</name>
@@ -2197,6 +2197,10 @@ In the drawing 1 to 3 take a proposal and 0 the whole beam&apos;s; Enter, Ctrl+T
     <message>
         <source>%1: no text already</source>
         <translation>%1：本来就没有标注</translation>
+    </message>
+    <message>
+        <source>Text of %1 moved</source>
+        <translation>%1 的注写已移动</translation>
     </message>
 </context>
 <context>

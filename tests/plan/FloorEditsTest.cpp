@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "desk/project/Making.h"
 #include "desk/project/ProjectFile.h"
 #include "tests/plan/View.h"
 #include "tests/support/Made.h"
@@ -107,6 +108,58 @@ TEST(FloorEdits, AnEndIsDraggedByItsHandle)
     view.SetHandles(false, true);
     drag({8000, 0}, {15900, 100});
     EXPECT_FALSE(view.dragged);
+}
+
+// However the beam lies, the text is where it was let go, and there again in a plan of the saved project.
+TEST(FloorEdits, ATextIsDraggedWithItsBlockOrAlone)
+{
+    Project project;
+    project.beams = {MadeBeam("KL1(1)", {0, 0}, {8000, 0}), MadeBeam("KL2(1)", {12000, 8000}, {12000, 0}),
+                     MadeBeam("KL3(1)", {8000, 9000}, {0, 12000})};
+    for (Beam& beam : project.beams) {
+        beam.section = "300x600";
+        beam.leftEnd = "4B22";
+        beam.inPlace = {{Role::Bottom, 1, "3B25", {}, -1, nullptr},
+                        {Role::TopSpan, 1, "2B20", {{4000, 4000}, 30.0, 300.0}, -1, nullptr}};
+    }
+    project.walls = {{"Q1", 200, "A10@150", "A10@150", {0, 15000}, {8000, 15000}, {}, nullptr}};
+    const auto drag = [](View& view, const FieldRef& ref, const QPoint& by) {
+        view.text.reset();
+        const QPoint from = view.Middle(ref);
+        QTest::mousePress(view.viewport(), Qt::LeftButton, {}, from);
+        QTest::mouseMove(view.viewport(), from + by / 2);
+        QTest::mouseMove(view.viewport(), from + by);
+        QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, from + by);
+    };
+    const QPoint by(70, -50);
+    std::vector<FieldRef> refs = {{true, 0, Field::HorizontalBars}};
+    for (std::size_t beam = 0; beam < project.beams.size(); ++beam) {
+        for (const FieldRef& ref : {FieldRef{false, beam, Field::Section},
+                                    {false, beam, Field::LeftEnd},
+                                    {false, beam, Field::BottomBars, 0},
+                                    {false, beam, Field::TopBars, 1}}) {
+            refs.push_back(ref);
+        }
+    }
+    for (const FieldRef& ref : refs) {
+        SCOPED_TRACE(std::string(RowOf(ref.field).key) + ' ' + std::to_string(ref.index));
+        View view(project);
+        drag(view, ref, by);
+        EXPECT_FALSE(view.text) << "a drawing's texts stay";
+        view.SetHandles(true, true);
+        drag(view, ref, {1, 0});
+        EXPECT_FALSE(view.text) << "a press alone";
+        const QPoint before = view.Middle(ref);
+        drag(view, ref, by);
+        ASSERT_TRUE(view.text);
+        EXPECT_EQ(view.text->first, ref);
+        Project moved = project;
+        (ref.isWall ? moved.walls[0].textsAt : DraggedTo(moved.beams[ref.index], ref)) = view.text->second;
+        const Project saved = ParseProject(FormatProject(moved), "moved");
+        View again(saved);
+        const QPointF off = again.mapToScene(again.Middle(ref)) - view.mapToScene(before + by);
+        EXPECT_LE(view.transform().m11() * off.manhattanLength(), 4.0) << "pixels";
+    }
 }
 
 }  // namespace

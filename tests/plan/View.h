@@ -40,6 +40,9 @@ struct View : FloorView {
         connect(this, &FloorView::EndDragged, [this](const FieldRef& ref, bool start, const PlanPoint& to) {
             dragged = {ref, start, to};
         });
+        connect(this, &FloorView::TextDragged, [this](const FieldRef& ref, const PlanPoint& to) {
+            text = {ref, to};
+        });
     }
     [[nodiscard]] QPoint Middle(const FieldRef& ref) const
     {
@@ -56,6 +59,7 @@ struct View : FloorView {
     std::optional<FieldRef> panel;
     std::optional<std::size_t> mark;
     std::optional<std::tuple<FieldRef, bool, PlanPoint>> dragged;
+    std::optional<std::pair<FieldRef, PlanPoint>> text;  // that was dragged
 };
 
 }  // namespace Desk

@@ -191,6 +191,15 @@ TEST_F(WindowMakingTest, BeamsAreMovedCopiedTurnedAndDeleted)
     EXPECT_EQ(Now().beams[0].start.y, 6000);
     Trigger("undo");
     EXPECT_EQ(Now().beams[0].start.y, 0);
+    // Its texts.
+    const QPoint name = view.mapFromGlobal(window.Drawing().OnScreen({false, 0, Field::Name}).center());
+    QTest::mousePress(&view, Qt::LeftButton, {}, name);
+    QTest::mouseMove(&view, name + QPoint(40, 30));
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, name + QPoint(40, 30));
+    EXPECT_NE(Now().beams[0].textsAt.x, 0);
+    EXPECT_EQ(window.statusBar()->currentMessage(), "Text of " + QString::fromStdString(first) + " moved");
+    Trigger("undo");
+    EXPECT_EQ(Now().beams[0].textsAt.x, 0);
 }
 
 TEST_F(WindowMakingTest, DataAndTextsInPlaceAreEditedToo)
