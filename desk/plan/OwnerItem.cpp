@@ -32,7 +32,9 @@ void OwnerItem::Measure()
     for (const Label& label : LabelsAsTheyAre()) {
         m_bounds |= label.Outline().boundingRect();
     }
-    m_bounds.adjust(-FieldLeader, 0, 0, 0);
+    if (!m_block.empty()) {
+        m_bounds.adjust(-FieldLeader * m_block.front().box.height() / TextHeight, 0, 0, 0);
+    }
 }
 
 void OwnerItem::Take(const Project& project)

@@ -7,7 +7,7 @@ namespace Desk {
 
 struct ShotOptions {
     std::string project;  // empty for the sample
-    int width = 1440;  // of the window, in pixels at scale 1
+    int width = 1440;     // of the window, in pixels at scale 1
     int height = 900;
     double scale = 1.0;
     bool dark = false;

@@ -136,7 +136,7 @@ protected:
     {
         const auto pixel = [this](double at) { return std::to_string(static_cast<int>(at * m_scale)); };
         Shell("xdotool mousemove --sync " + pixel(x) + " " + pixel(y) + " click " + std::to_string(button));
-        ++m_clicks;
+        m_clicks += button <= 3 ? 1 : 0;  // not the wheel
     }
     // Names of keys with a blank between; a combination counts as the keys that it takes.
     void Keys(const std::string& keys)
@@ -207,6 +207,17 @@ protected:
         WaitFor("the save", [](const json& report) { return report["changed"] == false; });
     }
 
+    // Small texts are not all drawn: turns the wheel over one until it is.
+    void Enlarge(const FieldRef& ref)
+    {
+        constexpr double Drawn = 12.0;  // pixels
+        json place = PlaceOf(Settled(), ref);
+        for (int i = 0; i < 20 && std::min(place.at(2).get<double>(), place.at(3).get<double>()) < Drawn;
+             ++i) {
+            ClickAt(place[0].get<double>(), place[1].get<double>(), 4);
+            place = PlaceOf(Settled(), ref);
+        }
+    }
     // Presses an annotation in the drawing.
     void Choose(const FieldRef& ref)
     {

@@ -103,6 +103,7 @@ TEST_F(Session, ADrawingIsEditedInItsFile)
     ReplaceFile(m_file, FormatDrawing(SampleProject()));
     const std::vector<std::string> before = lines();
     Start();
+    Enlarge(Top);
     Choose(Top);
     TakeCandidate("2B25");
     Save();

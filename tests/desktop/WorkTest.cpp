@@ -20,14 +20,15 @@ protected:
     static std::vector<std::string> Rows(const json& report, const char* list)
     {
         std::vector<std::string> texts;
-        for (const json& row : report["widgets"][list]["rows"]) {
+        const json widget = report["widgets"].value(list, json::object());  // none while it is hidden
+        for (const json& row : widget.value("rows", json::array())) {
             texts.push_back(row["text"]);
         }
         return texts;
     }
     [[nodiscard]] static FieldRef ChosenIn(const json& report)
     {
-        const json& chosen = report["chosen"];
+        const json& chosen = report.at("chosen");
         return {chosen["wall"], chosen["index"], static_cast<Field>(chosen["field"].get<int>()),
                 chosen["inPlace"]};
     }
@@ -108,8 +109,9 @@ TEST_F(Work, AnEmptyFloorGetsTenBeamsWithAllTexts)
         const std::size_t before = now["annotations"].size();
         WaitFor("the text", [&](const json& report) {
             now = report;
-            return now["annotations"].size() > before;
+            return now["annotations"].size() > before && now.contains("chosen");
         });
+        ASSERT_FALSE(HasFatalFailure());
     }
     Tell("ten new beams with all texts");
 
@@ -164,7 +166,8 @@ TEST_F(Work, TenBeamsAreChangedAtOnceAndChangedBack)
     const Project sample = SampleProject();
     std::vector<FieldRef> refs;
     std::vector<json> places;
-    for (const json& each : Settled()["annotations"]) {
+    const json shown = Settled();
+    for (const json& each : shown["annotations"]) {
         const FieldRef ref = {each["wall"], each["index"], static_cast<Field>(each["field"].get<int>()),
                               each["inPlace"]};
         if (!ref.isWall && ref.field == Field::BottomBars && ref.inPlace < 0 && refs.size() < 10) {
@@ -183,7 +186,8 @@ TEST_F(Work, TenBeamsAreChangedAtOnceAndChangedBack)
     Shell("xdotool keyup ctrl");
     std::string given;
     json row;
-    for (const json& each : Settled()["widgets"]["desk/choices"]["rows"]) {
+    const json offered = Settled();
+    for (const json& each : offered["widgets"]["desk/choices"]["rows"]) {
         const std::string text = each["text"];
         const bool isBars = text.size() == 4 && text[1] == 'B';
         const bool isNew = std::none_of(refs.begin(), refs.end(),
@@ -231,8 +235,7 @@ TEST_F(Work, ProblemsAreFoundByAKeyAndMended)
                Shown(report, count) != "No problems";
     });
     CountFromHere();
-    int mended = 0;
-    while (Shown(Report(), count) != "No problems" && mended < 60) {
+    for (int i = 0; i < 60 && Shown(Report(), count) != "No problems" && !HasFatalFailure(); ++i) {
         const json before = Report();
         Keys("F8");
         WaitFor("the next problem", [&](const json& report) {
@@ -241,6 +244,11 @@ TEST_F(Work, ProblemsAreFoundByAKeyAndMended)
         const json now = Settled();
         const FieldRef ref = ChosenIn(now);
         const std::string wanted = TextAt(sample, ref);
+        const json& all = now["annotations"];
+        if (std::any_of(all.begin(), all.end(),
+                        [&](const json& each) { return IsOf(each, ref) && each["text"] == wanted; })) {
+            continue;  // stirrups too far apart for thin bars: the bars are what is wrong
+        }
         const std::vector<std::string> proposed = Rows(now, "desk/proposals");
         const auto at = std::find(proposed.begin(), proposed.end(), wanted);
         const auto digit = at - proposed.begin() + 1;
@@ -253,7 +261,6 @@ TEST_F(Work, ProblemsAreFoundByAKeyAndMended)
         }
         WaitFor("the mended text",
                 [&](const json& report) { return Shown(report, count) != Shown(now, count); });
-        ++mended;
     }
     Tell("problems of 20 planted errors found and mended");
     Save();
@@ -275,6 +282,7 @@ TEST_F(Work, ADrawingIsOpenedEditedAndReopened)
     const FieldRef top{false, 0, Field::TopBars};
     const FieldRef stirrup{false, 0, Field::Stirrup};
     const std::string before = Saved(stirrup);
+    Enlarge(top);
     CountFromHere();
     Choose(top);
     TakeCandidate("2B25");
@@ -292,7 +300,8 @@ TEST_F(Work, ADrawingIsOpenedEditedAndReopened)
     EXPECT_EQ(Saved(top), "2B25");
     EXPECT_EQ(Saved(stirrup), before);
     Start();
-    for (const json& each : Settled()["annotations"]) {
+    const json shown = Settled();
+    for (const json& each : shown["annotations"]) {
         if (IsOf(each, top)) {
             EXPECT_EQ(each["text"], "2B25");
         }

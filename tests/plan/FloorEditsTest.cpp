@@ -119,8 +119,9 @@ TEST(FloorEdits, ATextIsDraggedWithItsBlockOrAlone)
     for (Beam& beam : project.beams) {
         beam.section = "300x600";
         beam.leftEnd = "4B22";
-        beam.inPlace = {{Role::Bottom, 1, "3B25", {}, -1, nullptr},
-                        {Role::TopSpan, 1, "2B20", {{4000, 4000}, 30.0, 300.0}, -1, nullptr}};
+        beam.inPlace = {
+            {Role::Bottom, 1, "3B25", {}, -1, nullptr},
+            {Role::TopSpan, 1, "2B20", {{15000.0, beam.start.y / 2.0}, 30.0, 300.0}, -1, nullptr}};
     }
     project.walls = {{"Q1", 200, "A10@150", "A10@150", {0, 15000}, {8000, 15000}, {}, nullptr}};
     const auto drag = [](View& view, const FieldRef& ref, const QPoint& by) {
