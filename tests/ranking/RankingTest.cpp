@@ -253,7 +253,7 @@ TEST(Question, OfATextInPlaceGoesByItsSpanOrSupport)
 TEST(Choices, CarryTheHeadThatTheFieldIsWrittenWith)
 {
     Project project = Small();
-    project.walls.push_back({"Q1", 200, "A10@150", "", {}, {}, {}});
+    project.walls.push_back({"Q1", 200, "A10@150", "", {}, {}, {}, nullptr});
     const auto first = [&project](Field field, bool isWall = false) {
         const Ranking ranking = ChoicesFor(project, {isWall, 0, field}, false);
         return ranking.candidates.empty() ? std::string("none")
