@@ -198,7 +198,7 @@ def add_texts(handle: c_void_p, texts: Iterable[str]) -> None:
     if isinstance(texts, str):
         raise TypeError("texts are given as a list of texts, not as one text")
     given = list(texts)
-    block = "".join([text + "\0" for text in given])
+    block = "\0".join(given) + "\0" if given else ""
     if block.count("\0") != len(given):
         raise BadText("a text holds a zero character")
     call("rk_list_add_block", handle, block)
