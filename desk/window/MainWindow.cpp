@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <type_traits>
 
 #include "desk/window/FieldNames.h"
 #include "desk/window/Folders.h"
@@ -90,22 +91,19 @@ void MainWindow::AddSettings()
 
 void MainWindow::ConnectParts()
 {
-    connect(m_selection, &Selection::Said, statusBar(),
-            [this](const QString& text) { statusBar()->showMessage(text); });
-    connect(m_openTexts, &OpenTexts::Said, statusBar(),
-            [this](const QString& text) { statusBar()->showMessage(text); });
+    const auto show = [this](auto* part) {
+        connect(part, &std::remove_pointer_t<decltype(part)>::Said, statusBar(),
+                [this](const QString& text) { statusBar()->showMessage(text); });
+    };
+    show(m_selection);
+    show(m_openTexts);
+    show(m_problems);
+    show(m_editing);
+    show(m_tools);
+    show(m_exchanges);
+    show(m_files);
     connect(m_problems, &Problems::Picked, m_selection, &Selection::Choose);
-    connect(m_problems, &Problems::Said, statusBar(),
-            [this](const QString& text) { statusBar()->showMessage(text); });
-    connect(m_editing, &Editing::Said, statusBar(),
-            [this](const QString& text) { statusBar()->showMessage(text); });
-    connect(m_tools, &PlanTools::Said, statusBar(),
-            [this](const QString& text) { statusBar()->showMessage(text); });
-    connect(m_exchanges, &ImportExport::Said, statusBar(),
-            [this](const QString& text) { statusBar()->showMessage(text); });
     connect(m_docks, &Docks::DataEdited, m_editing, &Editing::SetData);
-    connect(m_files, &ProjectFiles::Said, statusBar(),
-            [this](const QString& text) { statusBar()->showMessage(text); });
     connect(m_search, &SearchLine::Asked, this, [this] {
         m_floor->setFocus();  // where a character typed begins to narrow the texts
         m_selection->Find(m_search->Wanted(), 1);
@@ -165,70 +163,6 @@ void MainWindow::SetLanguage(Language language)
     m_counts->setToolTip(tr("The beams and walls of the project"));
     statusBar()->setAccessibleName(tr("Status line"));
     ShowTitle();
-}
-
-// A character typed in the drawing takes a proposal or begins to narrow the texts.
-void MainWindow::keyPressEvent(QKeyEvent* event)
-{
-    if (m_search->hasFocus()) {  // what it has no use for is for nobody else
-        if (event->key() == Qt::Key_Escape) {
-            m_floor->setFocus();
-        }
-        return;
-    }
-    if (m_tools->TakeKey(*event)) {
-        return;
-    }
-    const QString text = event->text();
-    const bool plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
-    if (plain && text == QLatin1String(" ")) {
-        m_selection->GoOn();
-    } else if (Chosen() && plain && !text.isEmpty() && text.front().isPrint()) {
-        m_docks->StartTyping(text);
-    } else if (Chosen() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
-        m_docks->StartTyping();
-    } else if (event->key() == Qt::Key_Escape && m_floor->IsPointing()) {
-        m_openTexts->EndPointing();
-    } else if (event->key() == Qt::Key_Escape) {
-        if (!event->isAutoRepeat()) {  // the key may still be down from leaving a panel
-            Choose(std::nullopt);
-        }
-    } else {
-        QMainWindow::keyPressEvent(event);
-    }
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent* event)
-{
-    event->setAccepted(!ProjectFiles::Dragged(*event->mimeData()).isEmpty());
-}
-
-void MainWindow::dropEvent(QDropEvent* event)
-{
-    event->acceptProposedAction();
-    m_files->OpenSoon(ProjectFiles::Dragged(*event->mimeData()));
-}
-
-// Back from another program, which may have written the file.
-void MainWindow::changeEvent(QEvent* event)
-{
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
-        QMetaObject::invokeMethod(m_files, &ProjectFiles::LookAtFile, Qt::QueuedConnection);
-    }
-}
-
-void MainWindow::closeEvent(QCloseEvent* event)
-{
-    if (!m_files->MayLeave()) {
-        event->ignore();
-        return;
-    }
-    m_panels.Close();
-    m_document.DropRecoveryCopy();
-    m_settings.setValue("geometry", saveGeometry());
-    m_settings.setValue("state", saveState());
-    event->accept();
 }
 
 }  // namespace Desk
